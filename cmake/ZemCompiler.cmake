@@ -1,0 +1,22 @@
+# SPDX-FileCopyrightText: 2026 The zemkit developers
+# SPDX-License-Identifier: MIT
+
+# Compiler settings of every target of this tree; none of them reaches a host that links the library.
+
+add_compile_definitions(
+    QT_DISABLE_DEPRECATED_BEFORE=0x060000
+    QT_NO_KEYWORDS)
+
+add_compile_options(
+    -Wall -Wextra -Wpedantic
+    -Wcast-align -Wcast-qual -Wformat=2 -Wimplicit-fallthrough
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wshadow -Wunused)
+
+if(ZEMKIT_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+
+if(ZEMKIT_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The zemkit developers
+# SPDX-License-Identifier: MIT
+
+set(ZEMKIT_FORWARDING_DIR "${PROJECT_BINARY_DIR}/include/zemkit")
+
+# zem_add_classes(<file>... )
+#   Adds <file>.h and <file>.cpp of the current folder to the library, installs the header and makes
+#   a forwarding header for each class. An entry is the class name, whose file is its name in lower
+#   case, or "file:Class,Class" for a family that shares a file.
+function(zem_add_classes)
+    foreach(entry IN LISTS ARGN)
+        if(entry MATCHES "^([^:]+):(.+)$")
+            set(file "${CMAKE_MATCH_1}")
+            string(REPLACE "," ";" classes "${CMAKE_MATCH_2}")
+        else()
+            string(TOLOWER "${entry}" file)
+            set(classes "${entry}")
+        endif()
+        target_sources(zemkit PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${file}.h")
+        if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${file}.cpp")
+            target_sources(zemkit PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${file}.cpp")
+        endif()
+        set_property(TARGET zemkit APPEND PROPERTY ZEM_HEADERS "${CMAKE_CURRENT_SOURCE_DIR}/${file}.h")
+        foreach(class IN LISTS classes)
+            file(CONFIGURE OUTPUT "${ZEMKIT_FORWARDING_DIR}/${class}" CONTENT "#include \"${file}.h\"\n")
+            set_property(TARGET zemkit APPEND PROPERTY ZEM_FORWARDERS "${class}")
+        endforeach()
+    endforeach()
+    target_include_directories(zemkit PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
+endfunction()
+
+# zem_add_helpers(<name>...)
+#   Adds the library's own helpers <name>_p.h and, where there is one, <name>_p.cpp or <name>.cpp.
+function(zem_add_helpers)
+    foreach(name IN LISTS ARGN)
+        target_sources(zemkit PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${name}_p.h")
+        foreach(source IN ITEMS "${name}_p.cpp" "${name}.cpp")
+            if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${source}")
+                target_sources(zemkit PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${source}")
+            endif()
+        endforeach()
+    endforeach()
+endfunction()
+
+# zem_finish_headers()
+#   Writes <Zemkit>, which includes every public header, and installs headers and forwarders.
+function(zem_finish_headers)
+    get_target_property(headers zemkit ZEM_HEADERS)
+    get_target_property(forwarders zemkit ZEM_FORWARDERS)
+    list(SORT forwarders)
+    set(all "")
+    foreach(class IN LISTS forwarders)
+        string(APPEND all "#include <${class}>\n")
+    endforeach()
+    file(CONFIGURE OUTPUT "${ZEMKIT_FORWARDING_DIR}/Zemkit" CONTENT "${all}")
+
+    set(destination "${CMAKE_INSTALL_INCLUDEDIR}/zemkit")
+    install(FILES ${headers} DESTINATION "${destination}" COMPONENT Development)
+    foreach(class IN LISTS forwarders ITEMS Zemkit)
+        install(FILES "${ZEMKIT_FORWARDING_DIR}/${class}" DESTINATION "${destination}" COMPONENT Development)
+    endforeach()
+endfunction()

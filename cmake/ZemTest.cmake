@@ -1,0 +1,23 @@
+# SPDX-FileCopyrightText: 2026 The zemkit developers
+# SPDX-License-Identifier: MIT
+
+find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+
+set(ZEM_TEST_RUNTIME_DIR "${PROJECT_BINARY_DIR}/tests/runtime")
+file(MAKE_DIRECTORY "${ZEM_TEST_RUNTIME_DIR}")
+file(CHMOD "${ZEM_TEST_RUNTIME_DIR}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
+# zem_add_test(<name> SUBSYSTEM <label> [SOURCES <file>...] [LIBRARIES <target>...])
+#   One QTest program from <name>.cpp, linked with the library and the test support. A warning that
+#   the test does not expect makes it fail.
+function(zem_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "SUBSYSTEM" "SOURCES;LIBRARIES")
+    add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE zem_test_support Zemkit::Zemkit Qt5::Test ${arg_LIBRARIES})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${arg_SUBSYSTEM}"
+        TIMEOUT 300
+        FAIL_REGULAR_EXPRESSION "QWARN|QSYSTEM|QCRITICAL"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${ZEM_TEST_RUNTIME_DIR};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+endfunction()
