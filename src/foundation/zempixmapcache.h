@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMPIXMAPCACHE_H
+#define ZEMPIXMAPCACHE_H
+
+#include "zemkit_export.h"
+
+#include <QObject>
+#include <QString>
+
+class QPixmap;
+
+/**
+ * Loads pictures through Qt's global QPixmapCache, so that many widgets with the same picture share
+ * one copy and read the file once. A service for hosts.
+ */
+class ZEM_EXPORT ZEMPixmapCache : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ZEMPixmapCache(QObject *parent = nullptr);
+    ~ZEMPixmapCache() override;
+
+    /**
+     * Takes the picture of @p path from the cache, or reads it and puts it there; the path is the
+     * key. A picture that cannot be read leaves @p pixmap null and is offered to the cache all the
+     * same. Returns whether the picture was found or the cache took it, which says nothing of
+     * whether it could be read.
+     */
+    static bool load(QPixmap &pixmap, const QString &path);
+
+    /** Sets the limit of the global cache in kilobytes, for the host's own pictures too. */
+    static void setCacheLimit(int limit);
+};
+
+#endif

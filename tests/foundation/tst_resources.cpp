@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include <ZEMUtils>
+
+#include <QDirIterator>
+#include <QImage>
+#include <QResource>
+#include <QSet>
+#include <QTest>
+
+struct Picture
+{
+    const char *path;
+    int width;
+    int height;
+};
+
+static const Picture pictures[] = {
+    {":/zem/graphics/gwe/icons/gwe_btn_act.png", 47, 40},
+    {":/zem/graphics/gwe/icons/gwe_btn_ina.png", 47, 40},
+    {":/zem/graphics/gwe/icons/icon_bg_16x16.png", 16, 16},
+    {":/zem/graphics/gwe/icons/icon_bg_25x25.png", 25, 25},
+    {":/zem/graphics/gwe/icons/icon_ci_12x16.png", 12, 16},
+    {":/zem/graphics/gwe/icons/icon_ci_15x20.png", 15, 20},
+    {":/zem/graphics/gwe/icons/icon_el_12x16.png", 12, 16},
+    {":/zem/graphics/gwe/icons/icon_el_15x20.png", 15, 20},
+    {":/zem/graphics/gwe/icons/icon_fi_12x16.png", 12, 16},
+    {":/zem/graphics/gwe/icons/icon_fi_15x20.png", 15, 20},
+    {":/zem/graphics/gwe/icons/icon_sp_12x16.png", 12, 16},
+    {":/zem/graphics/gwe/icons/icon_sp_15x20.png", 15, 20},
+    {":/zem/graphics/gwe/icons/icon_wa_12x16.png", 12, 16},
+    {":/zem/graphics/gwe/icons/icon_wa_15x20.png", 15, 20},
+    {":/zem/graphics/main/active_overview_bg.png", 493, 242},
+    {":/zem/graphics/main/tab_bg.png", 59, 38},
+    {":/zem/graphics/main/tab_overview_bg.png", 493, 216},
+    {":/zem/graphics/main/tab_selected_bg.png", 59, 38},
+    {":/zem/graphics/main/text_bg_medium.png", 127, 27},
+    {":/zem/graphics/main/text_bg_small_medium.png", 77, 27},
+    {":/zem/graphics/main/buttons/btn_rect_med.png", 322, 152},
+    {":/zem/graphics/main/buttons/btn_rect_med_disabled.png", 322, 152},
+    {":/zem/graphics/main/buttons/btn_rect_small.png", 152, 75},
+    {":/zem/graphics/main/buttons/btn_rect_xs_small.png", 100, 50},
+    {":/zem/graphics/main/buttons/btn_rect_xs_small_disabled.png", 100, 50},
+    {":/zem/graphics/main/buttons/btn_rect_xs_wide.png", 233, 50},
+    {":/zem/graphics/main/buttons/btn_rect_xs_wide_disabled.png", 233, 50},
+    {":/zem/graphics/main/buttons/btn_square_small.png", 75, 75},
+    {":/zem/graphics/main/buttons/btn_square_small_disabled.png", 75, 75},
+    {":/zem/graphics/main/buttons/doel_instellingen_btn_act.png", 492, 50},
+    {":/zem/graphics/main/buttons/popup_btn.png", 272, 62},
+    {":/zem/graphics/main/buttons/radio_btn_bg.png", 13, 12},
+    {":/zem/graphics/main/buttons/radio_btn_selected.png", 6, 6},
+    {":/zem/graphics/main/buttons/selector_btn.png", 71, 50},
+    {":/zem/graphics/icons/arrow_left.png", 8, 15},
+    {":/zem/graphics/icons/arrow_left_small.png", 5, 10},
+    {":/zem/graphics/icons/arrow_right.png", 8, 15},
+    {":/zem/graphics/icons/arrow_right_small.png", 5, 10},
+    {":/zem/graphics/icons/check.png", 28, 25},
+    {":/zem/graphics/icons/check_disabled.png", 28, 25},
+    {":/zem/graphics/icons/green-ok-icon.png", 50, 50},
+    {":/zem/graphics/icons/green-ok-icon_small.png", 30, 30},
+    {":/zem/graphics/icons/icon_pencil.png", 25, 25},
+    {":/zem/graphics/icons/icons_03.png", 45, 64},
+    {":/zem/graphics/icons/icons_11.png", 56, 56},
+    {":/zem/graphics/icons/icons_14.png", 64, 64},
+    {":/zem/graphics/icons/red-close-icon.png", 50, 50},
+    {":/zem/graphics/icons/star_empty_icon.png", 43, 39},
+    {":/zem/graphics/icons/star_empty_icon_small.png", 22, 20},
+    {":/zem/graphics/icons/star_icon.png", 43, 39},
+    {":/zem/graphics/icons/star_icon_small.png", 22, 20},
+    {":/zem/graphics/icons/throbber.png", 384, 32},
+    {":/zem/graphics/header/header_bg.png", 640, 68},
+    {":/zem/graphics/header/header_btn_bg.png", 54, 54},
+    {":/zem/graphics/header/header_num_bg_03.png", 22, 22},
+    {":/tango/graphics/tango/actions/go-down-icon.png", 30, 30},
+    {":/tango/graphics/tango/actions/go-up-icon.png", 30, 30},
+    {":/tango/graphics/tango/actions/process-stop-icon.png", 28, 30},
+};
+
+extern int qInitResources_Zemkit();
+extern int qCleanupResources_Zemkit();
+
+class tst_Resources : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void picture_data();
+    void picture();
+    void nothingElseIsInTheCollection();
+    void cleanupAndInitAreExported();
+};
+
+void tst_Resources::initTestCase()
+{
+    // A program that names no symbol of the library is not linked with it at all.
+    QVERIFY(!ZEMUtils::getVersion().isEmpty());
+}
+
+void tst_Resources::picture_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+    for (const Picture &picture : pictures) {
+        QTest::newRow(picture.path)
+            << QString::fromLatin1(picture.path) << QSize(picture.width, picture.height);
+    }
+}
+
+void tst_Resources::picture()
+{
+    QFETCH(QString, path);
+    QFETCH(QSize, size);
+
+    const QResource resource(path);
+    QVERIFY(resource.isValid());
+    QCOMPARE(resource.compressionAlgorithm(), QResource::NoCompression);
+    const QByteArray bytes(reinterpret_cast<const char *>(resource.data()), int(resource.size()));
+    QVERIFY(bytes.startsWith("\x89PNG"));
+
+    const QImage image(path);
+    QCOMPARE(image.size(), size);
+    bool visible = false;
+    for (int y = 0; y < image.height() && !visible; ++y) {
+        for (int x = 0; x < image.width() && !visible; ++x) {
+            visible = image.pixelColor(x, y).alpha() > 0;
+        }
+    }
+    QVERIFY(visible);
+}
+
+void tst_Resources::nothingElseIsInTheCollection()
+{
+    QSet<QString> expected;
+    for (const Picture &picture : pictures) {
+        expected.insert(QString::fromLatin1(picture.path));
+    }
+    QSet<QString> found;
+    for (const QString &prefix : {QStringLiteral(":/zem"), QStringLiteral(":/tango")}) {
+        QDirIterator it(prefix, QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            found.insert(it.next());
+        }
+    }
+    QCOMPARE(found, expected);
+    QCOMPARE(found.size(), 58);
+}
+
+void tst_Resources::cleanupAndInitAreExported()
+{
+    const QString path = QString::fromLatin1(pictures[0].path);
+    QVERIFY(QResource(path).isValid());
+    QCOMPARE(qCleanupResources_Zemkit(), 1);
+    QVERIFY(!QResource(path).isValid());
+    QCOMPARE(qInitResources_Zemkit(), 1);
+    QVERIFY(QResource(path).isValid());
+}
+
+QTEST_MAIN(tst_Resources)
+#include "tst_resources.moc"
