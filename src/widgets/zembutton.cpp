@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zembutton.h"
+
+#include "buttonpainting_p.h"
+#include "objectname_p.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr QSize designSize(50, 50);
+
+ButtonPainting::State stateOf(const ZEMButton &button)
+{
+    return {button.isCheckable(), button.isChecked(), button.isEnabled(),
+            button.getHideWhenDisabled(), button.getHideUncheckedIcon()};
+}
+
+} // namespace
+
+class ZEMButton::Private
+{
+public:
+    QPixmap picture(ButtonPainting::Background which) const
+    {
+        switch (which) {
+        case ButtonPainting::Background::None:
+            break;
+        case ButtonPainting::Background::On:
+            return background;
+        case ButtonPainting::Background::Off:
+            return backgroundOff;
+        case ButtonPainting::Background::Disabled:
+            return backgroundDisabled;
+        }
+        return {};
+    }
+
+    void drawBackground(QPainter &painter, const QRect &rect,
+                        const ButtonPainting::State &state) const
+    {
+        const bool hasOff = !backgroundOff.isNull();
+        const bool hasDisabled = !backgroundDisabled.isNull();
+        const auto which = ButtonPainting::background(state, hasOff, hasDisabled);
+        painter.drawPixmap(QRectF(rect), picture(which), QRectF());
+    }
+
+    QPixmap background;
+    QPixmap backgroundOff;
+    QPixmap backgroundDisabled;
+    bool hideWhenDisabled = false;
+    bool hideUncheckedIcon = false;
+};
+
+ZEMButton::ZEMButton(QWidget *parent) : QAbstractButton(parent), d(std::make_unique<Private>())
+{
+    setObjectNameFromClass(this, staticMetaObject);
+    resize(designSize);
+    setWindowTitle(tr("Form"));
+    QMetaObject::connectSlotsByName(this);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+ZEMButton::~ZEMButton() = default;
+
+QPixmap ZEMButton::getBackground() const
+{
+    return d->background;
+}
+
+void ZEMButton::setBackground(const QPixmap &background)
+{
+    d->background = background;
+    setMinimumSize(background.size());
+    resize(background.size());
+    repaint();
+}
+
+QPixmap ZEMButton::getBackgroundOff() const
+{
+    return d->backgroundOff;
+}
+
+void ZEMButton::setBackgroundOff(const QPixmap &background)
+{
+    d->backgroundOff = background;
+    repaint();
+}
+
+QPixmap ZEMButton::getBackgroundDisabled() const
+{
+    return d->backgroundDisabled;
+}
+
+void ZEMButton::setBackgroundDisabled(const QPixmap &background)
+{
+    d->backgroundDisabled = background;
+    repaint();
+}
+
+bool ZEMButton::getHideWhenDisabled() const
+{
+    return d->hideWhenDisabled;
+}
+
+void ZEMButton::setHideWhenDisabled(bool hide)
+{
+    d->hideWhenDisabled = hide;
+    repaint();
+}
+
+bool ZEMButton::getHideUncheckedIcon() const
+{
+    return d->hideUncheckedIcon;
+}
+
+void ZEMButton::setHideUncheckedIcon(bool hide)
+{
+    d->hideUncheckedIcon = hide;
+}
+
+QSize ZEMButton::sizeHint() const
+{
+    return size();
+}
+
+void ZEMButton::paintEvent(QPaintEvent *event)
+{
+    const ButtonPainting::State state = stateOf(*this);
+    QPainter painter(this);
+    d->drawBackground(painter, rect(), state);
+
+    const ButtonPainting::IconLook look = ButtonPainting::iconLook(state);
+    if (look.drawn && !icon().isNull()) {
+        icon().paint(&painter, rect(), Qt::AlignCenter, look.mode, look.state);
+    }
+    if (!text().isEmpty()) {
+        painter.setPen(palette().color(ButtonPainting::textGroup(state), QPalette::ButtonText));
+        painter.drawText(rect(), Qt::AlignCenter, text());
+    }
+    QWidget::paintEvent(event); // NOLINT(bugprone-parent-virtual-call): QAbstractButton has none
+}

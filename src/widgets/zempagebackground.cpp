@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zempagebackground.h"
+
+#include "objectname_p.h"
+
+#include <QBrush>
+#include <QPainter>
+
+namespace {
+
+constexpr QSize designSize(640, 480);
+
+} // namespace
+
+class ZEMPageBackground::Private
+{
+public:
+    QPixmap background;
+    QColor backgroundColor;
+};
+
+ZEMPageBackground::ZEMPageBackground(QWidget *parent)
+    : QWidget(parent), d(std::make_unique<Private>())
+{
+    setObjectNameFromClass(this, staticMetaObject);
+    resize(designSize);
+    setMinimumSize(designSize);
+    setWindowTitle(tr("Form"));
+    QMetaObject::connectSlotsByName(this);
+}
+
+ZEMPageBackground::~ZEMPageBackground() = default;
+
+QPixmap ZEMPageBackground::getBackground() const
+{
+    return d->background;
+}
+
+void ZEMPageBackground::setBackground(const QPixmap &background, bool repaint)
+{
+    d->background = background;
+    setMinimumSize(background.size());
+    if (repaint) {
+        QWidget::repaint();
+    }
+}
+
+QColor ZEMPageBackground::getBackgroundColor() const
+{
+    return d->backgroundColor;
+}
+
+void ZEMPageBackground::setBackgroundColor(const QColor &color)
+{
+    d->backgroundColor = color;
+    repaint();
+}
+
+void ZEMPageBackground::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    if (d->background.isNull()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QBrush(d->backgroundColor, Qt::SolidPattern));
+        painter.drawRect(rect());
+    } else {
+        painter.drawPixmap(QRectF(rect()), d->background, QRectF());
+    }
+    QWidget::paintEvent(event);
+}

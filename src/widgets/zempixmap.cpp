@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zempixmap.h"
+
+#include "objectname_p.h"
+
+#include <QPainter>
+
+class ZEMPixmap::Private
+{
+public:
+    double opacity = 1.0;
+    QPixmap pixmap;
+    QColor color;
+};
+
+ZEMPixmap::ZEMPixmap(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
+{
+    setObjectNameFromClass(this, staticMetaObject);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setWindowTitle(tr("Form"));
+    QMetaObject::connectSlotsByName(this);
+}
+
+ZEMPixmap::~ZEMPixmap() = default;
+
+QPixmap ZEMPixmap::getPixmap() const
+{
+    return d->pixmap;
+}
+
+void ZEMPixmap::setPixmap(const QPixmap &pixmap)
+{
+    d->pixmap = pixmap;
+    setMinimumSize(pixmap.size());
+    setMaximumSize(pixmap.size());
+    resize(pixmap.size());
+    repaint();
+}
+
+qreal ZEMPixmap::getOpacity() const
+{
+    return d->opacity;
+}
+
+void ZEMPixmap::setOpacity(double opacity)
+{
+    if (opacity >= 0.0 && opacity <= 1.0) {
+        d->opacity = opacity;
+        repaint();
+    }
+}
+
+QColor ZEMPixmap::getColor() const
+{
+    return d->color;
+}
+
+void ZEMPixmap::setColor(const QColor &color)
+{
+    d->color = color;
+    if (d->pixmap.isNull()) {
+        d->pixmap = QPixmap(size());
+    }
+    d->pixmap.fill(color);
+}
+
+QSize ZEMPixmap::sizeHint() const
+{
+    return size();
+}
+
+void ZEMPixmap::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setOpacity(d->opacity);
+    painter.drawPixmap(QRectF(rect()), d->pixmap, QRectF());
+    QWidget::paintEvent(event);
+}
