@@ -7,6 +7,11 @@ set(ZEM_TEST_RUNTIME_DIR "${PROJECT_BINARY_DIR}/tests/runtime")
 file(MAKE_DIRECTORY "${ZEM_TEST_RUNTIME_DIR}")
 file(CHMOD "${ZEM_TEST_RUNTIME_DIR}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
+# What makes a test fail: every warning but "This plugin does not support propagateSizeHints()", which
+# the offscreen platform gives for each window with a minimum size.
+set(ZEM_UNEXPECTED_WARNING
+    "QWARN  : [^\n]*\\) ([^T]|T[^h]|Th[^i]|Thi[^s]|This[^ ]|This [^p]|This p[^l])|QSYSTEM|QCRITICAL")
+
 # zem_add_test(<name> SUBSYSTEM <label> [SOURCES <file>...] [LIBRARIES <target>...])
 #   One QTest program from <name>.cpp, linked with the library and the test support. A warning that
 #   the test does not expect makes it fail.
@@ -18,6 +23,6 @@ function(zem_add_test name)
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_SUBSYSTEM}"
         TIMEOUT 300
-        FAIL_REGULAR_EXPRESSION "QWARN|QSYSTEM|QCRITICAL"
+        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${ZEM_TEST_RUNTIME_DIR};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
 endfunction()

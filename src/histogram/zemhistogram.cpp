@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemhistogram.h"
+
+#include "histogramlayout_p.h"
+#include "objectname_p.h"
+#include "qwtplotmover.h"
+#include "zemhistogramlegend.h"
+#include "zemhistogramseries.h"
+#include "zemscaledraw.h"
+#include "zemstyle.h"
+
+#include <QBrush>
+#include <QPixmap>
+#include <QPointer>
+#include <QResizeEvent>
+#include <QVBoxLayout>
+#include <qwt_plot.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_scale_div.h>
+#include <qwt_scale_engine.h>
+#include <qwt_scale_widget.h>
+
+#include <cmath>
+
+namespace {
+
+constexpr int dragThreshold = 5; // pixels
+constexpr int canvasMarginRight = 10; // pixels
+
+/**
+ * A plot that is laid out anew whenever it comes into view. What its labels need at the ends of the
+ * x axis depends on the width that the axis got, and a hidden plot hears of no such change: it
+ * would come up with its ticks and bars beside the canvas.
+ */
+class HistogramPlot : public QwtPlot
+{
+public:
+    using QwtPlot::QwtPlot;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QwtPlot::showEvent(event);
+        QwtScaleWidget *xScale = axisWidget(QwtPlot::xBottom);
+        int start = 0;
+        int end = 0;
+        xScale->getBorderDistHint(start, end);
+        xScale->setBorderDist(start, end);
+        updateLayout();
+    }
+};
+
+QFont fontOfScale(const QWidget *scale, int pointSize)
+{
+    QFont font = scale->font();
+    font.setFamily(QStringLiteral("Cabin"));
+    font.setPointSize(pointSize);
+    return font;
+}
+
+} // namespace
+
+class ZEMHistogram::Private
+{
+public:
+    QPointer<ZEMHistogram> parentHistogram;
+    QPointer<ZEMHistogram> childHistogram;
+    QList<ZEMHistogramSeries *> series;
+};
+
+ZEMHistogram::ZEMHistogram(QWidget *parent)
+    : QWidget(parent), plot(new HistogramPlot(this)), yAxisText(QStringLiteral("kWh")),
+      d(new Private)
+{
+    setObjectNameFromClass(this, staticMetaObject);
+    resize(200, 200);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(sizePolicy().hasHeightForWidth());
+    setSizePolicy(policy);
+    setWindowTitle(tr("Form"));
+    QMetaObject::connectSlotsByName(this);
+}
+
+ZEMHistogram::~ZEMHistogram()
+{
+    for (ZEMHistogramSeries *s : qAsConst(d->series)) {
+        s->detach();
+        delete s;
+    }
+}
+
+void ZEMHistogram::setAxisScale(int axisId, double min, double max, double step)
+{
+    Q_UNUSED(min)
+    Q_UNUSED(max)
+    const double magnitude = std::log10(step);
+    setScaleDigits(axisId, magnitude < 0.0 ? int(std::ceil(std::fabs(magnitude))) : 0);
+}
+
+void ZEMHistogram::setScaleDigits(int axisId, int digits)
+{
+    if (auto *draw = dynamic_cast<ZEMScaleDraw *>(plot->axisScaleDraw(axisId))) {
+        draw->setDigits(digits);
+    }
+}
+
+void ZEMHistogram::replot()
+{
+    plot->replot();
+    if (d->childHistogram) {
+        d->childHistogram->replot();
+        d->childHistogram->changed(plot);
+    }
+}
+
+void ZEMHistogram::init()
+{
+    initAxis();
+    setLookAndFeel();
+}
+
+void ZEMHistogram::setYAxisText(QString text)
+{
+    yAxisText = std::move(text);
+}
+
+void ZEMHistogram::initAxis()
+{
+    initAxisRefine();
+    plot->updateAxes();
+
+    QwtScaleWidget *xScale = plot->axisWidget(QwtPlot::xBottom);
+    xScale->setFont(fontOfScale(xScale, 11));
+    // Half of a label may stand out beyond the last tick.
+    const int labelWidth = xScale->scaleDraw()->maxLabelWidth(xScale->font());
+    xScale->setMinBorderDist(0, (labelWidth + 1) / 2);
+    xScale->setMargin(0);
+
+    QwtScaleWidget *yScale = plot->axisWidget(QwtPlot::yLeft);
+    yScale->setMargin(0);
+    yScale->setFont(fontOfScale(yScale, 9));
+}
+
+void ZEMHistogram::setLookAndFeel()
+{
+    setPlotLookAndFeel();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(plot);
+    layout->addItem(new QSpacerItem(40, 20, QSizePolicy::Minimum, QSizePolicy::Expanding));
+
+    auto *legendSpace = new QWidget(this);
+    legendSpace->setMinimumHeight(HistogramLayout::legendHeight);
+    layout->addWidget(legendSpace);
+    auto *legend = new ZEMHistogramLegend(legendSpace);
+    insertLegendExternal(plot, legend);
+    HistogramLayout::arrangeLegend(legend);
+    HistogramLayout::fill(legendSpace, legend);
+}
+
+void ZEMHistogram::changed(QwtPlot *) { }
+
+QSize ZEMHistogram::sizeHint() const
+{
+    QSize hint = plot->sizeHint();
+    if (d->childHistogram) {
+        hint += d->childHistogram->sizeHint();
+    }
+    return hint;
+}
+
+void ZEMHistogram::addSeries(ZEMHistogramSeries *s)
+{
+    s->setZ(1.0);
+    d->series.append(s);
+    s->attach(plot);
+}
+
+void ZEMHistogram::prependSeries(ZEMHistogramSeries *s)
+{
+    s->setZ(0.0);
+    d->series.prepend(s);
+    s->attach(plot);
+}
+
+void ZEMHistogram::delSeries(ZEMHistogramSeries *s)
+{
+    const int index = d->series.lastIndexOf(s);
+    if (index >= 0) {
+        s->detach();
+        d->series.removeAt(index);
+        delete s;
+    }
+}
+
+void ZEMHistogram::setScalePeriod(double period)
+{
+    for (ZEMHistogram *histogram = this; histogram; histogram = histogram->getChild()) {
+        histogram->mover->setAxisPeriod(QwtPlot::xBottom, period);
+    }
+}
+
+void ZEMHistogram::setScaleInterval(QwtInterval interval)
+{
+    mover->setAxisValidInterval(QwtPlot::xBottom, interval);
+    if (d->childHistogram) {
+        d->childHistogram->setScaleInterval(interval);
+    }
+}
+
+void ZEMHistogram::setValueLimits(QwtInterval limits)
+{
+    double low = limits.minValue();
+    double high = limits.maxValue();
+    double step = plot->axisStepSize(QwtPlot::yLeft);
+    plot->axisScaleEngine(QwtPlot::yLeft)
+        ->autoScale(plot->axisMaxMajor(QwtPlot::yLeft), low, high, step);
+    setAxisScale(QwtPlot::yLeft, low, high, step);
+    plot->setAxisScale(QwtPlot::yLeft, low, high, step);
+}
+
+void ZEMHistogram::setDataChangedTimestamp(QDateTime t)
+{
+    dataChangedTimestamp = t;
+    if (d->childHistogram) {
+        d->childHistogram->setDataChangedTimestamp(t);
+    }
+    updateTitle(plot->axisInterval(QwtPlot::xBottom));
+}
+
+QString ZEMHistogram::title()
+{
+    return titleText;
+}
+
+void ZEMHistogram::has_page(bool *prev, bool *next)
+{
+    if (prev) {
+        *prev = mover->hasAxisPrevPeriod(QwtPlot::xBottom);
+    }
+    if (next) {
+        *next = mover->hasAxisNextPeriod(QwtPlot::xBottom);
+    }
+}
+
+void ZEMHistogram::setChild(ZEMHistogram *child)
+{
+    if (d->childHistogram || !child) {
+        return;
+    }
+    d->childHistogram = child;
+    child->setParent(this);
+    child->setParentHistogram(this);
+}
+
+ZEMHistogram *ZEMHistogram::getChild() const
+{
+    return d->childHistogram;
+}
+
+ZEMHistogram *ZEMHistogram::getParent() const
+{
+    return d->parentHistogram;
+}
+
+void ZEMHistogram::setParentHistogram(ZEMHistogram *parent)
+{
+    d->parentHistogram = parent;
+}
+
+void ZEMHistogram::insertLegendExternal(QwtPlot *source, QwtLegend *legend)
+{
+    ZEMHistogramLegend::connectToPlot(source, legend);
+}
+
+void ZEMHistogram::syncAxis(int axis, QwtPlot *source)
+{
+    const QwtInterval wanted = source->axisInterval(axis);
+    const double step = source->axisStepSize(axis);
+    if (plot->axisInterval(axis) == wanted) {
+        // An equal scale would not be divided again; a different one in between makes it so.
+        plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue() + 0.1, step);
+        plot->updateAxes();
+    }
+    plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue(), step);
+    plot->replot();
+}
+
+void ZEMHistogram::showPrevPeriod()
+{
+    mover->moveAxisPrevPeriod(QwtPlot::xBottom);
+}
+
+void ZEMHistogram::showNextPeriod()
+{
+    mover->moveAxisNextPeriod(QwtPlot::xBottom);
+}
+
+void ZEMHistogram::showFirstPeriod()
+{
+    mover->moveAxisFirstPeriod(QwtPlot::xBottom);
+}
+
+void ZEMHistogram::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    plot->resize(event->size());
+}
+
+void ZEMHistogram::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (d->childHistogram) {
+        d->childHistogram->changed(plot);
+    }
+}
+
+void ZEMHistogram::setPlotLookAndFeel()
+{
+    const ZEMStyle style(nullptr);
+    QPalette palette = plot->palette();
+    palette.setBrush(QPalette::All, QPalette::Text, QBrush(style.color(ZEMStyle::White)));
+    palette.setBrush(QPalette::All, QPalette::WindowText,
+                     QBrush(style.color(ZEMStyle::WhiteAlpha50)));
+    plot->setPalette(palette);
+
+    auto *canvas = qobject_cast<QwtPlotCanvas *>(plot->canvas());
+    canvas->setFrameStyle(0);
+
+    mover = new QwtPlotMover(canvas);
+    mover->setMouseButton(Qt::LeftButton, Qt::NoModifier);
+    mover->setDxSignalThreshold(dragThreshold);
+    for (const int axis : {QwtPlot::yLeft, QwtPlot::yRight, QwtPlot::xTop}) {
+        mover->setAxisEnabled(axis, false);
+    }
+    mover->setOrientations(Qt::Horizontal);
+    connect(mover, SIGNAL(axisChanged(int)), this, SLOT(axisChanged(int)));
+
+    const QPixmap background(QStringLiteral(":/zem/graphics/main/tab_overview_bg.png"));
+    plot->setCanvasBackground(QBrush(background));
+    plot->setAttribute(Qt::WA_TranslucentBackground, true);
+    canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
+    canvas->setPaintAttribute(QwtPlotCanvas::Opaque, false);
+    canvas->setAttribute(Qt::WA_OpaquePaintEvent, false);
+
+    HistogramLayout::setCanvasMargins(plot, canvasMarginRight);
+
+    plot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // The canvas comes out about as high as its picture.
+    const int height =
+        background.height() + plot->axisWidget(QwtPlot::xBottom)->minimumSizeHint().height() - 4;
+    plot->setMinimumHeight(height);
+    plot->setMaximumHeight(height);
+}
+
+void ZEMHistogram::axisChanged(int axis)
+{
+    if (axis == QwtPlot::xBottom) {
+        updateTitle(plot->axisInterval(QwtPlot::xBottom));
+        Q_EMIT has_page(mover->hasAxisPrevPeriod(QwtPlot::xBottom),
+                        mover->hasAxisNextPeriod(QwtPlot::xBottom));
+    }
+    if (ZEMHistogram *partner = d->childHistogram ? getChild() : getParent()) {
+        partner->syncAxis(axis, plot);
+    }
+}

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemscaledraw.h"
+
+#include "saturatedint_p.h"
+
+#include <QLocale>
+
+#include <qwt_text.h>
+
+#include <utility>
+
+namespace {
+
+constexpr int hoursOfDay = 24;
+constexpr int daysOfWeek = 7;
+
+void setTickLengths(QwtScaleDraw *scale, double major, double medium, double minor)
+{
+    scale->setTickLength(QwtScaleDiv::MajorTick, major);
+    scale->setTickLength(QwtScaleDiv::MediumTick, medium);
+    scale->setTickLength(QwtScaleDiv::MinorTick, minor);
+}
+
+/** Tall separators between the slots are medium ticks: the major ones stand where the labels do. */
+void setUpSlotScale(QwtScaleDraw *scale)
+{
+    scale->enableComponent(QwtAbstractScaleDraw::Backbone, false);
+    setTickLengths(scale, 0.0, 40.0, 0.0);
+    scale->setLabelAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    scale->setSpacing(15.0);
+}
+
+/** Day 0 is a Monday, the days before it run backwards; the answer is from 1 to 7. */
+int dayOfWeek(int day)
+{
+    if (day >= 0) {
+        return day % daysOfWeek + 1;
+    }
+    const int daysBefore = -day % daysOfWeek;
+    return daysBefore == 0 ? 1 : daysOfWeek + 1 - daysBefore;
+}
+
+} // namespace
+
+ZEMNoScaleDraw::ZEMNoScaleDraw()
+{
+    enableComponent(Backbone, false);
+    enableComponent(Ticks, false);
+    enableComponent(Labels, false);
+}
+
+ZEMNoScaleDraw::~ZEMNoScaleDraw() = default;
+
+class ZEMScaleDraw::Private
+{
+public:
+    int digits = 1;
+};
+
+ZEMScaleDraw::ZEMScaleDraw() : d(std::make_unique<Private>()) { }
+
+ZEMScaleDraw::~ZEMScaleDraw() = default;
+
+void ZEMScaleDraw::setDigits(int digits)
+{
+    if (digits != d->digits) {
+        d->digits = digits;
+        invalidateCache();
+    }
+}
+
+int ZEMScaleDraw::getDigits() const
+{
+    return d->digits;
+}
+
+ZEMKWhScaleDraw::ZEMKWhScaleDraw(double)
+{
+    enableComponent(Backbone, false);
+    setTickLengths(this, 4.0, 4.0, 4.0);
+    setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setSpacing(8.0);
+}
+
+ZEMKWhScaleDraw::~ZEMKWhScaleDraw() = default;
+
+QwtText ZEMKWhScaleDraw::label(double value) const
+{
+    return QwtText(QStringLiteral("%L1").arg(value, 0, 'f', getDigits(), QLatin1Char(' ')));
+}
+
+ZEMMonthKWhScaleDraw::ZEMMonthKWhScaleDraw(double unused) : ZEMKWhScaleDraw(unused)
+{
+    setTickLengths(this, 4.0, 4.0, 0.0);
+}
+
+ZEMMonthKWhScaleDraw::~ZEMMonthKWhScaleDraw() = default;
+
+ZEMDayScaleDraw::ZEMDayScaleDraw()
+{
+    enableComponent(Backbone, false);
+    setTickLengths(this, 40.0, 18.0, 18.0);
+    setLabelAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    setSpacing(10.0);
+}
+
+ZEMDayScaleDraw::~ZEMDayScaleDraw() = default;
+
+QwtText ZEMDayScaleDraw::label(double value) const
+{
+    int hour = roundedInt(value) % hoursOfDay;
+    if (hour < 0) {
+        hour += hoursOfDay;
+    }
+    return QwtText(QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0')));
+}
+
+class ZEMWeekScaleDraw::Private
+{
+public:
+    double labelShift;
+};
+
+ZEMWeekScaleDraw::ZEMWeekScaleDraw(double shift) : d(new Private {shift})
+{
+    setUpSlotScale(this);
+}
+
+ZEMWeekScaleDraw::~ZEMWeekScaleDraw() = default;
+
+QwtText ZEMWeekScaleDraw::label(double value) const
+{
+    const int day = dayOfWeek(roundedInt(value - d->labelShift));
+    return QwtText(QLocale().dayName(day, QLocale::ShortFormat));
+}
+
+class ZEMMonthScaleDraw::Private
+{
+public:
+    QDateTime startTimestamp;
+    double labelShift;
+};
+
+ZEMMonthScaleDraw::ZEMMonthScaleDraw(double shift) : d(new Private {QDateTime(), shift})
+{
+    setUpSlotScale(this);
+}
+
+ZEMMonthScaleDraw::~ZEMMonthScaleDraw() = default;
+
+void ZEMMonthScaleDraw::setStartTimestamp(QDateTime timestamp)
+{
+    d->startTimestamp = std::move(timestamp);
+    invalidateCache();
+}
+
+QwtText ZEMMonthScaleDraw::label(double value) const
+{
+    const qint64 week = roundedInt(value - d->labelShift);
+    // Days are counted on the date: a null timestamp becomes a valid one by counting, a date does
+    // not.
+    const QDate date = d->startTimestamp.date().addDays(daysOfWeek * week);
+    const QString text = QLocale().toString(date, QStringLiteral("d MMM"));
+    return QwtText(QStringLiteral("%1").arg(text, 0, QLatin1Char(' ')));
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemsmartweekhistogram.h"
+
+#include "headlines_p.h"
+#include "periodaxes_p.h"
+#include "zemscaledraw.h"
+#include "zemscaleengine.h"
+
+class ZEMSmartWeekHistogram::xWeekScaleDraw : public ZEMWeekScaleDraw
+{
+public:
+    using ZEMWeekScaleDraw::ZEMWeekScaleDraw;
+};
+
+ZEMSmartWeekHistogram::ZEMSmartWeekHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }
+
+ZEMSmartWeekHistogram::~ZEMSmartWeekHistogram() = default;
+
+void ZEMSmartWeekHistogram::updateTitle(QwtInterval interval)
+{
+    const Headlines::Range week = Headlines::rangeOfDays(dataChangedTimestamp, interval);
+    titleText = QStringLiteral("%1 %2 %3")
+                    .arg(Headlines::weekStart(week), tr("t/m"), Headlines::weekEnd(week));
+    Q_EMIT changed(this);
+}
+
+void ZEMSmartWeekHistogram::initAxisRefine()
+{
+    using namespace PeriodAxes;
+    ZEMSmartHistogram::initAxisRefine();
+    setValueAxisTitle(plot, yAxisText);
+
+    auto *draw = new xWeekScaleDraw(middleOfSlot);
+    setShortTicks(draw, {0.0, 5.0, 0.0});
+    setXAxis(plot, draw, new ZEMScaleEngine(middleOfSlot), {7.0, 1.0, 7, 2});
+}

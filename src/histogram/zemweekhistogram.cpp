@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemweekhistogram.h"
+
+#include "headlines_p.h"
+#include "periodaxes_p.h"
+#include "zemscaledraw.h"
+#include "zemscaleengine.h"
+
+ZEMWeekHistogram::ZEMWeekHistogram(QWidget *parent) : ZEMHistogram(parent) { }
+
+ZEMWeekHistogram::~ZEMWeekHistogram() = default;
+
+void ZEMWeekHistogram::updateTitle(QwtInterval interval)
+{
+    const Headlines::Range week = Headlines::rangeOfDays(dataChangedTimestamp, interval);
+    titleText = QStringLiteral("%1 - %2 %3 %4")
+                    .arg(tr("weekoverzicht"), Headlines::weekStart(week), tr("t/m"),
+                         Headlines::weekEnd(week));
+    Q_EMIT changed(this);
+}
+
+void ZEMWeekHistogram::initAxisRefine()
+{
+    using namespace PeriodAxes;
+    setXAxis(plot, new ZEMWeekScaleDraw(middleOfSlot), new ZEMScaleEngine(middleOfSlot),
+             {7.0, 1.0, 7, 2});
+    setValueAxis(plot, new ZEMKWhScaleDraw(999.0));
+    setValueAxisTitle(plot, yAxisText);
+}
