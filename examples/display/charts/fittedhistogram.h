@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FITTEDHISTOGRAM_H
+#define FITTEDHISTOGRAM_H
+
+#include <ZEMHistogramLegend>
+
+#include <QVBoxLayout>
+#include <qwt_plot.h>
+#include <qwt_scale_draw.h>
+
+/** Heights of the plots of a page in pixels, x axis included. */
+struct ChartHeights
+{
+    int upper = 0;
+    int lower = 0;
+};
+
+/** Room for the labels of a value axis, so that the canvases of two charts stand in one line. */
+constexpr double valueAxisExtent = 38.0;
+
+/**
+ * A chart of the library, @p Base, fitted to a page of 640 by 480: the plot has the height that the
+ * page gives it, and as a lower chart it has neither legend nor labels of its own below the ticks;
+ * its series stand in the legend of the upper chart.
+ */
+template <class Base>
+class FittedHistogram : public Base
+{
+public:
+    enum class Place { Upper, Lower };
+
+    FittedHistogram(Place itsPlace, int plotHeight) : place(itsPlace), height(plotHeight) { }
+
+    QwtPlot *thePlot() const { return this->plot; }
+
+protected:
+    void initAxisRefine() override
+    {
+        Base::initAxisRefine();
+        this->plot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(valueAxisExtent);
+    }
+
+    void setLookAndFeel() override
+    {
+        if (place == Place::Upper) {
+            Base::setLookAndFeel();
+        } else {
+            this->setPlotLookAndFeel();
+            auto *layout = new QVBoxLayout(this);
+            layout->setContentsMargins(0, 0, 0, 0);
+            layout->addWidget(this->plot);
+        }
+        this->plot->setFixedHeight(height);
+    }
+
+private:
+    const Place place;
+    const int height;
+};
+
+#endif

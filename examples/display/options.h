@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef OPTIONS_H
+#define OPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+/** What the command line asks for. */
+struct Options
+{
+    enum class Action {
+        Run,
+        PrintAndEnd, ///< --help or --version: print text to standard output
+        Refuse ///< print text to standard error
+    };
+
+    Action action = Action::Run;
+    QString text;
+
+    QStringList readings; ///< CSV files
+    QString screenshots; ///< directory for the pictures of all pages; empty: show the display
+    QString page; ///< the page to open; empty: the first
+};
+
+/**
+ * Reads the command line; needs a QCoreApplication. @p pages are the names that --page knows, the
+ * first of which is the default.
+ */
+Options readOptions(const QStringList &arguments, const QStringList &pages);
+
+#endif

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "calendar.h"
+
+#include "household.h"
+
+#include <QDateTime>
+
+namespace Readings {
+
+namespace {
+
+constexpr int SecondsPerHour = 3600;
+
+} // namespace
+
+Calendar::Calendar(const QTimeZone &zone) : clock(zone) { }
+
+Interval Calendar::hour(const QDate &date, int hour) const
+{
+    if (!date.isValid() || hour < 0 || hour >= HoursPerDay)
+        return {};
+    return {border(date, hour), border(date, hour + 1)};
+}
+
+Interval Calendar::day(const QDate &date) const
+{
+    if (!date.isValid())
+        return {};
+    return {border(date, 0), border(date, HoursPerDay)};
+}
+
+Interval Calendar::week(const QDate &date) const
+{
+    if (!date.isValid())
+        return {};
+    const QDate monday = mondayOf(date);
+    return {border(monday, 0), border(monday.addDays(DaysPerWeek), 0)};
+}
+
+QDate Calendar::mondayOf(const QDate &date)
+{
+    return date.isValid() ? date.addDays(Qt::Monday - date.dayOfWeek()) : QDate();
+}
+
+QDate Calendar::dateAt(qint64 instant) const
+{
+    return QDateTime::fromSecsSinceEpoch(instant, clock.timeZone()).date();
+}
+
+int Calendar::hourAt(qint64 instant) const
+{
+    return QDateTime::fromSecsSinceEpoch(instant, clock.timeZone()).time().hour();
+}
+
+Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) const
+{
+    Amounts amounts;
+    amounts.reserve(HoursPerDay);
+    for (int slot = 0; slot < HoursPerDay; ++slot)
+        amounts.push_back(sumOfAmounts(meters, hour(date, slot)));
+    return amounts;
+}
+
+Calendar::Amounts Calendar::daysOfWeek(const Meters &meters, const QDate &date) const
+{
+    return days(meters, mondayOf(date), DaysPerWeek);
+}
+
+Calendar::Amounts Calendar::days(const Meters &meters, const QDate &first, int count) const
+{
+    Amounts amounts;
+    for (int slot = 0; slot < count; ++slot)
+        amounts.push_back(sumOfAmounts(meters, day(first.addDays(slot))));
+    return amounts;
+}
+
+Calendar::Amounts Calendar::weeks(const Meters &meters, const QDate &date, int count) const
+{
+    Amounts amounts;
+    for (int slot = 0; slot < count; ++slot)
+        amounts.push_back(sumOfAmounts(meters, week(date.addDays(qint64(slot) * DaysPerWeek))));
+    return amounts;
+}
+
+// The first of two: so that the slot that begins with a doubled hour holds both of them.
+qint64 Calendar::border(const QDate &date, int hour) const
+{
+    return clock.moment(WallClock::wallSeconds(date, hour * SecondsPerHour)).earlier;
+}
+
+} // namespace Readings

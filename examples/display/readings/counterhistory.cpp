@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "counterhistory.h"
+
+#include <algorithm>
+
+namespace Readings {
+
+CounterHistory::CounterHistory(double most) : mostPerHour(most), filter(most) { }
+
+void CounterHistory::add(const Reading &reading)
+{
+    if (late.empty() && (!newest || reading.instant > newest->instant)) {
+        filter.append(reading);
+        newest = reading;
+    } else if (late.empty() && reading.instant == newest->instant) {
+        if (reading.value != newest->value)
+            contradictions.push_back(
+                {Fault::Kind::Contradiction, reading.instant, reading.value, reading.tag});
+    } else {
+        late.push_back(reading);
+    }
+}
+
+std::optional<double> CounterHistory::readingAt(qint64 instant) const
+{
+    settle();
+    const KeptReading found = find(instant);
+    if (found == filter.kept().cend())
+        return std::nullopt;
+    return found->reading.value;
+}
+
+std::optional<double> CounterHistory::amount(const Interval &interval) const
+{
+    settle();
+    if (interval.isEmpty())
+        return std::nullopt;
+    const KeptReading start = find(interval.from);
+    const KeptReading end = find(interval.to);
+    const KeptReading none = filter.kept().cend();
+    if (start == none || end == none || start->segment != end->segment)
+        return std::nullopt;
+    return end->reading.value - start->reading.value;
+}
+
+double CounterHistory::total(const Interval &interval) const
+{
+    settle();
+    const KeptReading start = notBefore(interval.from);
+    KeptReading end = notBefore(interval.to);
+    if (end == filter.kept().cend() || end->reading.instant > interval.to) {
+        if (end == filter.kept().cbegin())
+            return 0.0;
+        --end;
+    }
+    return start < end ? filter.counted(*end) - filter.counted(*start) : 0.0;
+}
+
+std::optional<qint64> CounterHistory::firstInstant() const
+{
+    settle();
+    if (filter.kept().empty())
+        return std::nullopt;
+    return filter.kept().front().reading.instant;
+}
+
+std::optional<qint64> CounterHistory::lastInstant() const
+{
+    settle();
+    if (filter.kept().empty())
+        return std::nullopt;
+    return filter.kept().back().reading.instant;
+}
+
+std::optional<Interval> CounterHistory::lastStepUntil(qint64 instant) const
+{
+    settle();
+    KeptReading end = notBefore(instant);
+    if (end == filter.kept().cend() || end->reading.instant > instant) {
+        if (end == filter.kept().cbegin())
+            return std::nullopt;
+        --end;
+    }
+    if (end == filter.kept().cbegin())
+        return std::nullopt;
+    return Interval {(end - 1)->reading.instant, end->reading.instant};
+}
+
+std::vector<Fault> CounterHistory::faults() const
+{
+    settle();
+    std::vector<Fault> all = contradictions;
+    all.insert(all.end(), filter.faults().cbegin(), filter.faults().cend());
+    if (const std::optional<Reading> &suspect = filter.undecided())
+        all.push_back({Fault::Kind::Undecided, suspect->instant, suspect->value, suspect->tag});
+    return all;
+}
+
+// Puts late readings in their places and judges the whole history anew, since they may turn what
+// looked like a break into a single wrong reading and the other way round.
+void CounterHistory::settle() const
+{
+    if (late.empty())
+        return;
+    std::vector<Reading> all;
+    all.reserve(filter.kept().size() + filter.discarded().size() + late.size() + 1);
+    for (const ReadingFilter::Kept &kept : filter.kept())
+        all.push_back(kept.reading);
+    all.insert(all.end(), filter.discarded().cbegin(), filter.discarded().cend());
+    if (filter.undecided())
+        all.push_back(*filter.undecided());
+    all.insert(all.end(), late.cbegin(), late.cend());
+    late.clear();
+    std::stable_sort(all.begin(), all.end(), [](const Reading &left, const Reading &right) {
+        return left.instant < right.instant;
+    });
+
+    filter = ReadingFilter(mostPerHour);
+    const Reading *previous = nullptr;
+    for (const Reading &reading : all) {
+        if (!previous || reading.instant != previous->instant) {
+            filter.append(reading);
+            previous = &reading;
+        } else if (reading.value != previous->value) {
+            contradictions.push_back(
+                {Fault::Kind::Contradiction, reading.instant, reading.value, reading.tag});
+        }
+    }
+    newest = *previous;
+}
+
+CounterHistory::KeptReading CounterHistory::notBefore(qint64 instant) const
+{
+    return std::lower_bound(filter.kept().cbegin(), filter.kept().cend(), instant,
+                            [](const ReadingFilter::Kept &kept, qint64 wanted) {
+                                return kept.reading.instant < wanted;
+                            });
+}
+
+CounterHistory::KeptReading CounterHistory::find(qint64 instant) const
+{
+    const KeptReading found = notBefore(instant);
+    if (found == filter.kept().cend() || found->reading.instant == instant)
+        return found;
+    return filter.kept().cend();
+}
+
+} // namespace Readings

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef READINGS_COUNTERHISTORY_H
+#define READINGS_COUNTERHISTORY_H
+
+#include "interval.h"
+#include "readingfilter.h"
+
+#include <optional>
+#include <vector>
+
+namespace Readings {
+
+/**
+ * The history of a counter: readings at instants, in any order. See Meter, which is how the rest
+ * of the program uses it.
+ */
+class CounterHistory
+{
+public:
+    explicit CounterHistory(double mostPerHour);
+
+    /**
+     * Adds a reading. One that is newer than all others takes constant time; one that is not makes
+     * the next question sort the whole history.
+     */
+    void add(const Reading &reading);
+
+    std::optional<double> readingAt(qint64 instant) const;
+    std::optional<double> amount(const Interval &interval) const;
+    double total(const Interval &interval) const;
+    std::optional<qint64> firstInstant() const;
+    std::optional<qint64> lastInstant() const;
+    std::optional<Interval> lastStepUntil(qint64 instant) const;
+    std::vector<Fault> faults() const;
+
+private:
+    using KeptReading = std::vector<ReadingFilter::Kept>::const_iterator;
+
+    void settle() const;
+    KeptReading notBefore(qint64 instant) const;
+    KeptReading find(qint64 instant) const;
+
+    double mostPerHour;
+    // A file may be read in any order, and sorting at each row would make that quadratic: what
+    // comes late waits for the next question, which is why a question may change these.
+    mutable ReadingFilter filter;
+    mutable std::vector<Reading> late;
+    mutable std::vector<Fault> contradictions;
+    mutable std::optional<Reading> newest;
+};
+
+} // namespace Readings
+
+#endif

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef READINGS_METER_H
+#define READINGS_METER_H
+
+#include "amounthistory.h"
+#include "counterhistory.h"
+#include "fault.h"
+#include "interval.h"
+
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace Readings {
+
+/**
+ * The history of one register of a household meter, and the answer to "how much was used from then
+ * to then".
+ *
+ * A meter is fed either with readings of its counter (`Kind::Counter`) or with the amounts of
+ * intervals (`Kind::Amounts`), from files, from a smart meter's telegrams or from a simulation.
+ * Instants are seconds since 1970-01-01 UTC; amounts and readings are in the unit of the quantity.
+ *
+ *     Meter meter(Meter::Kind::Counter, quantityInfo(Quantity::Gas).mostPerHour);
+ *     meter.addReading(nine, 4012.10);
+ *     meter.addReading(ten, 4012.85);
+ *     meter.amount(nine, ten); // 0.75
+ *
+ * Nothing is ever interpolated or averaged: a slot whose borders are not known is a gap, told by
+ * an empty answer, and is not the same as 0. A live source must therefore feed a reading at the
+ * exact instants that will be asked for (the full hour at least), which is the last one that it
+ * heard at or before that instant.
+ *
+ * Feeding in the order of time takes constant time for each reading. Questions take logarithmic
+ * time; the first one after something was fed out of order sorts the history once. Questions
+ * may therefore come from one thread only. A meter can be copied.
+ */
+class Meter
+{
+public:
+    enum class Kind { Counter, Amounts };
+
+    /**
+     * `mostPerHour` is the most that can be used in an hour, see QuantityInfo. The same is granted
+     * for any shorter time.
+     */
+    Meter(Kind kind, double mostPerHour);
+
+    Kind kind() const;
+
+    /**
+     * Adds a reading of the counter. `tag` is any number of the caller's that comes back in
+     * faults(). Returns false and changes nothing if the meter is not a counter, or if the value
+     * is negative or not finite.
+     *
+     * A second reading for the same instant is ignored, and is a fault if it differs. Readings
+     * that step back or leap are judged as told at ReadingFilter.
+     */
+    bool addReading(qint64 instant, double value, qint64 tag = 0);
+
+    /**
+     * Adds what was used in an interval. Returns false and changes nothing if the meter is a
+     * counter, if the interval is empty, or if the amount is negative or not finite.
+     *
+     * An interval that is known already, or overlaps one, is ignored, and is a fault unless it
+     * says the same. So is an amount above what can be used in the time.
+     */
+    bool addAmount(const Interval &interval, double amount, qint64 tag = 0);
+
+    /**
+     * What was used in the interval. Of a counter: the difference of the readings at its two
+     * borders. Of amounts: the sum of the rows, which must cover it without a gap and end at its
+     * borders.
+     *
+     * Empty if the interval is empty, if a border has no reading, if there is a break in between,
+     * or if a part is not covered. A gap of a counter in the midst of the interval does no harm:
+     * the counter went on.
+     */
+    std::optional<double> amount(const Interval &interval) const;
+    std::optional<double> amount(qint64 from, qint64 to) const;
+
+    /**
+     * All that was counted in the interval: of a counter from its first to its last reading in it,
+     * without what a break hides; of amounts the sum of all rows that lie in it whole. 0 if there
+     * is nothing.
+     */
+    double total(const Interval &interval) const;
+    double total(qint64 from, qint64 to) const;
+    /** All that was ever counted. */
+    double total() const;
+
+    /**
+     * The counter at an instant; empty if there is no right reading at just that instant, and for
+     * a meter of amounts.
+     */
+    std::optional<double> readingAt(qint64 instant) const;
+
+    /** The first and the last instant of which something is known; empty without data. */
+    std::optional<qint64> firstInstant() const;
+    std::optional<qint64> lastInstant() const;
+
+    /**
+     * The shortest interval known that ends last, but not after `instant`: from one reading to the
+     * next, or a row of amounts. There may be a break in it.
+     */
+    std::optional<Interval> lastStepUntil(qint64 instant) const;
+
+    /** Everything wrong that was found so far, in no particular order. */
+    std::vector<Fault> faults() const;
+
+private:
+    std::variant<CounterHistory, AmountHistory> history;
+};
+
+} // namespace Readings
+
+#endif

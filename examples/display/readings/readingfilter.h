@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef READINGS_READINGFILTER_H
+#define READINGS_READINGFILTER_H
+
+#include "fault.h"
+
+#include <optional>
+#include <vector>
+
+namespace Readings {
+
+/** A counter's value at an instant. */
+struct Reading
+{
+    /** Seconds since 1970-01-01 UTC. */
+    qint64 instant = 0;
+    /** In the unit of the quantity; finite and not negative. */
+    double value = 0.0;
+    /** Any number of the caller's; it comes back in a Fault. */
+    qint64 tag = 0;
+};
+
+/**
+ * Tells a counter's right readings from its wrong ones.
+ *
+ * Readings come in rising order of time. One that steps back, or leaps above what a household can
+ * have used, waits for the next reading, which decides:
+ *
+ * - The counter goes on as if nothing had been: the waiting reading was wrong and is taken out.
+ * - The waiting reading stepped back, but not below the last reading but one: then the reading
+ *   between these two was the wrong one, and is taken out.
+ * - Otherwise the readings before and after belong together no more: a break (a meter replaced or
+ *   reset). A new segment begins.
+ */
+class ReadingFilter
+{
+public:
+    struct Kept
+    {
+        Reading reading;
+        /** Readings of different segments have a break between them. */
+        int segment = 0;
+    };
+
+    /**
+     * `mostPerHour` is the most that the counter can rise in an hour. The same rise is granted for
+     * any shorter time: many meters hand on their count only once an hour, and a logger that stood
+     * still for some minutes catches up in one step.
+     */
+    explicit ReadingFilter(double mostPerHour);
+
+    /** Takes the next reading; its instant must lie after that of every earlier one. */
+    void append(const Reading &reading);
+
+    /** The right readings, in the order of time. */
+    const std::vector<Kept> &kept() const { return keptReadings; }
+    /** The wrong readings, in no order. */
+    const std::vector<Reading> &discarded() const { return discardedReadings; }
+    /** The newest reading, while it is not decided whether it is right. */
+    const std::optional<Reading> &undecided() const { return waiting; }
+    const std::vector<Fault> &faults() const { return foundFaults; }
+
+    /**
+     * What was counted from the first reading of all to this one, plus a constant: the breaks are
+     * taken out of it, so that the difference of two is what was counted in between.
+     */
+    double counted(const Kept &reading) const;
+
+private:
+    bool follows(const Reading &earlier, const Reading &later) const;
+    void decide(const Reading &suspect, const Reading &next);
+    void accept(const Reading &reading);
+    void keep(const Reading &reading);
+    void keepAfterBreak(const Reading &reading);
+    void discard(const Reading &reading, Fault::Kind kind);
+    bool lastWasWrong(const Reading &suspect) const;
+
+    double mostPerHour;
+    std::vector<Kept> keptReadings;
+    std::vector<Reading> discardedReadings;
+    std::optional<Reading> waiting;
+    std::vector<double> segmentOffsets;
+    std::vector<Fault> foundFaults;
+};
+
+} // namespace Readings
+
+#endif

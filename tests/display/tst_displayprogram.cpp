@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+/** Runs zemkit-display as a user would. */
+class tst_DisplayProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void help();
+    void version();
+    void unknownOption();
+    void unknownPage();
+    void argumentWithoutOption();
+    void nothingToShow();
+    void missingFile();
+    void unknownHeader();
+    void brokenRowIsNamedAndTheRestIsShown();
+    void screenshotsOfEveryChart();
+    void screenshotsIntoAFile();
+
+private:
+    struct Result
+    {
+        int status = -1;
+        QString output;
+        QString errors;
+    };
+    static Result run(const QStringList &arguments);
+    QString writeReadings(const QString &name, const QByteArray &text) const;
+
+    QTemporaryDir dir;
+};
+
+tst_DisplayProgram::Result tst_DisplayProgram::run(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(DISPLAY_PROGRAM), arguments);
+    Result result;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        result.status = process.exitCode();
+    }
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    for (const QByteArray &line : process.readAllStandardError().split('\n')) {
+        // What the offscreen platform says of each window with a fixed size.
+        if (!line.isEmpty() && !line.contains("propagateSizeHints")) {
+            result.errors += QString::fromUtf8(line) + QLatin1Char('\n');
+        }
+    }
+    return result;
+}
+
+QString tst_DisplayProgram::writeReadings(const QString &name, const QByteArray &text) const
+{
+    QFile file(dir.filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) {
+        qFatal("cannot write readings");
+    }
+    file.write(text);
+    return file.fileName();
+}
+
+void tst_DisplayProgram::help()
+{
+    const Result result = run({QStringLiteral("--help")});
+    QCOMPARE(result.status, 0);
+    for (const char *option : {"--readings", "--screenshots", "--page", "--help", "--version"}) {
+        QVERIFY2(result.output.contains(QLatin1String(option)), option);
+    }
+    QCOMPARE(result.errors, QString());
+}
+
+void tst_DisplayProgram::version()
+{
+    const Result result = run({QStringLiteral("--version")});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QStringLiteral("zemkit-display 2.3.0\n"));
+}
+
+void tst_DisplayProgram::unknownOption()
+{
+    const Result result = run({QStringLiteral("--frobnicate")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("frobnicate")), qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::unknownPage()
+{
+    const Result result = run({QStringLiteral("--page"), QStringLiteral("attic")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("no page 'attic'; there is charts")),
+             qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::argumentWithoutOption()
+{
+    const Result result = run({QStringLiteral("file.csv")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("unexpected argument 'file.csv'")),
+             qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::nothingToShow()
+{
+    const Result result = run({});
+    QCOMPARE(result.status, 2);
+    QCOMPARE(result.errors,
+             QStringLiteral("zemkit-display: nothing to show; give --readings FILE...\n"));
+}
+
+void tst_DisplayProgram::missingFile()
+{
+    const QString path = dir.filePath(QStringLiteral("none.csv"));
+    const Result result = run({QStringLiteral("--readings"), path});
+    QCOMPARE(result.status, 2);
+    const QStringList lines = result.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines[0].startsWith(path + QLatin1Char(':')), qPrintable(lines[0]));
+    QVERIFY(lines[1].startsWith(QStringLiteral("zemkit-display: nothing to show")));
+}
+
+void tst_DisplayProgram::unknownHeader()
+{
+    const QString path = writeReadings(QStringLiteral("odd.csv"), "when,how much\n1,2\n");
+    const Result result = run({QStringLiteral("--readings"), path});
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.errors.startsWith(path + QStringLiteral(":1:")), qPrintable(result.errors));
+}
+
+static QByteArray twoDays()
+{
+    QByteArray text = "time,electricity_import_kwh,gas_m3\n";
+    for (int hour = 0; hour <= 48; ++hour) {
+        text += QStringLiteral("2026-03-%1T%2:00:00+01:00,%3,%4\n")
+                    .arg(3 + hour / 24, 2, 10, QLatin1Char('0'))
+                    .arg(hour % 24, 2, 10, QLatin1Char('0'))
+                    .arg(100.0 + 0.4 * hour)
+                    .arg(50.0 + 0.1 * hour)
+                    .toUtf8();
+    }
+    return text;
+}
+
+void tst_DisplayProgram::brokenRowIsNamedAndTheRestIsShown()
+{
+    QByteArray text = twoDays();
+    text += "2026-03-05T01:00:00+01:00,abc,60\n";
+    const QString path = writeReadings(QStringLiteral("broken.csv"), text);
+    const QString screens = dir.filePath(QStringLiteral("broken"));
+    const Result result =
+        run({QStringLiteral("--readings"), path, QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.errors.startsWith(path + QStringLiteral(":51:")), qPrintable(result.errors));
+    QCOMPARE(result.errors.count(QLatin1Char('\n')), 1);
+    QVERIFY(QFile::exists(screens + QStringLiteral("/charts-electricity-day.png")));
+}
+
+void tst_DisplayProgram::screenshotsOfEveryChart()
+{
+    const QString path = writeReadings(QStringLiteral("house.csv"), twoDays());
+    const QString screens = dir.filePath(QStringLiteral("some/where"));
+    const Result result =
+        run({QStringLiteral("--readings"), path, QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    for (const char *energy : {"electricity", "gas"}) {
+        for (const char *period : {"day", "week", "month"}) {
+            const QString picture = QStringLiteral("%1/charts-%2-%3.png")
+                                        .arg(screens, QLatin1String(energy), QLatin1String(period));
+            QCOMPARE(QImage(picture).size(), QSize(640, 480));
+        }
+    }
+    const QImage day(screens + QStringLiteral("/charts-electricity-day.png"));
+    const QImage week(screens + QStringLiteral("/charts-electricity-week.png"));
+    QVERIFY(day != week);
+}
+
+void tst_DisplayProgram::screenshotsIntoAFile()
+{
+    const QString path = writeReadings(QStringLiteral("house.csv"), twoDays());
+    const Result result =
+        run({QStringLiteral("--readings"), path, QStringLiteral("--screenshots"), path});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(path), qPrintable(result.errors));
+}
+
+QTEST_GUILESS_MAIN(tst_DisplayProgram)
+#include "tst_displayprogram.moc"

@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "readingsfolder.h"
+
+#include "calendar.h"
+
+#include <QTest>
+
+using namespace Readings;
+
+namespace {
+
+const QByteArray germanHeader =
+    "local_time,grid_import_kwh,grid_export_kwh,pv_kwh,heat_pump_kwh,ev_kwh,interpolated\n";
+const QByteArray minuteHeader =
+    "TIMESTAMP,VERBR_KWH_181,VERBR_KWH_182,GELVR_KWH_281,GELVR_KWH_282,VERBR_KWH_X,GELVR_KWH_X,"
+    "TARIEFCODE,ACT_VERBR_KW_170,ACT_GELVR_KW_270\n";
+const QByteArray portalGasHeader = "datum_tijd;levering;buitentemperatuur\n";
+
+} // namespace
+
+class TestHousehold : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void filesAreMerged();
+    void sameFileTwiceIsSilent();
+    void contradictionsAreToldWithTheLaterFile();
+    void otherWaysOfCountingAreLeftOut();
+    void firstFileGivesTheTimeZone();
+    void ownFormatHasNoTimeZoneOfItsOwn();
+    void nothingGivesAnEmptyHousehold();
+    void measuredPowerIsThatOfTheLastRow();
+    void meanPowerIsThatOfTheLastCompleteInterval();
+    void consumptionNeedsWhatItIsMadeOf();
+    void problemsAreInTheOrderOfFilesAndLines();
+
+private:
+    ReadingsFolder folder;
+};
+
+void TestHousehold::filesAreMerged()
+{
+    const QString first = folder.write(QStringLiteral("first.csv"),
+                                       "time,gas_m3\n"
+                                       "2024-05-01T00:00Z,10\n"
+                                       "2024-05-01T02:00Z,12\n"
+                                       "2024-05-01T04:00Z,14\n");
+    const QString second = folder.write(QStringLiteral("second.csv"),
+                                        "time,gas_m3,water_m3\n"
+                                        "2024-05-01T01:00Z,10.5,1\n"
+                                        "2024-05-01T02:00Z,12,2\n"
+                                        "2024-05-01T03:00Z,12.5,3\n");
+    for (const QStringList &files : {QStringList {first, second}, QStringList {second, first}}) {
+        const Household household = loadReadings(files);
+        QCOMPARE(household.problems, QStringList());
+        const auto hours = Calendar(QTimeZone::utc())
+                               .hoursOfDay(household.metersOf(Quantity::Gas), QDate(2024, 5, 1));
+        QCOMPARE(hours[0], Amount(0.5));
+        QCOMPARE(hours[1], Amount(1.5));
+        QCOMPARE(hours[2], Amount(0.5));
+        QCOMPARE(hours[3], Amount(1.5));
+        QCOMPARE(household.total(Quantity::Water), 2.0);
+    }
+}
+
+void TestHousehold::sameFileTwiceIsSilent()
+{
+    const QString path = folder.write(QStringLiteral("twice.csv"),
+                                      portalGasHeader
+                                          + "01-01-2023 01:00:00 +0100;0,50;14,00\n"
+                                            "01-01-2023 02:00:00 +0100;0,75;13,00\n");
+    const Household household = loadReadings({path, path});
+    QCOMPARE(household.problems, QStringList());
+    QCOMPARE(household.total(Quantity::Gas), 1.25);
+}
+
+void TestHousehold::contradictionsAreToldWithTheLaterFile()
+{
+    const QString first = folder.write(QStringLiteral("first.csv"),
+                                       "time,gas_m3\n"
+                                       "2024-05-01T00:00Z,10\n"
+                                       "2024-05-01T01:00Z,11\n");
+    const QString second = folder.write(QStringLiteral("second.csv"),
+                                        "time,gas_m3\n"
+                                        "2024-05-01T00:00Z,10\n"
+                                        "2024-05-01T01:00Z,11.25\n"
+                                        "2024-05-01T02:00Z,12\n");
+    const Household household = loadReadings({first, second});
+    QCOMPARE(
+        household.problems,
+        QStringList(second
+                    + QStringLiteral(":3: gas 11.25 contradicts an earlier value for this time; "
+                                     "left out")));
+    const qint64 start = utc("2024-05-01T00:00:00");
+    QCOMPARE(household.amount(Quantity::Gas, {start, start + Hour}), Amount(1.0));
+    QCOMPARE(household.amount(Quantity::Gas, {start + Hour, start + 2 * Hour}), Amount(1.0));
+}
+
+void TestHousehold::otherWaysOfCountingAreLeftOut()
+{
+    const QString counter = folder.write(QStringLiteral("counter.csv"),
+                                         "time,gas_m3,electricity_import_kwh\n"
+                                         "2023-01-01T00:00Z,10,1\n"
+                                         "2023-01-01T01:00Z,11,2\n");
+    const QString amounts = folder.write(
+        QStringLiteral("amounts.csv"), portalGasHeader + "01-01-2023 01:00:00 +0100;0,50;14,00\n");
+    const QString tariffs = folder.write(QStringLiteral("tariffs.csv"),
+                                         "time,electricity_import_low_kwh\n"
+                                         "2023-01-01T00:00Z,10\n"
+                                         "2023-01-01T01:00Z,11\n");
+    const Household household = loadReadings({counter, amounts, tariffs});
+    QCOMPARE(household.total(Quantity::Gas), 1.0);
+    QCOMPARE(household.total(Quantity::GridImport), 1.0);
+    QCOMPARE(household.problems.filter(QStringLiteral(":1: ")),
+             (QStringList {amounts
+                               + QStringLiteral(":1: left out: levering; gas is known already from "
+                                                "counter readings"),
+                           tariffs
+                               + QStringLiteral(":1: left out: electricity_import_low_kwh; "
+                                                "electricity import is known already from counter "
+                                                "readings")}));
+    QCOMPARE(household.metersOf(Quantity::GridImport).size(), std::size_t(1));
+}
+
+void TestHousehold::firstFileGivesTheTimeZone()
+{
+    const QString german = folder.write(QStringLiteral("german.csv"),
+                                        germanHeader + "2016-01-01T00:00:00,1,2,3,4,5,\n");
+    const QString dutch = folder.write(QStringLiteral("dutch.csv"),
+                                       portalGasHeader + "01-01-2023 01:00:00 +0100;0,50;14,00\n");
+    const Household germanFirst = loadReadings({german, dutch});
+    QCOMPARE(germanFirst.timeZone.id(), QByteArray("Europe/Berlin"));
+    QCOMPARE(
+        germanFirst.problems,
+        QStringList(dutch
+                    + QStringLiteral(": is of the time zone Europe/Amsterdam; its readings are "
+                                     "shown by the clock in Europe/Berlin")));
+    const Household dutchFirst = loadReadings({dutch, german});
+    QCOMPARE(dutchFirst.timeZone.id(), QByteArray("Europe/Amsterdam"));
+    QCOMPARE(dutchFirst.problems.size(), 1);
+    // A file that cannot be read does not decide.
+    const Household third = loadReadings({folder.filePath(QStringLiteral("none")), dutch});
+    QCOMPARE(third.timeZone.id(), QByteArray("Europe/Amsterdam"));
+}
+
+void TestHousehold::ownFormatHasNoTimeZoneOfItsOwn()
+{
+    const QString german = folder.write(QStringLiteral("german.csv"),
+                                        germanHeader + "2016-01-01T00:00:00,1,2,3,4,5,\n");
+    const QString own =
+        folder.write(QStringLiteral("own.csv"), "time,gas_m3\n2024-05-01T00:00Z,10\n");
+    const Household household = loadReadings({german, own});
+    QCOMPARE(household.timeZone.id(), QByteArray("Europe/Berlin"));
+    QCOMPARE(household.problems, QStringList());
+    QCOMPARE(loadReadings({own}).timeZone, QTimeZone::systemTimeZone());
+}
+
+void TestHousehold::nothingGivesAnEmptyHousehold()
+{
+    const Household household = loadReadings({});
+    QVERIFY(household.meters.empty());
+    QCOMPARE(household.problems, QStringList());
+    QCOMPARE(household.timeZone, QTimeZone::systemTimeZone());
+    QVERIFY(!household.firstInstant());
+    QVERIFY(!household.latestPower());
+    QVERIFY(!household.consumption({0, Hour}));
+}
+
+void TestHousehold::measuredPowerIsThatOfTheLastRow()
+{
+    const Household household = folder.load(minuteHeader
+                                            + "2024-02-19 00:02:00,10,20,30,40,0,0,D,1.5,0.25\n"
+                                              "2024-02-19 00:00:00,10,20,30,40,0,0,D,3,0\n"
+                                              "2024-02-19 00:03:00,10,20,30,40,0,0,D,,0\n"
+                                              "2024-02-19 00:04:00,10,20,30,40,0,0,D,x,0\n");
+    QCOMPARE(household.problems.size(), 1);
+    QCOMPARE(household.latestPower()->watts, 1250.0);
+    QCOMPARE(household.latestPower()->instant, utc("2024-02-18T23:03:00"));
+}
+
+void TestHousehold::meanPowerIsThatOfTheLastCompleteInterval()
+{
+    const Household both = folder.load("time,electricity_import_kwh,electricity_export_kwh\n"
+                                       "2024-05-01T10:00Z,100,50\n"
+                                       "2024-05-01T10:15Z,100.5,52\n"
+                                       "2024-05-01T10:30Z,101,\n");
+    QCOMPARE(both.latestPower()->watts, -6000.0);
+    QCOMPARE(both.latestPower()->instant, utc("2024-05-01T10:15:00"));
+
+    const Household importOnly = folder.load("time,electricity_import_kwh\n"
+                                             "2024-05-01T10:00Z,100\n"
+                                             "2024-05-01T12:00Z,103\n");
+    QCOMPARE(importOnly.latestPower()->watts, 1500.0);
+
+    QVERIFY(!folder
+                 .load("time,electricity_export_kwh\n"
+                       "2024-05-01T10:00Z,100\n"
+                       "2024-05-01T12:00Z,103\n")
+                 .latestPower());
+    QVERIFY(!folder.load("time,electricity_import_kwh\n2024-05-01T10:00Z,100\n").latestPower());
+}
+
+void TestHousehold::consumptionNeedsWhatItIsMadeOf()
+{
+    const qint64 start = utc("2024-05-01T10:00:00");
+    const Interval hour {start, start + Hour};
+    QCOMPARE(folder.load("time,electricity_import_kwh\n2024-05-01T10:00Z,1\n2024-05-01T11:00Z,3\n")
+                 .consumption(hour),
+             Amount(2.0));
+    QCOMPARE(folder.load("time,electricity_export_kwh\n2024-05-01T10:00Z,1\n2024-05-01T11:00Z,3\n")
+                 .consumption(hour),
+             Amount());
+    QCOMPARE(folder
+                 .load("time,electricity_import_kwh,electricity_export_kwh\n"
+                       "2024-05-01T10:00Z,1,0\n2024-05-01T11:00Z,3,0\n")
+                 .consumption(hour),
+             Amount(2.0));
+    QCOMPARE(folder
+                 .load("time,electricity_import_kwh,electricity_export_kwh\n"
+                       "2024-05-01T10:00Z,1,0\n2024-05-01T11:00Z,3,1\n")
+                 .consumption(hour),
+             Amount());
+    QCOMPARE(folder
+                 .load("time,electricity_import_kwh,electricity_export_kwh,solar_kwh\n"
+                       "2024-05-01T10:00Z,1,0,5\n2024-05-01T11:00Z,3,1,9\n")
+                 .consumption(hour),
+             Amount(5.0));
+    QCOMPARE(folder
+                 .load("time,electricity_import_kwh,electricity_export_kwh,solar_kwh\n"
+                       "2024-05-01T10:00Z,1,0,5\n2024-05-01T11:00Z,3,1,\n")
+                 .consumption(hour),
+             Amount());
+}
+
+void TestHousehold::problemsAreInTheOrderOfFilesAndLines()
+{
+    const QString first = folder.write(QStringLiteral("first.csv"),
+                                       "time,gas_m3\n"
+                                       "2024-05-01T00:00Z,10\n"
+                                       "2024-05-01T01:00Z,9\n"
+                                       "2024-05-01T02:00Z,11\n"
+                                       "broken\n");
+    const QString second = folder.write(QStringLiteral("second.csv"), "unknown\n");
+    const QStringList problems = loadReadings({second, first}).problems;
+    QCOMPARE(problems.size(), 3);
+    QVERIFY(problems.at(0).startsWith(second + QStringLiteral(":1: ")));
+    QVERIFY(problems.at(1).startsWith(first + QStringLiteral(":3: ")));
+    QVERIFY(problems.at(2).startsWith(first + QStringLiteral(":5: ")));
+}
+
+QTEST_GUILESS_MAIN(TestHousehold)
+#include "tst_household.moc"

@@ -1,0 +1,444 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "meter.h"
+#include "quantity.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <algorithm>
+#include <limits>
+
+using namespace Readings;
+
+namespace {
+
+constexpr qint64 Hour = 3600;
+constexpr double Most = 25.0;
+
+using Values = QVector<double>;
+using Indexes = QVector<int>;
+
+Meter counter()
+{
+    return Meter(Meter::Kind::Counter, Most);
+}
+
+Meter amounts()
+{
+    return Meter(Meter::Kind::Amounts, Most);
+}
+
+// One reading an hour, from instant 0 on.
+Meter hourly(const Values &values)
+{
+    Meter meter = counter();
+    for (int i = 0; i < values.size(); ++i)
+        meter.addReading(i * Hour, values.at(i), i);
+    return meter;
+}
+
+Indexes faultsOf(const Meter &meter, Fault::Kind kind)
+{
+    Indexes tags;
+    for (const Fault &fault : meter.faults()) {
+        if (fault.kind == kind)
+            tags.append(static_cast<int>(fault.tag));
+    }
+    std::sort(tags.begin(), tags.end());
+    return tags;
+}
+
+} // namespace
+
+class TestMeter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void counterAnswersTheDifferenceAtTheBorders();
+    void counterAnswersNothingWithoutAReadingAtABorder();
+    void gapInsideASlotDoesNoHarm();
+    void unchangedCounterIsZeroAndNoGap();
+    void wrongReadings_data();
+    void wrongReadings();
+    void breakHidesWhatLiesAcrossIt();
+    void newestReadingThatDoesNotFollowWaitsForTheNext();
+    void leapIsMeasuredAgainstTheTimeThatPassed();
+    void shortStepsAreGrantedAnHoursWorth();
+    void firstOfTwoReadingsForAnInstantHolds();
+    void lateReadingTurnsABreakIntoAWrongReading();
+    void amountsAddUpWhereTheyCoverTheSlot();
+    void amountsAreNeverSplit();
+    void firstOfTwoAmountsHolds();
+    void firstAmountThatCameHoldsAmongLateOnes();
+    void amountThatNoHouseholdTakesIsLeftOut();
+    void nonsenseIsRefused();
+    void stepsAreFoundFromTheEnd();
+    void emptyMeterKnowsNothing();
+    void manyReadingsAreFast();
+};
+
+void TestMeter::counterAnswersTheDifferenceAtTheBorders()
+{
+    const Meter meter = hourly({100.5, 101.0, 103.25});
+    QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.5));
+    QCOMPARE(meter.amount(Hour, 2 * Hour), std::optional<double>(2.25));
+    QCOMPARE(meter.amount(0, 2 * Hour), std::optional<double>(2.75));
+    QCOMPARE(meter.readingAt(Hour), std::optional<double>(101.0));
+    QCOMPARE(meter.total(), 2.75);
+    QCOMPARE(meter.firstInstant(), std::optional<qint64>(0));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(2 * Hour));
+}
+
+void TestMeter::counterAnswersNothingWithoutAReadingAtABorder()
+{
+    const Meter meter = hourly({100.0, 101.0, 102.0});
+    QVERIFY(!meter.amount(-Hour, Hour));
+    QVERIFY(!meter.amount(0, 3 * Hour));
+    QVERIFY(!meter.amount(0, Hour + 1));
+    QVERIFY(!meter.amount(1, Hour));
+    QVERIFY(!meter.amount(Hour, Hour));
+    QVERIFY(!meter.amount(2 * Hour, Hour));
+    QVERIFY(!meter.readingAt(1));
+    // A total asks for no reading at its borders.
+    QCOMPARE(meter.total(-Hour, 3 * Hour), 2.0);
+    QCOMPARE(meter.total(1, 3 * Hour), 1.0);
+    QCOMPARE(meter.total(0, 2 * Hour - 1), 1.0);
+    QCOMPARE(meter.total(1, Hour - 1), 0.0);
+    QCOMPARE(meter.total(2 * Hour, 0), 0.0);
+    QCOMPARE(meter.total(5 * Hour, 9 * Hour), 0.0);
+    QCOMPARE(meter.total(-9 * Hour, -5 * Hour), 0.0);
+}
+
+void TestMeter::gapInsideASlotDoesNoHarm()
+{
+    Meter meter = counter();
+    meter.addReading(0, 10.0);
+    meter.addReading(Hour, 11.0);
+    meter.addReading(50 * Hour, 41.0);
+    QCOMPARE(meter.amount(0, 50 * Hour), std::optional<double>(31.0));
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QVERIFY(!meter.amount(49 * Hour, 50 * Hour));
+    QCOMPARE(meter.total(), 31.0);
+    QVERIFY(meter.faults().empty());
+}
+
+void TestMeter::unchangedCounterIsZeroAndNoGap()
+{
+    const Meter meter = hourly({5.0, 5.0, 5.0});
+    QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.0));
+    QCOMPARE(meter.amount(0, 2 * Hour), std::optional<double>(0.0));
+}
+
+void TestMeter::wrongReadings_data()
+{
+    QTest::addColumn<Values>("values");
+    QTest::addColumn<Indexes>("missing");
+    QTest::addColumn<Indexes>("breaks");
+
+    QTest::newRow("nothing wrong") << Values {10, 11, 12, 13} << Indexes {} << Indexes {};
+    QTest::newRow("dip") << Values {10, 11, 9, 12, 13} << Indexes {2} << Indexes {};
+    QTest::newRow("dip, then as before") << Values {10, 11, 9, 11, 13} << Indexes {2} << Indexes {};
+    QTest::newRow("dip to zero") << Values {110, 111, 0, 112, 113} << Indexes {2} << Indexes {};
+    QTest::newRow("small peak") << Values {10, 11, 15, 12, 13, 14} << Indexes {2} << Indexes {};
+    QTest::newRow("small peak, then as before")
+        << Values {10, 11, 15, 11, 13, 14} << Indexes {2} << Indexes {};
+    QTest::newRow("high peak") << Values {10, 11, 9999, 12, 13} << Indexes {2} << Indexes {};
+    QTest::newRow("two peaks") << Values {10, 11, 999, 12, 999, 13, 14} << Indexes {2, 4}
+                               << Indexes {};
+    QTest::newRow("peak, then dip")
+        << Values {10, 11, 9999, 5, 12, 13} << Indexes {2, 3} << Indexes {};
+    QTest::newRow("reset to zero") << Values {500, 501, 0, 1, 2} << Indexes {} << Indexes {2};
+    QTest::newRow("another meter, lower") << Values {500, 501, 30, 31} << Indexes {} << Indexes {2};
+    QTest::newRow("another meter, higher")
+        << Values {500, 501, 9000, 9001} << Indexes {} << Indexes {2};
+    QTest::newRow("another meter, standing still")
+        << Values {500, 501, 9000, 9000} << Indexes {} << Indexes {2};
+    QTest::newRow("another meter that could be ours by and by")
+        << Values {500, 501, 530, 531, 532} << Indexes {} << Indexes {2};
+    QTest::newRow("two other meters")
+        << Values {500, 501, 3, 4, 9000, 9001} << Indexes {} << Indexes {2, 4};
+    QTest::newRow("each reading another meter")
+        << Values {500, 9000, 90000, 90001} << Indexes {} << Indexes {1, 2};
+    QTest::newRow("second reading below the first")
+        << Values {10, 9, 9.5, 10.5} << Indexes {} << Indexes {1};
+    QTest::newRow("peak right after another meter")
+        << Values {500, 501, 30, 90, 31, 32} << Indexes {3} << Indexes {2};
+    QTest::newRow("not back to before another meter")
+        << Values {40, 41, 30, 29, 29.5} << Indexes {} << Indexes {2, 3};
+    QTest::newRow("last one below") << Values {10, 11, 9} << Indexes {2} << Indexes {};
+    QTest::newRow("last one far above") << Values {10, 11, 999} << Indexes {2} << Indexes {};
+}
+
+void TestMeter::wrongReadings()
+{
+    QFETCH(Values, values);
+    QFETCH(Indexes, missing);
+    QFETCH(Indexes, breaks);
+
+    const Meter meter = hourly(values);
+    for (int i = 0; i < values.size(); ++i)
+        QCOMPARE(meter.readingAt(i * Hour).has_value(), !missing.contains(i));
+    double sum = 0.0;
+    for (int i = 1; i < values.size(); ++i) {
+        const bool gap = missing.contains(i) || missing.contains(i - 1) || breaks.contains(i);
+        const std::optional<double> amount = meter.amount((i - 1) * Hour, i * Hour);
+        QCOMPARE(amount.has_value(), !gap);
+        if (gap)
+            continue;
+        QCOMPARE(*amount, values.at(i) - values.at(i - 1));
+        QVERIFY(*amount >= 0.0);
+        sum += *amount;
+    }
+    QVERIFY(meter.total() >= sum);
+
+    Indexes wrong = faultsOf(meter, Fault::Kind::StepBack) + faultsOf(meter, Fault::Kind::Leap)
+        + faultsOf(meter, Fault::Kind::Undecided);
+    std::sort(wrong.begin(), wrong.end());
+    QCOMPARE(wrong, missing);
+    QCOMPARE(faultsOf(meter, Fault::Kind::Break), breaks);
+}
+
+void TestMeter::breakHidesWhatLiesAcrossIt()
+{
+    const Meter meter = hourly({500, 501, 3, 4, 6, 9000, 9002});
+    QVERIFY(!meter.amount(0, 2 * Hour));
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QVERIFY(!meter.amount(0, 6 * Hour));
+    QCOMPARE(meter.amount(2 * Hour, 4 * Hour), std::optional<double>(3.0));
+    QCOMPARE(meter.total(), 1.0 + 3.0 + 2.0);
+    QCOMPARE(meter.total(Hour, 5 * Hour), 3.0);
+    QCOMPARE(meter.total(Hour, 2 * Hour), 0.0);
+}
+
+void TestMeter::newestReadingThatDoesNotFollowWaitsForTheNext()
+{
+    Meter meter = hourly({100, 101, 50});
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(Hour));
+    QCOMPARE(faultsOf(meter, Fault::Kind::Undecided), Indexes {2});
+
+    Meter other = meter;
+    meter.addReading(3 * Hour, 102.0, 3);
+    QCOMPARE(meter.amount(Hour, 3 * Hour), std::optional<double>(1.0));
+    QCOMPARE(faultsOf(meter, Fault::Kind::StepBack), Indexes {2});
+    QVERIFY(faultsOf(meter, Fault::Kind::Undecided).isEmpty());
+
+    other.addReading(3 * Hour, 51.0, 3);
+    QVERIFY(!other.amount(Hour, 3 * Hour));
+    QCOMPARE(other.amount(2 * Hour, 3 * Hour), std::optional<double>(1.0));
+    QCOMPARE(faultsOf(other, Fault::Kind::Break), Indexes {2});
+}
+
+void TestMeter::leapIsMeasuredAgainstTheTimeThatPassed()
+{
+    Meter meter = counter();
+    meter.addReading(0, 0.0);
+    meter.addReading(10 * Hour, 250.0);
+    meter.addReading(11 * Hour, 275.0);
+    meter.addReading(12 * Hour, 300.1);
+    meter.addReading(13 * Hour, 300.2);
+    QCOMPARE(meter.amount(0, 11 * Hour), std::optional<double>(275.0));
+    QVERIFY(!meter.amount(11 * Hour, 12 * Hour));
+    QCOMPARE(meter.total(), 275.0 + (300.2 - 300.1));
+}
+
+void TestMeter::shortStepsAreGrantedAnHoursWorth()
+{
+    Meter meter = counter();
+    meter.addReading(0, 0.0);
+    meter.addReading(60, 25.0);
+    meter.addReading(120, 50.1);
+    meter.addReading(180, 50.2);
+    QCOMPARE(meter.amount(0, 60), std::optional<double>(25.0));
+    QVERIFY(!meter.amount(60, 120));
+}
+
+void TestMeter::firstOfTwoReadingsForAnInstantHolds()
+{
+    Meter meter = counter();
+    meter.addReading(0, 10.0, 1);
+    meter.addReading(Hour, 11.0, 2);
+    meter.addReading(Hour, 11.0, 3);
+    meter.addReading(Hour, 11.5, 4);
+    QCOMPARE(meter.readingAt(Hour), std::optional<double>(11.0));
+    QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), Indexes {4});
+
+    meter.addReading(0, 10.0, 5);
+    meter.addReading(0, 10.1, 6);
+    meter.addReading(Hour, 12.0, 7);
+    QCOMPARE(meter.readingAt(0), std::optional<double>(10.0));
+    QCOMPARE(meter.readingAt(Hour), std::optional<double>(11.0));
+    QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), (Indexes {4, 6, 7}));
+
+    meter.addReading(2 * Hour, 12.0, 8);
+    QCOMPARE(meter.amount(Hour, 2 * Hour), std::optional<double>(1.0));
+}
+
+void TestMeter::lateReadingTurnsABreakIntoAWrongReading()
+{
+    Meter meter = counter();
+    meter.addReading(0, 100.0, 0);
+    meter.addReading(2 * Hour, 40.0, 2);
+    meter.addReading(4 * Hour, 41.0, 4);
+    meter.addReading(5 * Hour, 102.0, 5);
+    meter.addReading(6 * Hour, 103.0, 6);
+    QCOMPARE(faultsOf(meter, Fault::Kind::Break), (Indexes {2, 5}));
+    meter.addReading(3 * Hour, 101.0, 3);
+    QCOMPARE(faultsOf(meter, Fault::Kind::Break), Indexes {});
+    QCOMPARE(faultsOf(meter, Fault::Kind::StepBack), (Indexes {2, 4}));
+    QCOMPARE(meter.amount(0, 6 * Hour), std::optional<double>(3.0));
+}
+
+void TestMeter::amountsAddUpWhereTheyCoverTheSlot()
+{
+    Meter meter = amounts();
+    for (int quarter = 0; quarter < 12; ++quarter) {
+        if (quarter != 6)
+            meter.addAmount({quarter * Hour / 4, (quarter + 1) * Hour / 4}, 0.25);
+    }
+    QCOMPARE(meter.kind(), Meter::Kind::Amounts);
+    QCOMPARE(meter.amount(0, Hour), std::optional<double>(1.0));
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QCOMPARE(meter.amount(2 * Hour, 3 * Hour), std::optional<double>(1.0));
+    QVERIFY(!meter.amount(0, 3 * Hour));
+    QVERIFY(!meter.amount(0, 4 * Hour));
+    QVERIFY(!meter.amount(-Hour, Hour));
+    QVERIFY(!meter.amount(Hour, Hour));
+    QCOMPARE(meter.total(0, 3 * Hour), 2.75);
+    QCOMPARE(meter.total(-Hour, 9 * Hour), 2.75);
+    QCOMPARE(meter.total(), 2.75);
+    QVERIFY(!meter.readingAt(0));
+    QCOMPARE(meter.firstInstant(), std::optional<qint64>(0));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(3 * Hour));
+}
+
+void TestMeter::amountsAreNeverSplit()
+{
+    Meter meter = amounts();
+    meter.addAmount({0, 2 * Hour}, 3.0);
+    meter.addAmount({2 * Hour, 4 * Hour}, 5.0);
+    QVERIFY(!meter.amount(0, Hour));
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QVERIFY(!meter.amount(Hour, 4 * Hour));
+    QVERIFY(!meter.amount(0, 3 * Hour));
+    QCOMPARE(meter.amount(0, 4 * Hour), std::optional<double>(8.0));
+    QCOMPARE(meter.total(Hour, 4 * Hour), 5.0);
+    QCOMPARE(meter.total(Hour, 3 * Hour), 0.0);
+}
+
+void TestMeter::firstOfTwoAmountsHolds()
+{
+    Meter meter = amounts();
+    meter.addAmount({0, Hour}, 1.0, 1);
+    meter.addAmount({0, Hour}, 1.0, 2);
+    meter.addAmount({0, Hour}, 2.0, 3);
+    meter.addAmount({Hour / 2, 2 * Hour}, 2.0, 4);
+    meter.addAmount({Hour, 2 * Hour}, 4.0, 5);
+    meter.addAmount({0, Hour}, 1.5, 6);
+    QCOMPARE(meter.total(), 5.0);
+    QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), (Indexes {3, 6}));
+    QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), Indexes {4});
+}
+
+void TestMeter::firstAmountThatCameHoldsAmongLateOnes()
+{
+    Meter meter = amounts();
+    meter.addAmount({10 * Hour, 11 * Hour}, 1.0, 1);
+    meter.addAmount({5 * Hour, 6 * Hour}, 2.0, 2);
+    meter.addAmount({4 * Hour, 8 * Hour}, 4.0, 3);
+    meter.addAmount({5 * Hour + 1, 6 * Hour - 1}, 4.0, 4);
+    meter.addAmount({6 * Hour, 7 * Hour}, 8.0, 5);
+    QCOMPARE(meter.amount(5 * Hour, 7 * Hour), std::optional<double>(10.0));
+    QCOMPARE(meter.total(), 11.0);
+    QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), (Indexes {3, 4}));
+}
+
+void TestMeter::amountThatNoHouseholdTakesIsLeftOut()
+{
+    Meter meter = amounts();
+    meter.addAmount({0, Hour}, Most, 1);
+    meter.addAmount({Hour, 2 * Hour}, Most + 0.1, 2);
+    meter.addAmount({2 * Hour, 12 * Hour}, 10 * Most, 3);
+    QCOMPARE(faultsOf(meter, Fault::Kind::TooMuch), Indexes {2});
+    QVERIFY(!meter.amount(Hour, 2 * Hour));
+    QCOMPARE(meter.total(), 11 * Most);
+}
+
+void TestMeter::nonsenseIsRefused()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    Meter readings = counter();
+    QVERIFY(readings.addReading(0, 0.0));
+    QVERIFY(!readings.addReading(Hour, -0.1));
+    QVERIFY(!readings.addReading(Hour, nan));
+    QVERIFY(!readings.addReading(Hour, infinity));
+    QVERIFY(!readings.addAmount({0, Hour}, 1.0));
+    QCOMPARE(readings.lastInstant(), std::optional<qint64>(0));
+
+    Meter rows = amounts();
+    QVERIFY(!rows.addReading(0, 1.0));
+    QVERIFY(!rows.addAmount({0, 0}, 1.0));
+    QVERIFY(!rows.addAmount({Hour, 0}, 1.0));
+    QVERIFY(!rows.addAmount({0, Hour}, -1.0));
+    QVERIFY(!rows.addAmount({0, Hour}, nan));
+    QVERIFY(!rows.addAmount({0, Hour}, infinity));
+    QVERIFY(!rows.firstInstant());
+}
+
+void TestMeter::stepsAreFoundFromTheEnd()
+{
+    const Meter meter = hourly({10, 11, 9, 12});
+    QCOMPARE(meter.lastStepUntil(9 * Hour), std::optional<Interval>({Hour, 3 * Hour}));
+    QCOMPARE(meter.lastStepUntil(3 * Hour), std::optional<Interval>({Hour, 3 * Hour}));
+    QCOMPARE(meter.lastStepUntil(3 * Hour - 1), std::optional<Interval>({0, Hour}));
+    QVERIFY(!meter.lastStepUntil(Hour - 1));
+    QVERIFY(!meter.lastStepUntil(-1));
+
+    Meter rows = amounts();
+    rows.addAmount({0, Hour}, 1.0);
+    rows.addAmount({2 * Hour, 3 * Hour}, 1.0);
+    QCOMPARE(rows.lastStepUntil(3 * Hour), std::optional<Interval>({2 * Hour, 3 * Hour}));
+    QCOMPARE(rows.lastStepUntil(3 * Hour - 1), std::optional<Interval>({0, Hour}));
+    QVERIFY(!rows.lastStepUntil(Hour - 1));
+}
+
+void TestMeter::emptyMeterKnowsNothing()
+{
+    for (const Meter &meter : {counter(), amounts()}) {
+        QVERIFY(!meter.amount(0, Hour));
+        QVERIFY(!meter.readingAt(0));
+        QVERIFY(!meter.firstInstant());
+        QVERIFY(!meter.lastInstant());
+        QVERIFY(!meter.lastStepUntil(Hour));
+        QVERIFY(meter.faults().empty());
+        QCOMPARE(meter.total(), 0.0);
+        QCOMPARE(meter.total(0, Hour), 0.0);
+    }
+}
+
+// A quadratic way would take minutes here.
+void TestMeter::manyReadingsAreFast()
+{
+    constexpr int Count = 300000;
+    QElapsedTimer timer;
+    timer.start();
+    Meter forward = counter();
+    Meter backward = counter();
+    Meter rows = amounts();
+    double sum = 0.0;
+    for (int i = 0; i < Count; ++i) {
+        forward.addReading(i * 60, i * 0.001);
+        sum += forward.amount((i - 60) * 60, i * 60).value_or(0.0);
+        backward.addReading((Count - i) * 60, (Count - i) * 0.001);
+        rows.addAmount({(Count - i) * 60, (Count - i + 1) * 60}, 0.001);
+    }
+    sum += backward.total() + rows.total();
+    QVERIFY(sum > 0.0);
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_APPLESS_MAIN(TestMeter)
+#include "tst_meter.moc"

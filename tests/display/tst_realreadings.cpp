@@ -1,0 +1,597 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "calendar.h"
+#include "readingsfile.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Readings;
+
+namespace {
+
+const auto germanFile = QStringLiteral("de_pv_household_hourly_2016.csv");
+const auto hourlyFile = QStringLiteral("nl_p1_household_hourly_2023.csv");
+const auto minuteFile = QStringLiteral("nl_p1_household_minute_2024-02.csv");
+const auto quarterFile = QStringLiteral("nl_gas_household_electricity_15min_2023.csv");
+const auto gasFile = QStringLiteral("nl_gas_household_gas_hourly_2023.csv");
+const auto canadianFile = QStringLiteral("ca_household_water_gas_15min_2013.csv");
+
+constexpr Register importLow {Quantity::GridImport, Tariff::Low};
+constexpr Register importNormal {Quantity::GridImport, Tariff::Normal};
+constexpr Register exportLow {Quantity::GridExport, Tariff::Low};
+constexpr Register exportNormal {Quantity::GridExport, Tariff::Normal};
+
+QString pathOf(const QString &name)
+{
+    return QDir(QStringLiteral(HOUSEHOLD_DATA_DIR)).filePath(name);
+}
+
+Household load(const QStringList &names)
+{
+    QStringList paths;
+    for (const QString &name : names)
+        paths.append(pathOf(name));
+    return loadReadings(paths);
+}
+
+qint64 utc(const char *iso)
+{
+    return QDateTime::fromString(QLatin1String(iso) + QLatin1Char('Z'), Qt::ISODate)
+        .toSecsSinceEpoch();
+}
+
+QString rounded(double number, int decimals)
+{
+    return QString::number(number, 'f', decimals);
+}
+
+QString rounded(const std::optional<double> &number, int decimals)
+{
+    return number ? rounded(*number, decimals) : QStringLiteral("gap");
+}
+
+// The lines without the folder of the data.
+QStringList problemsOf(const Household &household)
+{
+    QStringList lines = household.problems;
+    for (QString &line : lines)
+        line.remove(0, pathOf(QString()).size() + 1);
+    return lines;
+}
+
+Interval yearOf(const Calendar &calendar, int year)
+{
+    return {calendar.day(QDate(year, 1, 1)).from, calendar.day(QDate(year + 1, 1, 1)).from};
+}
+
+int knownIn(const Calendar::Amounts &amounts)
+{
+    int known = 0;
+    for (const std::optional<double> &amount : amounts)
+        known += amount ? 1 : 0;
+    return known;
+}
+
+double sumOf(const Calendar::Amounts &amounts)
+{
+    double sum = 0.0;
+    for (const std::optional<double> &amount : amounts)
+        sum += amount.value_or(0.0);
+    return sum;
+}
+
+} // namespace
+
+class TestRealReadings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void germanYearTotals_data();
+    void germanYearTotals();
+    void germanSkippedHourIsTheOnlyProblem();
+    void germanGapOf54HoursIsAGapThatTheCounterCrosses();
+    void germanGaps_data();
+    void germanGaps();
+    void germanHoursWithoutChangeAreZero();
+    void germanConsumptionIsNegativeInElevenHours();
+    void germanClockChanges();
+    void p1TotalsByRegister_data();
+    void p1TotalsByRegister();
+    void p1StepsBackAreGaps();
+    void p1MissingRowsAreGaps();
+    void p1ClockChanges();
+    void p1MinutesAgreeWithHours();
+    void p1MinutesTellThePower();
+    void p1WrongMinuteIsLeftOut();
+    void p1FilesMerge();
+    void portalYearTotals();
+    void portalElectricityHasNoGap();
+    void portalGasLacksOneHour();
+    void portalTellsTheMeanPower();
+    void canadianYearTotals();
+    void canadianYearHasNoGap();
+    void eachFileIsReadFast_data();
+    void eachFileIsReadFast();
+    void allFilesAtOnceTellWhatDoesNotFitTogether();
+};
+
+void TestRealReadings::initTestCase()
+{
+    if (!QFileInfo::exists(pathOf(germanFile)))
+        QTest::qSkip("there are no household data beside the sources", __FILE__, __LINE__);
+}
+
+void TestRealReadings::germanYearTotals_data()
+{
+    QTest::addColumn<int>("quantity");
+    QTest::addColumn<QString>("total");
+    QTest::newRow("import") << int(Quantity::GridImport) << "3919.4";
+    QTest::newRow("export") << int(Quantity::GridExport) << "8730.9";
+    QTest::newRow("solar") << int(Quantity::SolarProduction) << "11001.0";
+    QTest::newRow("heat pump") << int(Quantity::HeatPump) << "2598.2";
+    QTest::newRow("car") << int(Quantity::ElectricCar) << "1006.5";
+}
+
+void TestRealReadings::germanYearTotals()
+{
+    QFETCH(int, quantity);
+    QFETCH(QString, total);
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    const Interval year = yearOf(calendar, 2016);
+    // 2598.150 in binary is a little less than it, hence the hair.
+    constexpr double Hair = 1e-9;
+    const auto wanted = static_cast<Quantity>(quantity);
+    QCOMPARE(rounded(household.total(wanted) + Hair, 1), total);
+    QCOMPARE(rounded(household.total(wanted, year) + Hair, 1), total);
+    QCOMPARE(rounded(*household.amount(wanted, year) + Hair, 1), total);
+    QCOMPARE(household.firstInstant(), std::optional<qint64>(year.from));
+    QCOMPARE(household.lastInstant(), std::optional<qint64>(year.to));
+}
+
+void TestRealReadings::germanSkippedHourIsTheOnlyProblem()
+{
+    const Household household = load({germanFile});
+    QCOMPARE(
+        problemsOf(household),
+        QStringList(germanFile
+                    + QStringLiteral(":2068: a time that the clock in Europe/Berlin skips; row "
+                                     "left out")));
+    QCOMPARE(household.timeZone.id(), QByteArray("Europe/Berlin"));
+    QCOMPARE(household.meters.size(), std::size_t(5));
+}
+
+void TestRealReadings::germanGapOf54HoursIsAGapThatTheCounterCrosses()
+{
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    const QDate first(2016, 4, 22);
+    for (const Quantity quantity :
+         {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction}) {
+        const auto meters = household.metersOf(quantity);
+        for (int hour = 0; hour < 72; ++hour) {
+            const bool known =
+                calendar.hoursOfDay(meters, first.addDays(hour / 24))[hour % 24].has_value();
+            // The last reading before is at 14:00, the first after it at 21:00.
+            QCOMPARE(known, hour < 14 || hour >= 48 + 21);
+        }
+        QCOMPARE(calendar.days(meters, first, 3), Calendar::Amounts(3, std::nullopt));
+        QVERIFY(calendar.days(meters, first.addDays(-1), 1)[0]);
+        QVERIFY(calendar.days(meters, first.addDays(3), 1)[0]);
+    }
+    const Interval across {calendar.hour(first, 14).from, calendar.hour(first.addDays(2), 21).from};
+    QCOMPARE(rounded(household.amount(Quantity::GridImport, across), 1), QStringLiteral("17.1"));
+    QCOMPARE(rounded(household.amount(Quantity::GridExport, across), 1), QStringLiteral("65.0"));
+    QCOMPARE(rounded(household.amount(Quantity::SolarProduction, across), 1),
+             QStringLiteral("83.2"));
+    // The week has readings at both of its midnights: the counter went on.
+    QVERIFY(household.amount(Quantity::GridImport, calendar.week(first)));
+}
+
+void TestRealReadings::germanGaps_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<int>("quantity");
+    QTest::addColumn<int>("firstMissing");
+    QTest::addColumn<int>("missing");
+    const int import = int(Quantity::GridImport);
+    QTest::newRow("February") << QDate(2016, 2, 24) << import << 13 << 2;
+    QTest::newRow("October") << QDate(2016, 10, 21) << import << 10 << 12;
+    QTest::newRow("December, solar")
+        << QDate(2016, 12, 21) << int(Quantity::SolarProduction) << 11 << 3;
+    QTest::newRow("December, heat pump")
+        << QDate(2016, 12, 21) << int(Quantity::HeatPump) << 11 << 3;
+}
+
+void TestRealReadings::germanGaps()
+{
+    QFETCH(QDate, date);
+    QFETCH(int, quantity);
+    QFETCH(int, firstMissing);
+    QFETCH(int, missing);
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    const auto meters = household.metersOf(static_cast<Quantity>(quantity));
+    const Calendar::Amounts hours = calendar.hoursOfDay(meters, date);
+    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        // A missing reading is the end of an hour and the start of the next.
+        const bool gap = hour >= firstMissing - 1 && hour < firstMissing + missing;
+        QCOMPARE(hours[static_cast<std::size_t>(hour)].has_value(), !gap);
+    }
+    QVERIFY(calendar.days(meters, date, 1)[0]);
+    QVERIFY(*calendar.days(meters, date, 1)[0] > sumOf(hours));
+}
+
+void TestRealReadings::germanHoursWithoutChangeAreZero()
+{
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    const auto hours =
+        calendar.hoursOfDay(household.metersOf(Quantity::SolarProduction), QDate(2016, 1, 1));
+    for (int hour = 0; hour < 6; ++hour)
+        QCOMPARE(hours[static_cast<std::size_t>(hour)], std::optional<double>(0.0));
+}
+
+void TestRealReadings::germanConsumptionIsNegativeInElevenHours()
+{
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    int known = 0;
+    int negative = 0;
+    double lowest = 0.0;
+    for (QDate date(2016, 1, 1); date.year() == 2016; date = date.addDays(1)) {
+        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+            const std::optional<double> used = household.consumption(calendar.hour(date, hour));
+            known += used ? 1 : 0;
+            negative += used.value_or(0.0) < 0.0 ? 1 : 0;
+            lowest = std::min(lowest, used.value_or(0.0));
+        }
+    }
+    // Of the 8,705 rows with a row after them, the clock changes take three: two rows in spring
+    // make one hour, and in autumn neither side of the reading that lacks is an hour.
+    QCOMPARE(known, 8705 - 3);
+    QCOMPARE(negative, 11);
+    QCOMPARE(rounded(lowest, 3), QStringLiteral("-1.128"));
+}
+
+void TestRealReadings::germanClockChanges()
+{
+    const Household household = load({germanFile});
+    const Calendar calendar(household.timeZone);
+    const auto meters = household.metersOf(Quantity::GridImport);
+
+    const Calendar::Amounts spring = calendar.hoursOfDay(meters, QDate(2016, 3, 27));
+    QCOMPARE(rounded(spring[0], 3), QStringLiteral("0.640"));
+    QCOMPARE(rounded(spring[1], 3), QStringLiteral("0.665"));
+    QVERIFY(!spring[2]);
+    QCOMPARE(rounded(spring[3], 3), QStringLiteral("0.680"));
+    QCOMPARE(knownIn(spring), 23);
+    QCOMPARE(rounded(calendar.days(meters, QDate(2016, 3, 27), 1)[0], 3),
+             rounded(sumOf(spring), 3));
+
+    const Calendar::Amounts autumn = calendar.hoursOfDay(meters, QDate(2016, 10, 30));
+    QCOMPARE(rounded(autumn[0], 3), QStringLiteral("0.794"));
+    QVERIFY(!autumn[1]);
+    QVERIFY(!autumn[2]);
+    QCOMPARE(rounded(autumn[3], 3), QStringLiteral("0.658"));
+    QCOMPARE(knownIn(autumn), 22);
+    // 01:00 to the 02:00 of winter time are two hours, 02:00 to 03:00 is one.
+    const Meter &meter = *meters.front();
+    QCOMPARE(rounded(meter.amount(utc("2016-10-29T23:00:00"), utc("2016-10-30T01:00:00")), 3),
+             QStringLiteral("1.091"));
+    QCOMPARE(rounded(meter.amount(utc("2016-10-30T01:00:00"), utc("2016-10-30T02:00:00")), 3),
+             QStringLiteral("0.695"));
+    QCOMPARE(rounded(calendar.days(meters, QDate(2016, 10, 30), 1)[0], 3),
+             rounded(sumOf(autumn) + 1.091 + 0.695, 3));
+}
+
+void TestRealReadings::p1TotalsByRegister_data()
+{
+    QTest::addColumn<int>("quantity");
+    QTest::addColumn<int>("tariff");
+    QTest::addColumn<QString>("total");
+    QTest::newRow("import low") << int(Quantity::GridImport) << int(Tariff::Low) << "4476.432";
+    QTest::newRow("import normal")
+        << int(Quantity::GridImport) << int(Tariff::Normal) << "1356.902";
+    QTest::newRow("export low") << int(Quantity::GridExport) << int(Tariff::Low) << "1084.760";
+    QTest::newRow("export normal")
+        << int(Quantity::GridExport) << int(Tariff::Normal) << "2796.309";
+}
+
+void TestRealReadings::p1TotalsByRegister()
+{
+    QFETCH(int, quantity);
+    QFETCH(int, tariff);
+    QFETCH(QString, total);
+    const Household household = load({hourlyFile});
+    const Calendar calendar(household.timeZone);
+    // A row is read at the end of its hour.
+    const Interval year {calendar.hour(QDate(2023, 2, 1), 0).to,
+                         calendar.hour(QDate(2024, 2, 1), 0).to};
+    const Meter &meter =
+        household.meters.at({static_cast<Quantity>(quantity), static_cast<Tariff>(tariff)});
+    QCOMPARE(rounded(meter.amount(year), 3), total);
+    QCOMPARE(rounded(meter.total(year), 3), total);
+}
+
+void TestRealReadings::p1StepsBackAreGaps()
+{
+    const Household household = load({hourlyFile});
+    const Calendar calendar(household.timeZone);
+    const QDate date(2023, 8, 12);
+    const auto low = calendar.hoursOfDay({&household.meters.at(exportLow)}, date);
+    QCOMPARE(rounded(low[10], 3), QStringLiteral("1.188"));
+    QVERIFY(!low[11]);
+    QVERIFY(!low[12]);
+    // The other registers of that hour are right.
+    QCOMPARE(rounded(calendar.hoursOfDay({&household.meters.at(importLow)}, date)[11], 3),
+             QStringLiteral("0.000"));
+    QVERIFY(!calendar.hoursOfDay(household.metersOf(Quantity::GridExport), date)[11]);
+
+    // 2024-02-25 00:00 is missing from then on; what follows is known from 12:00 on.
+    for (const Register &meterRegister : {importLow, exportLow}) {
+        const auto hours =
+            calendar.hoursOfDay({&household.meters.at(meterRegister)}, QDate(2024, 2, 25));
+        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour)
+            QCOMPARE(hours[static_cast<std::size_t>(hour)].has_value(), hour >= 12);
+    }
+    const QString low3638 = QStringLiteral("electricity export (low tariff) 3638.373 ");
+    const QString low15521 = QStringLiteral("electricity import (low tariff) 15521.3 ");
+    const QString low4013 = QStringLiteral("electricity export (low tariff) 4013.016 ");
+    const QString what = QStringLiteral("is less than before, and the next is not; left out");
+    QCOMPARE(problemsOf(household),
+             (QStringList {hourlyFile + QStringLiteral(":4620: ") + low3638 + what,
+                           hourlyFile + QStringLiteral(":9311: ") + low15521 + what,
+                           hourlyFile + QStringLiteral(":9311: ") + low4013 + what}));
+}
+
+void TestRealReadings::p1MissingRowsAreGaps()
+{
+    const Household household = load({hourlyFile});
+    const Calendar calendar(household.timeZone);
+    const auto meters = household.metersOf(Quantity::GridImport);
+    const auto first = calendar.hoursOfDay(meters, QDate(2023, 8, 12));
+    const auto second = calendar.hoursOfDay(meters, QDate(2023, 8, 13));
+    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        QCOMPARE(first[static_cast<std::size_t>(hour)].has_value(), hour <= 12);
+        QCOMPARE(second[static_cast<std::size_t>(hour)].has_value(), hour >= 16);
+    }
+    // Neither day ends or begins with a reading, but both together do.
+    QCOMPARE(calendar.days(meters, QDate(2023, 8, 12), 2), Calendar::Amounts(2, std::nullopt));
+    QVERIFY(sumOfAmounts(
+        meters, {calendar.day(QDate(2023, 8, 12)).from, calendar.day(QDate(2023, 8, 13)).to}));
+}
+
+void TestRealReadings::p1ClockChanges()
+{
+    const Household household = load({hourlyFile});
+    const Calendar calendar(household.timeZone);
+    const auto meters = household.metersOf(Quantity::GridImport);
+
+    const Calendar::Amounts spring = calendar.hoursOfDay(meters, QDate(2023, 3, 26));
+    QVERIFY(!spring[2]);
+    QCOMPARE(knownIn(spring), 23);
+    QCOMPARE(rounded(spring[3], 3), QStringLiteral("0.696"));
+    QCOMPARE(rounded(calendar.days(meters, QDate(2023, 3, 26), 1)[0], 3),
+             rounded(sumOf(spring), 3));
+
+    const Calendar::Amounts autumn = calendar.hoursOfDay(meters, QDate(2023, 10, 29));
+    QCOMPARE(knownIn(autumn), 24);
+    QCOMPARE(rounded(autumn[2], 3), QStringLiteral("4.306"));
+    QCOMPARE(rounded(calendar.days(meters, QDate(2023, 10, 29), 1)[0], 3),
+             rounded(sumOf(autumn), 3));
+}
+
+void TestRealReadings::p1MinutesAgreeWithHours()
+{
+    const Household hours = load({hourlyFile});
+    const Household minutes = load({minuteFile});
+    const Calendar calendar(hours.timeZone);
+    int compared = 0;
+    for (const Register &meterRegister : {importLow, importNormal, exportLow, exportNormal}) {
+        const Meter &hourly = hours.meters.at(meterRegister);
+        const Meter &fine = minutes.meters.at(meterRegister);
+        for (QDate date(2024, 2, 19); date <= QDate(2024, 2, 23); date = date.addDays(1)) {
+            for (int hour = 1; hour < Calendar::HoursPerDay; ++hour) {
+                const Interval slot = calendar.hour(date, hour);
+                const std::optional<double> expected = hourly.amount(slot);
+                const std::optional<double> found = fine.amount(slot);
+                QVERIFY(expected && found);
+                QCOMPARE(rounded(found, 3), rounded(expected, 3));
+                ++compared;
+            }
+        }
+    }
+    QCOMPARE(compared, 4 * 5 * 23);
+}
+
+void TestRealReadings::p1MinutesTellThePower()
+{
+    const Household household = load({minuteFile});
+    const std::optional<GridPower> power = household.latestPower();
+    QVERIFY(power);
+    QCOMPARE(rounded(power->watts, 3), rounded(1232.14285714286 - 206.285714285714, 3));
+    QCOMPARE(power->instant, utc("2024-03-03T10:10:00"));
+}
+
+void TestRealReadings::p1WrongMinuteIsLeftOut()
+{
+    const Household household = load({minuteFile});
+    const Meter &low = household.meters.at(importLow);
+    // 23:17 and 23:18 need the reading that was wrong; before and after it all is known.
+    QVERIFY(!low.amount(utc("2024-02-24T22:17:00"), utc("2024-02-24T22:18:00")));
+    QVERIFY(!low.amount(utc("2024-02-24T22:18:00"), utc("2024-02-24T22:19:00")));
+    QCOMPARE(rounded(low.amount(utc("2024-02-24T22:17:00"), utc("2024-02-24T22:19:00")), 3),
+             QStringLiteral("0.000"));
+    QCOMPARE(rounded(low.amount(utc("2024-02-24T22:19:00"), utc("2024-02-24T22:20:00")), 3),
+             QStringLiteral("0.001"));
+    QCOMPARE(
+        problemsOf(household),
+        (QStringList {
+            minuteFile
+                + QStringLiteral(":8599: electricity import (low tariff) 15521.409 is more than "
+                                 "what follows; left out"),
+            minuteFile
+                + QStringLiteral(":8599: electricity export (low tariff) 4013.046 is more than "
+                                 "what follows; left out")}));
+    // Rows miss from 00:02 to 11:09.
+    QVERIFY(!low.amount(utc("2024-02-24T23:02:00"), utc("2024-02-24T23:03:00")));
+    QCOMPARE(rounded(low.amount(utc("2024-02-24T23:02:00"), utc("2024-02-25T10:11:00")), 3),
+             QStringLiteral("0.109"));
+}
+
+void TestRealReadings::p1FilesMerge()
+{
+    const Household household = load({hourlyFile, minuteFile});
+    const Meter &low = household.meters.at(importLow);
+    QCOMPARE(rounded(low.total(), 3), QStringLiteral("4987.931"));
+    QCOMPARE(household.lastInstant(), std::optional<qint64>(utc("2024-03-03T11:00:00")));
+    QCOMPARE(household.latestPower()->instant, utc("2024-03-03T10:10:00"));
+    QVERIFY(low.amount(utc("2024-02-24T10:10:00"), utc("2024-02-24T10:11:00")));
+    QVERIFY(low.amount(utc("2023-06-14T10:00:00"), utc("2023-06-14T11:00:00")));
+    for (const QString &line : household.problems)
+        QVERIFY2(!line.contains(QStringLiteral("another meter")), qPrintable(line));
+}
+
+void TestRealReadings::portalYearTotals()
+{
+    const Household household = load({quarterFile, gasFile});
+    QCOMPARE(household.problems, QStringList());
+    QCOMPARE(rounded(household.meters.at(importNormal).total(), 2), QStringLiteral("6328.42"));
+    QCOMPARE(rounded(household.meters.at(importLow).total(), 2), QStringLiteral("2455.23"));
+    QCOMPARE(household.meters.at(exportNormal).total(), 0.0);
+    QCOMPARE(household.meters.at(exportLow).total(), 0.0);
+    QCOMPARE(rounded(household.total(Quantity::Gas), 2), QStringLiteral("3550.10"));
+    QCOMPARE(household.firstInstant(), std::optional<qint64>(utc("2022-12-31T23:00:00")));
+    QCOMPARE(household.lastInstant(), std::optional<qint64>(utc("2023-12-31T23:00:00")));
+}
+
+void TestRealReadings::portalElectricityHasNoGap()
+{
+    const Household household = load({quarterFile});
+    const Calendar calendar(household.timeZone);
+    const Interval year = yearOf(calendar, 2023);
+    QCOMPARE(rounded(household.amount(Quantity::GridImport, year), 2), QStringLiteral("8783.65"));
+    double sum = 0.0;
+    for (QDate date(2023, 1, 1); date.year() == 2023; date = date.addDays(1)) {
+        const auto hours = calendar.hoursOfDay(household.metersOf(Quantity::GridImport), date);
+        QCOMPARE(knownIn(hours), date == QDate(2023, 3, 26) ? 23 : 24);
+        sum += sumOf(hours);
+        QCOMPARE(rounded(household.amount(Quantity::GridImport, calendar.day(date)), 2),
+                 rounded(sumOf(hours), 2));
+    }
+    QCOMPARE(rounded(sum, 2), QStringLiteral("8783.65"));
+    // Both quarters of 2:00 to 3:00, of summer time and of winter time, lie in the slot.
+    const auto autumn =
+        calendar.hoursOfDay(household.metersOf(Quantity::GridImport), QDate(2023, 10, 29));
+    QCOMPARE(rounded(autumn[2], 2),
+             rounded(0.10 + 0.11 + 0.10 + 0.32 + 0.12 + 0.10 + 0.11 + 0.11, 2));
+    QCOMPARE(household.consumption(calendar.day(QDate(2023, 6, 1))),
+             household.amount(Quantity::GridImport, calendar.day(QDate(2023, 6, 1))));
+}
+
+void TestRealReadings::portalGasLacksOneHour()
+{
+    const Household household = load({gasFile});
+    const Calendar calendar(household.timeZone);
+    const auto meters = household.metersOf(Quantity::Gas);
+    for (QDate date(2023, 1, 1); date.year() == 2023; date = date.addDays(1)) {
+        const bool isAutumn = date == QDate(2023, 10, 29);
+        const int expected = date == QDate(2023, 3, 26) || isAutumn ? 23 : 24;
+        QCOMPARE(knownIn(calendar.hoursOfDay(meters, date)), expected);
+        QCOMPARE(calendar.days(meters, date, 1)[0].has_value(), !isAutumn);
+    }
+    QVERIFY(!calendar.hoursOfDay(meters, QDate(2023, 10, 29))[2]);
+    QVERIFY(!meters.front()->amount(utc("2023-10-29T00:00:00"), utc("2023-10-29T01:00:00")));
+    QVERIFY(meters.front()->amount(utc("2023-10-29T01:00:00"), utc("2023-10-29T02:00:00")));
+}
+
+void TestRealReadings::portalTellsTheMeanPower()
+{
+    const Household household = load({quarterFile});
+    const std::optional<GridPower> power = household.latestPower();
+    QVERIFY(power);
+    QCOMPARE(rounded(power->watts, 6), QStringLiteral("520.000000")); // 0.13 kWh in 15 minutes
+    QCOMPARE(power->instant, utc("2023-12-31T23:00:00"));
+    QVERIFY(!load({gasFile}).latestPower());
+}
+
+void TestRealReadings::canadianYearTotals()
+{
+    const Household household = load({canadianFile});
+    QCOMPARE(household.problems, QStringList());
+    const Calendar calendar(household.timeZone);
+    const Interval year = yearOf(calendar, 2013);
+    QCOMPARE(rounded(household.total(Quantity::Water), 4), QStringLiteral("297.4965"));
+    QCOMPARE(rounded(household.amount(Quantity::Water, year), 4), QStringLiteral("297.4965"));
+    QCOMPARE(rounded(household.total(Quantity::Gas), 5), QStringLiteral("420.06786"));
+    QCOMPARE(rounded(household.amount(Quantity::Gas, year), 5), QStringLiteral("420.06786"));
+}
+
+void TestRealReadings::canadianYearHasNoGap()
+{
+    const Household household = load({canadianFile});
+    QCOMPARE(household.timeZone.id(), QByteArray("America/Vancouver"));
+    const Calendar calendar(household.timeZone);
+    for (const Quantity quantity : {Quantity::Water, Quantity::Gas}) {
+        double sum = 0.0;
+        for (QDate date(2013, 1, 1); date.year() == 2013; date = date.addDays(1)) {
+            const auto hours = calendar.hoursOfDay(household.metersOf(quantity), date);
+            QCOMPARE(knownIn(hours), date == QDate(2013, 3, 10) ? 23 : 24);
+            sum += sumOf(hours);
+        }
+        QCOMPARE(rounded(sum, 4), rounded(household.total(quantity), 4));
+    }
+    // Nobody was at home: the hours are 0, and no gaps.
+    const auto holiday =
+        calendar.hoursOfDay(household.metersOf(Quantity::Water), QDate(2013, 8, 3));
+    QCOMPARE(holiday, Calendar::Amounts(24, 0.0));
+}
+
+void TestRealReadings::eachFileIsReadFast_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name :
+         {germanFile, hourlyFile, minuteFile, quarterFile, gasFile, canadianFile})
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+// A tenth of this with optimisation; without it and under a sanitizer it takes longer.
+void TestRealReadings::eachFileIsReadFast()
+{
+    QFETCH(QString, name);
+    QElapsedTimer timer;
+    timer.start();
+    const Household household = load({name});
+    const qint64 elapsed = timer.elapsed();
+    QVERIFY(!household.meters.empty());
+    QVERIFY2(elapsed < 3000, qPrintable(QString::number(elapsed)));
+}
+
+void TestRealReadings::allFilesAtOnceTellWhatDoesNotFitTogether()
+{
+    const Household household =
+        load({quarterFile, gasFile, germanFile, canadianFile, hourlyFile, minuteFile});
+    QCOMPARE(household.timeZone.id(), QByteArray("Europe/Amsterdam"));
+    QCOMPARE(rounded(household.meters.at(importNormal).total(), 2), QStringLiteral("6328.42"));
+    QCOMPARE(rounded(household.total(Quantity::Water), 4), QStringLiteral("297.4965"));
+    const QStringList problems = problemsOf(household);
+    const auto count = [&](const QString &text) { return problems.filter(text).size(); };
+    QCOMPARE(count(QStringLiteral("is of the time zone Europe/Berlin")), 1);
+    QCOMPARE(count(QStringLiteral("is of the time zone America/Vancouver")), 1);
+    QCOMPARE(count(QStringLiteral("electricity import is known already from amounts by tariff")),
+             3);
+    QCOMPARE(count(QStringLiteral("electricity export is known already from amounts by tariff")),
+             3);
+    QCOMPARE(count(QStringLiteral("left out: furnace_gas_counter; gas is known already")), 1);
+}
+
+QTEST_GUILESS_MAIN(TestRealReadings)
+#include "tst_realreadings.moc"
