@@ -13,6 +13,8 @@
 
 #include <qwt_painter.h>
 
+Q_DECLARE_METATYPE(QwtColumnRect)
+
 namespace {
 
 constexpr QSize iconSize(12, 16);
@@ -451,8 +453,6 @@ void tst_ZEMColumnSymbol::unreadableIconReplacesAnEarlierOne()
     symbol.setIcon(QStringLiteral(":/no/such/icon.png"));
     QVERIFY(inkOf(draw(symbol, columnRect(20, 60, 10, 70)), iconColor).isNull());
 }
-
-Q_DECLARE_METATYPE(QwtColumnRect)
 
 QTEST_MAIN(tst_ZEMColumnSymbol)
 #include "tst_zemcolumnsymbol.moc"
