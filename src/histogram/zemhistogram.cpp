@@ -330,6 +330,8 @@ void ZEMHistogram::setPlotLookAndFeel()
 
     auto *canvas = qobject_cast<QwtPlotCanvas *>(plot->canvas());
     canvas->setFrameStyle(0);
+    // On a button it would take the button's colour instead of its own picture.
+    canvas->setBackgroundRole(QPalette::Window);
 
     mover = new QwtPlotMover(canvas);
     mover->setMouseButton(Qt::LeftButton, Qt::NoModifier);

@@ -7,6 +7,7 @@
 #include "zemtest.h"
 
 #include <QwtPlotMover>
+#include <ZEMButton>
 #include <ZEMHistogram>
 #include <ZEMHistogramData>
 #include <ZEMHistogramLegend>
@@ -125,6 +126,7 @@ private Q_SLOTS:
     void valueLimits();
 
     void lookOfThePlot();
+    void canvasPictureShowsOnAButtonToo();
     void moverSettings();
     void heightOfThePlot();
     void baseLayout();
@@ -362,6 +364,22 @@ void tst_ZEMHistogram::lookOfThePlot()
     QCOMPARE(layout->canvasMargin(QwtPlot::xBottom), -1);
     QCOMPARE(layout->canvasMargin(QwtPlot::xTop), -1);
     QCOMPARE(layout->canvasMargin(QwtPlot::yRight), 10);
+}
+
+void tst_ZEMHistogram::canvasPictureShowsOnAButtonToo()
+{
+    ZEMButton button;
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::Button, Qt::white);
+    button.setPalette(palette);
+    auto *layout = new QVBoxLayout(&button);
+    auto *chart = new Chart;
+    chart->init();
+    chart->plot->setCanvasBackground(QBrush(Qt::blue));
+    layout->addWidget(chart);
+    button.resize(493, 400);
+    const QImage image = render(chart->plot->canvas());
+    QCOMPARE(image.pixelColor(image.rect().center()), QColor(Qt::blue));
 }
 
 void tst_ZEMHistogram::moverSettings()

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMCURRENTSTATUSDETAILS_H
+#define ZEMCURRENTSTATUSDETAILS_H
+
+#include "zemlabeledbutton.h"
+
+class ZEMCurrentStatusDetailsItem;
+
+/**
+ * The panel "totaal nu": consumption, production and grid, each with its total and under it a row
+ * of items, one for each device or source.
+ *
+ * @code
+ * auto *details = new ZEMCurrentStatusDetails(page);
+ * details->addConsumptionItem(house);
+ * details->addConsumptionItem(car); // house + car
+ * details->addProductionItem(solar);
+ * details->setTotalConsumptionValue(3040.0); // watts
+ * details->setTotalProductionValue(250.0);
+ * @endcode
+ * The host gives the totals; they are not summed up from the items. The total of the grid is
+ * consumption minus production. All are shown as ZEMUtils::wattToStringAutoScale() words them.
+ *
+ * Items that are added become children of the panel. Its size is fixed, 493 by 262 pixels.
+ */
+class ZEM_EXPORT ZEMCurrentStatusDetails : public ZEMLabeledButton
+{
+    Q_OBJECT
+
+public:
+    explicit ZEMCurrentStatusDetails(QWidget *parent = nullptr);
+    ~ZEMCurrentStatusDetails() override;
+
+    /** Adds an item at the end of its row, after a plus sign if there is one before it already. */
+    void addConsumptionItem(ZEMCurrentStatusDetailsItem *item);
+    /**
+     * Takes the newest item out of the row of consumption, and the plus sign before it. @p item is
+     * neither hidden nor deleted and stays a child of the panel; the caller disposes of it.
+     *
+     * Only for the newest one: whatever @p item is, the last entry of a row that still has several
+     * is deleted, which after an earlier item is the newest item itself.
+     */
+    void deleteConsumptionItem(ZEMCurrentStatusDetailsItem *item);
+    /** Adds an item at the end of its row. */
+    void addProductionItem(ZEMCurrentStatusDetailsItem *item);
+    /** Adds an item at the end of its row. */
+    void addTotalsItem(ZEMCurrentStatusDetailsItem *item);
+
+    /** Whether the grid meter gives valid data; true by default. */
+    bool getMeteringStatus() const;
+    /**
+     * With false the totals of consumption and grid show "?". It is passed on to all items of
+     * consumption, see ZEMCurrentStatusDetailsItem::setValid(); the others keep their own.
+     */
+    void setMeteringStatus(bool ok);
+
+    /** Brings the three totals up to date; the setters do so by themselves. */
+    void updateUI();
+
+public Q_SLOTS:
+    /** Both totals are in watts and 0 by default. */
+    void setTotalConsumptionValue(double watt);
+    void setTotalProductionValue(double watt);
+
+private:
+    Q_DISABLE_COPY(ZEMCurrentStatusDetails)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMENERGYTAB_H
+#define ZEMENERGYTAB_H
+
+#include "zembutton.h"
+#include "zemenergyicon.h"
+
+/**
+ * A tab for an energy: a button with a big ZEMEnergyIcon on it, 47 by 40 pixels.
+ *
+ * It is not checkable when new. Tabs of one parent that are checkable and auto-exclusive form a
+ * row; ZEMEnergyTabWidget is one with all five energies.
+ * @code
+ * auto *gas = new ZEMEnergyTab(row);
+ * gas->setCheckable(true);
+ * gas->setAutoExclusive(true);
+ * gas->setEnergyType(ZEMEnergyIcon::Gas);
+ * connect(gas, QOverload<ZEMEnergyIcon::Type>::of(&ZEMEnergyTab::clicked), this,
+ * &Page::showEnergy);
+ * @endcode
+ */
+class ZEM_EXPORT ZEMEnergyTab : public ZEMButton
+{
+    Q_OBJECT
+    Q_PROPERTY(ZEMEnergyIcon::Type energyType READ getEnergyType WRITE setEnergyType)
+
+public:
+    explicit ZEMEnergyTab(QWidget *parent = nullptr);
+    ~ZEMEnergyTab() override;
+
+    /** The energy of the icon; ZEMEnergyIcon::Electricity by default. */
+    ZEMEnergyIcon::Type getEnergyType() const;
+    /** Sets the energy and paints the icon at once. */
+    void setEnergyType(ZEMEnergyIcon::Type type);
+
+    using ZEMButton::clicked;
+
+Q_SIGNALS:
+    /** Follows each clicked(bool), also of a tab that was checked already. */
+    void clicked(ZEMEnergyIcon::Type type);
+
+private Q_SLOTS:
+    void slot_btn_clicked();
+
+private:
+    Q_DISABLE_COPY(ZEMEnergyTab)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif
