@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "houseclock.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double millisecondsPerSecond = 1000.0;
+constexpr double longestWait = 86400.0 * millisecondsPerSecond;
+
+} // namespace
+
+HouseClock::HouseClock(qint64 systemStart, double speed)
+    : start(systemStart), factor(std::isnan(speed) ? 1.0 : std::clamp(speed, slowest, fastest))
+{
+}
+
+qint64 HouseClock::instantAt(qint64 systemNow) const
+{
+    const double passed = double(systemNow - start) * factor;
+    return qint64(std::floor((double(start) + passed) / millisecondsPerSecond));
+}
+
+int HouseClock::millisecondsUntil(qint64 instant, qint64 systemNow) const
+{
+    const double due =
+        double(start) + (double(instant) * millisecondsPerSecond - double(start)) / factor;
+    return int(std::clamp(std::ceil(due - double(systemNow)), 0.0, longestWait));
+}
+
+std::optional<double> parseSpeed(const QString &text)
+{
+    bool isNumber = false;
+    const double speed = text.toDouble(&isNumber);
+    if (!isNumber || !(speed >= HouseClock::slowest && speed <= HouseClock::fastest)) {
+        return std::nullopt;
+    }
+    return speed;
+}
