@@ -1,24 +1,33 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "charts/chartspage.h"
+#include "charts/energy.h"
+#include "displaywindow.h"
+#include "housesource.h"
+#include "metersource.h"
 #include "options.h"
 #include "readingsfile.h"
+#include "readingssource.h"
 #include "screenshots.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFont>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTimer>
 #include <ZEMStyle>
-
 #include <memory>
+#include <optional>
 
 namespace {
 
 constexpr int exitFailure = 1;
 constexpr int exitNothingToShow = 2;
+constexpr int patience = 5000; // milliseconds that screenshots wait for a meter
+constexpr int arrowsUnderWay = 700; // milliseconds
 
 void printError(const QString &line)
 {
@@ -36,7 +45,7 @@ Options optionsOf(int argc, char *argv[])
     // Help, version and refusals need no display.
     const QCoreApplication application(argc, argv);
     nameApplication();
-    return readOptions(application.arguments(), {QStringLiteral("charts")});
+    return readOptions(application.arguments(), DisplayWindow::pageNames());
 }
 
 void setLook()
@@ -44,6 +53,57 @@ void setLook()
     QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
     QFont::insertSubstitution(QStringLiteral("Quicksand Book"), QStringLiteral("Quicksand"));
     QApplication::setFont(QFont(QStringLiteral("Cabin"), 11));
+    // The chart page of the library traces every press.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+}
+
+std::unique_ptr<EnergySource> meterSource(const Options &options)
+{
+    P1Settings settings;
+    // Pictures are of what a file says in the end.
+    settings.speed = options.screenshots.isEmpty() ? options.speed : 0.0;
+    auto source = std::make_unique<MeterSource>(options.meter, settings);
+    QObject::connect(source.get(), &MeterSource::problem, source.get(), &printError);
+    return source;
+}
+
+/** Reads the files and prints what is wrong with them. Empty if there is nothing to show. */
+std::optional<Readings::Household> readHousehold(const QStringList &files)
+{
+    Readings::Household household = Readings::loadReadings(files);
+    for (const QString &problem : qAsConst(household.problems)) {
+        printError(problem);
+    }
+    if (energiesOf(household).empty()) {
+        printError(QStringLiteral("zemkit-display: nothing to show, as no reading of the files "
+                                  "could be used"));
+        return std::nullopt;
+    }
+    return household;
+}
+
+std::unique_ptr<EnergySource> makeSource(const Options &options,
+                                         std::optional<Readings::Household> household)
+{
+    if (household) {
+        return std::make_unique<ReadingsSource>(std::move(*household));
+    }
+    if (!options.meter.isEmpty()) {
+        return meterSource(options);
+    }
+    return std::make_unique<HouseSource>(options.speed);
+}
+
+/** Gives the arrows time to set off, and a meter to tell all it has. */
+void waitForPictures(const EnergySource *source)
+{
+    QEventLoop loop;
+    const auto *meter = qobject_cast<const MeterSource *>(source);
+    if (meter) {
+        QObject::connect(meter, &MeterSource::ended, &loop, &QEventLoop::quit);
+    }
+    QTimer::singleShot(meter ? patience : arrowsUnderWay, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 } // namespace
@@ -60,34 +120,33 @@ int main(int argc, char *argv[])
         return exitFailure;
     }
 
-    const Readings::Household household = Readings::loadReadings(options.readings);
-    for (const QString &problem : household.problems) {
-        printError(problem);
-    }
-    if (energiesOf(household).empty()) {
-        printError(options.readings.isEmpty()
-                       ? QStringLiteral("zemkit-display: nothing to show; give --readings FILE...")
-                       : QStringLiteral("zemkit-display: nothing to show, as no reading of the "
-                                        "files could be used"));
-        return exitNothingToShow;
-    }
-
     if (!options.screenshots.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    nameApplication();
+    std::optional<Readings::Household> household;
+    if (!options.readings.isEmpty()) {
+        // Before there is a window, for files without a reading need none.
+        household = readHousehold(options.readings);
+        if (!household) {
+            return exitNothingToShow;
+        }
+    }
+
     const QApplication application(argc, argv);
+    nameApplication();
     // The texts are Dutch, and so are the dates and numbers in them.
     QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     setLook();
 
-    const auto charts = std::make_unique<ChartsPage>(household);
-    charts->setWindowTitle(QStringLiteral("zemkit-display"));
-    charts->setFixedSize(640, 480);
+    const std::unique_ptr<EnergySource> source = makeSource(options, std::move(household));
+    DisplayWindow display(*source);
+    display.openPage(options.page);
+    display.show();
+    source->start();
 
-    charts->show();
     if (!options.screenshots.isEmpty()) {
-        const QString problem = writeScreenshots(options.screenshots, charts.get());
+        waitForPictures(source.get());
+        const QString problem = writeScreenshots(options.screenshots, &display);
         if (!problem.isEmpty()) {
             printError(QStringLiteral("zemkit-display: %1").arg(problem));
             return exitFailure;

@@ -3,6 +3,8 @@
 
 #include "options.h"
 
+#include "houseclock.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -31,13 +33,23 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels."));
+        QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
+                       "simulated one, or a real one with --readings or --p1."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption readings(
         QStringLiteral("readings"),
         QStringLiteral("Show the readings of these CSV files, which are those of one household."),
         QStringLiteral("FILE..."));
+    const QCommandLineOption meter(
+        QStringLiteral("p1"),
+        QStringLiteral("Follow the P1 telegrams of a smart meter: a file, - for standard input, a "
+                       "serial port as /dev/ttyUSB0, or host:port."),
+        QStringLiteral("SOURCE"));
+    const QCommandLineOption speed(
+        QStringLiteral("speed"),
+        QStringLiteral("Let the simulated house, or a file of telegrams, run N times as fast."),
+        QStringLiteral("N"), QStringLiteral("1"));
     const QCommandLineOption page(
         QStringLiteral("page"),
         QStringLiteral("Open this page: %1.").arg(pages.join(QStringLiteral(", "))),
@@ -46,7 +58,7 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         QStringLiteral("screenshots"),
         QStringLiteral("Write each page and each chart as a PNG to this directory, and end."),
         QStringLiteral("DIR"));
-    parser.addOptions({readings, page, screenshots});
+    parser.addOptions({readings, meter, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings."),
                                  QStringLiteral("[FILE...]"));
@@ -70,7 +82,20 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
                            .arg(parser.value(page), pages.join(QStringLiteral(", "))));
     }
 
+    if (parser.isSet(meter) && parser.isSet(readings)) {
+        return refusal(QStringLiteral("--readings and --p1 do not go together"));
+    }
+    const std::optional<double> factor = parseSpeed(parser.value(speed));
+    if (!factor) {
+        return refusal(QStringLiteral("--speed wants a number from %1 to %2, not '%3'")
+                           .arg(HouseClock::slowest)
+                           .arg(HouseClock::fastest)
+                           .arg(parser.value(speed)));
+    }
+
     Options options;
+    options.meter = parser.value(meter);
+    options.speed = *factor;
     options.readings = parser.values(readings) + parser.positionalArguments();
     options.page = parser.value(page);
     options.screenshots = parser.value(screenshots);

@@ -20,6 +20,8 @@ struct Options
     QString text;
 
     QStringList readings; ///< CSV files
+    QString meter; ///< where a smart meter is to be followed; empty: no meter
+    double speed = 1.0; ///< how much faster than the clock on the wall
     QString screenshots; ///< directory for the pictures of all pages; empty: show the display
     QString page; ///< the page to open; empty: the first
 };

@@ -3,57 +3,67 @@
 
 #include "screenshots.h"
 
-#include "charts/chartspage.h"
+#include "chartspage.h"
+#include "displaywindow.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QPixmap>
-#include <ZEMHistogram>
 
 namespace {
 
-const char *nameOf(Period period)
+/** Grabs pictures into a directory until one cannot be written. */
+class PictureWriter
 {
-    switch (period) {
-    case Period::Day:
-        return "day";
-    case Period::Week:
-        return "week";
-    case Period::Month:
-        break;
+public:
+    PictureWriter(const QString &directory, DisplayWindow *shownDisplay)
+        : dir(directory), display(shownDisplay)
+    {
+        if (!dir.mkpath(QStringLiteral("."))) {
+            problem = QStringLiteral("cannot make the directory %1").arg(directory);
+        }
     }
-    return "month";
-}
 
-QString writePicture(QWidget *page, const QDir &directory, const QString &name)
-{
-    const QString path = directory.filePath(name + QStringLiteral(".png"));
-    return page->grab().save(path) ? QString() : QStringLiteral("cannot write %1").arg(path);
-}
+    void write(const QString &name)
+    {
+        // A new headline has asked for room, which it gets in the event loop.
+        QCoreApplication::processEvents();
+        const QString path = dir.filePath(name + QStringLiteral(".png"));
+        if (problem.isEmpty() && !display->grab().save(path)) {
+            problem = QStringLiteral("cannot write %1").arg(path);
+        }
+    }
+
+    QString firstProblem() const { return problem; }
+
+private:
+    const QDir dir;
+    DisplayWindow *const display;
+    QString problem;
+};
 
 } // namespace
 
-QString writeScreenshots(const QString &directory, ChartsPage *charts)
+QString writeScreenshots(const QString &directory, DisplayWindow *display)
 {
-    const QDir dir(directory);
-    if (!dir.mkpath(QStringLiteral("."))) {
-        return QStringLiteral("cannot make the directory %1").arg(directory);
+    PictureWriter writer(directory, display);
+    for (const QString &name : DisplayWindow::pageNames()) {
+        display->openPage(name);
+        writer.write(name);
     }
-    const QStringList keys = charts->energyKeys();
-    for (int energy = 0; energy < keys.size(); ++energy) {
-        for (const Period period : {Period::Day, Period::Week, Period::Month}) {
+
+    ChartsPage *charts = display->chartsPage();
+    display->setCurrentWidget(charts);
+    for (const Energy &energy : charts->allEnergies()) {
+        for (const Period period : allPeriods) {
             const QString name =
-                QStringLiteral("charts-%1-%2").arg(keys[energy], QLatin1String(nameOf(period)));
-            charts->showChart(energy, period);
-            QString problem = writePicture(charts, dir, name);
-            if (problem.isEmpty()) {
-                // The period before, which tends to be a whole one.
-                charts->chart()->showPrevPeriod();
-                problem = writePicture(charts, dir, name + QStringLiteral("-before"));
-            }
-            if (!problem.isEmpty()) {
-                return problem;
-            }
+                QStringLiteral("charts-%1-%2").arg(energy.key, QLatin1String(infoOf(period).key));
+            charts->showChart(energy.tab, period);
+            writer.write(name);
+            // The newest period tends to be unfinished.
+            charts->showPreviousPeriod();
+            writer.write(name + QStringLiteral("-before"));
         }
     }
-    return {};
+    return writer.firstProblem();
 }

@@ -6,12 +6,12 @@
 
 #include <QString>
 
-class ChartsPage;
+class DisplayWindow;
 
 /**
- * Writes each page and each chart as a PNG to @p directory, which is made if need be. Returns an
- * empty text, or what went wrong.
+ * Writes each page and each chart of the shown @p display as a PNG to @p directory, which is made
+ * if need be. Returns an empty text, or what went wrong.
  */
-QString writeScreenshots(const QString &directory, ChartsPage *charts);
+QString writeScreenshots(const QString &directory, DisplayWindow *display);
 
 #endif

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void dayWindows();
     void weekWindows();
     void monthWindowsEndWithTheLastWeek();
+    void runningSlotShowsWhatIsCounted();
+    void yearWindows();
     void dayOf23HoursComesOutWhole();
     void dayOf25HoursComesOutWhole();
     void gapsAreNoBarsAndZerosAre();
@@ -107,6 +109,35 @@ void tst_ChartValues::monthWindowsEndWithTheLastWeek()
     QCOMPARE(chart.values[9].value_or(-1.0), 7 * 24.0);
 }
 
+void tst_ChartValues::runningSlotShowsWhatIsCounted()
+{
+    const QDate wednesday(2016, 3, 9);
+    readHourly(QDate(2016, 3, 7), QDate(2016, 3, 8));
+    meter->addReading(calendar.hour(wednesday, 0).to, 149.0);
+    meter->addReading(calendar.hour(wednesday, 1).from + 600, 149.25);
+    const ChartValues hours = values(Period::Day, wednesday, wednesday);
+    QCOMPARE(hours.values[0].value_or(-1.0), 1.0);
+    QCOMPARE(hours.values[1].value_or(-1.0), 0.25);
+    QVERIFY(!hours.values[2].has_value());
+    const ChartValues days = values(Period::Week, wednesday, wednesday);
+    QCOMPARE(days.values[1].value_or(-1.0), 24.0);
+    QCOMPARE(days.values[2].value_or(-1.0), 1.25);
+    QVERIFY(!days.values[3].has_value());
+}
+
+void tst_ChartValues::yearWindows()
+{
+    readHourly(QDate(2015, 11, 1), QDate(2016, 4, 30));
+    const ChartValues chart = values(Period::Year, QDate(2015, 11, 1), QDate(2016, 4, 30));
+    QCOMPARE(chart.windows(), 2u);
+    QCOMPARE(chart.newestWindow, QDate(2016, 1, 1));
+    QVERIFY(!chart.values[9].has_value());
+    QCOMPARE(chart.values[10].value_or(-1.0), 30 * 24.0);
+    QCOMPARE(chart.values[13].value_or(-1.0), 29 * 24.0); // February of a leap year
+    QCOMPARE(chart.values[14].value_or(-1.0), 31 * 24.0 - 1.0); // summer time took an hour
+    QVERIFY(!chart.values[16].has_value());
+}
+
 void tst_ChartValues::dayOf23HoursComesOutWhole()
 {
     const QDate summerTime(2016, 3, 27);
@@ -137,7 +168,7 @@ void tst_ChartValues::gapsAreNoBarsAndZerosAre()
         meter->addReading(midnight + hour * 3600, 10.0); // nothing used
     }
     const ChartValues chart = values(Period::Day, date, date);
-    const std::unique_ptr<ZEMHistogramData> data(makeChartData(chart, 0.1));
+    const std::unique_ptr<ZEMHistogramData> data(makeChartData(chart));
     data->setRectOfInterest(QRectF(0.0, 0.0, 24.0, 10.0));
     for (size_t hour = 1; hour < 24; ++hour) {
         const bool known = hour == 1 || hour == 5;
@@ -153,12 +184,12 @@ void tst_ChartValues::chartDataOfWindows()
     for (int day = 0; day < 14; ++day) {
         chart.values.push_back(day == 3 ? std::nullopt : std::optional<double>(day));
     }
-    const std::unique_ptr<ZEMHistogramData> data(makeChartData(chart, 0.25));
+    const std::unique_ptr<ZEMHistogramData> data(makeChartData(chart));
     QCOMPARE(data->interval(), QwtInterval(-7.0, 7.0));
     data->setRectOfInterest(QRectF(-7.0, 0.0, 7.0, 10.0));
     QCOMPARE(data->sample(1).value, 1.0);
-    QCOMPARE(data->sample(1).interval.minValue(), -5.75);
-    QCOMPARE(data->sample(1).interval.maxValue(), -5.25);
+    QCOMPARE(data->sample(1).interval.minValue(), -6.0 + infoOf(Period::Week).inset);
+    QCOMPARE(data->sample(1).interval.maxValue(), -5.0 - infoOf(Period::Week).inset);
     QVERIFY(!data->sample(3).interval.isValid());
     data->setRectOfInterest(QRectF(0.0, 0.0, 7.0, 10.0));
     QCOMPARE(data->sample(6).value, 13.0);

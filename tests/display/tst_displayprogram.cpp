@@ -19,7 +19,12 @@ private Q_SLOTS:
     void unknownOption();
     void unknownPage();
     void argumentWithoutOption();
-    void nothingToShow();
+    void badSpeed_data();
+    void badSpeed();
+    void readingsAndMeterDoNotGoTogether();
+    void liveHouseShowsEverything();
+    void meterOfAFile();
+    void meterThatIsNotThere();
     void missingFile();
     void unknownHeader();
     void brokenRowIsNamedAndTheRestIsShown();
@@ -71,7 +76,8 @@ void tst_DisplayProgram::help()
 {
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.status, 0);
-    for (const char *option : {"--readings", "--screenshots", "--page", "--help", "--version"}) {
+    for (const char *option :
+         {"--readings", "--p1", "--speed", "--screenshots", "--page", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QCOMPARE(result.errors, QString());
@@ -95,7 +101,8 @@ void tst_DisplayProgram::unknownPage()
 {
     const Result result = run({QStringLiteral("--page"), QStringLiteral("attic")});
     QCOMPARE(result.status, 1);
-    QVERIFY2(result.errors.contains(QStringLiteral("no page 'attic'; there is charts")),
+    QVERIFY2(result.errors.contains(
+                 QStringLiteral("no page 'attic'; there is overview, charts, devices")),
              qPrintable(result.errors));
 }
 
@@ -107,12 +114,75 @@ void tst_DisplayProgram::argumentWithoutOption()
              qPrintable(result.errors));
 }
 
-void tst_DisplayProgram::nothingToShow()
+void tst_DisplayProgram::badSpeed_data()
 {
-    const Result result = run({});
-    QCOMPARE(result.status, 2);
-    QCOMPARE(result.errors,
-             QStringLiteral("zemkit-display: nothing to show; give --readings FILE...\n"));
+    QTest::addColumn<QString>("speed");
+    for (const char *speed : {"0", "-1", "fast", "1e9", "nan", ""}) {
+        QTest::newRow(speed) << QString::fromLatin1(speed);
+    }
+}
+
+void tst_DisplayProgram::badSpeed()
+{
+    QFETCH(QString, speed);
+    const Result result = run({QStringLiteral("--speed=") + speed});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("--speed wants a number")),
+             qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::readingsAndMeterDoNotGoTogether()
+{
+    const Result result = run({QStringLiteral("--readings"), QStringLiteral("a.csv"),
+                               QStringLiteral("--p1"), QStringLiteral("b.txt")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("--readings and --p1 do not go together")),
+             qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::liveHouseShowsEverything()
+{
+    const QString screens = dir.filePath(QStringLiteral("live"));
+    const Result result = run({QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    const QStringList pictures = QDir(screens).entryList(QDir::Files);
+    for (const char *name : {"overview", "devices", "charts", "charts-electricity-day",
+                             "charts-gas-week", "charts-water-month", "charts-solar-year"}) {
+        QVERIFY2(pictures.contains(QLatin1String(name) + QStringLiteral(".png")), name);
+    }
+}
+
+static QByteArray oldTelegram()
+{
+    return "/ISk5\\2ME382-1003\r\n\r\n"
+           "0-0:96.1.1(4B414C37303035303739393336333132)\r\n"
+           "1-0:1.8.1(00608.400*kWh)\r\n1-0:1.8.2(00490.342*kWh)\r\n"
+           "1-0:2.8.1(00000.001*kWh)\r\n1-0:2.8.2(00000.000*kWh)\r\n"
+           "0-0:96.14.0(0001)\r\n1-0:1.7.0(0001.51*kW)\r\n1-0:2.7.0(0000.00*kW)\r\n!\r\n";
+}
+
+void tst_DisplayProgram::meterOfAFile()
+{
+    const QString path = writeReadings(QStringLiteral("telegram.txt"), oldTelegram());
+    const QString screens = dir.filePath(QStringLiteral("meter"));
+    const Result result =
+        run({QStringLiteral("--p1"), path, QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    QVERIFY(QFile::exists(screens + QStringLiteral("/overview.png")));
+    QVERIFY(QFile::exists(screens + QStringLiteral("/charts-electricity-day.png")));
+}
+
+void tst_DisplayProgram::meterThatIsNotThere()
+{
+    const QString path = dir.filePath(QStringLiteral("none.txt"));
+    const QString screens = dir.filePath(QStringLiteral("no-meter"));
+    const Result result =
+        run({QStringLiteral("--p1"), path, QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.errors.startsWith(path + QLatin1Char(':')), qPrintable(result.errors));
+    QVERIFY(QFile::exists(screens + QStringLiteral("/overview.png")));
 }
 
 void tst_DisplayProgram::missingFile()
@@ -171,7 +241,7 @@ void tst_DisplayProgram::screenshotsOfEveryChart()
     QCOMPARE(result.errors, QString());
     QCOMPARE(result.status, 0);
     for (const char *energy : {"electricity", "gas"}) {
-        for (const char *period : {"day", "week", "month"}) {
+        for (const char *period : {"day", "week", "month", "year"}) {
             const QString picture = QStringLiteral("%1/charts-%2-%3.png")
                                         .arg(screens, QLatin1String(energy), QLatin1String(period));
             QCOMPARE(QImage(picture).size(), QSize(640, 480));

@@ -20,6 +20,7 @@ void append(std::vector<std::optional<double>> &values, const Calendar::Amounts 
     values.insert(values.end(), amounts.begin(), amounts.end());
 }
 
+/** Whole windows of hours, one for each date. */
 ChartValues dayValues(const Calendar &calendar, const Calendar::Meters &meters,
                       const DateRange &range)
 {
@@ -42,6 +43,7 @@ ChartValues weekValues(const Calendar &calendar, const Calendar::Meters &meters,
     return chart;
 }
 
+/** Windows of five weeks, counted back from the week of the last date. */
 ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters,
                         const DateRange &range)
 {
@@ -50,12 +52,23 @@ ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters
     const int weeks =
         int(Calendar::mondayOf(range.first).daysTo(newestWeek)) / Calendar::DaysPerWeek + 1;
     const int windows = (weeks + weeksInView - 1) / weeksInView;
-    const QDate first =
-        newestWeek.addDays(-Calendar::DaysPerWeek * qint64(windows * weeksInView - 1));
+    const auto weeksBack = [&](int count) {
+        return newestWeek.addDays(-Calendar::DaysPerWeek * qint64(count));
+    };
 
-    ChartValues chart {
-        Period::Month, newestWeek.addDays(-Calendar::DaysPerWeek * qint64(weeksInView - 1)), {}};
-    append(chart.values, calendar.weeks(meters, first, windows * weeksInView));
+    ChartValues chart {Period::Month, weeksBack(weeksInView - 1), {}};
+    append(chart.values,
+           calendar.weeks(meters, weeksBack(windows * weeksInView - 1), windows * weeksInView));
+    return chart;
+}
+
+ChartValues yearValues(const Calendar &calendar, const Calendar::Meters &meters,
+                       const DateRange &range)
+{
+    ChartValues chart {Period::Year, QDate(range.last.year(), 1, 1), {}};
+    for (int year = range.first.year(); year <= range.last.year(); ++year) {
+        append(chart.values, calendar.monthsOfYear(meters, year));
+    }
     return chart;
 }
 
@@ -70,26 +83,28 @@ ChartValues chartValues(const Calendar &calendar, const Calendar::Meters &meters
     case Period::Week:
         return weekValues(calendar, meters, range);
     case Period::Month:
+        return monthValues(calendar, meters, range);
+    case Period::Year:
         break;
     }
-    return monthValues(calendar, meters, range);
+    return yearValues(calendar, meters, range);
 }
 
-ZEMHistogramData *makeChartData(const ChartValues &values, double inset)
+ZEMHistogramData *makeChartData(const ChartValues &values)
 {
-    const unsigned int windowSize = slotsOf(values.period);
+    const PeriodInfo info = infoOf(values.period);
     auto *data = new ZEMHistogramData;
-    data->setWindowSize(windowSize);
-    data->setCenterValue(inset);
+    data->setWindowSize(info.windowSize);
+    data->setCenterValue(info.inset);
     data->setNrWindows(values.windows());
 
-    std::vector<double> window(windowSize);
+    std::vector<double> window(info.windowSize);
     for (unsigned int i = 0; i < values.windows(); ++i) {
-        const auto begin = values.values.begin() + std::ptrdiff_t(i) * windowSize;
-        std::transform(begin, begin + windowSize, window.begin(),
+        const auto begin = values.values.begin() + std::ptrdiff_t(i) * info.windowSize;
+        std::transform(begin, begin + info.windowSize, window.begin(),
                        [](const std::optional<double> &value) { return value.value_or(gapMark); });
-        data->setWindowValues(i, 0, windowSize, window.data(), false);
-        data->invalidateValues(i, 0, windowSize, gapMark);
+        data->setWindowValues(i, 0, info.windowSize, window.data(), false);
+        data->invalidateValues(i, 0, info.windowSize, gapMark);
     }
     return data;
 }

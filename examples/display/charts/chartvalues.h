@@ -5,6 +5,7 @@
 #define CHARTVALUES_H
 
 #include "calendar.h"
+#include "daterange.h"
 #include "period.h"
 
 #include <QDate>
@@ -23,27 +24,17 @@ struct ChartValues
     unsigned int windows() const { return unsigned(values.size()) / slotsOf(period); }
 };
 
-/** The days of which a chart shows something, both included. */
-struct DateRange
-{
-    QDate first;
-    QDate last;
-};
-
 /**
- * Sums of @p meters by calendar: hours, days or weeks, whose last window holds the last date. An
- * hour of the night that summer time takes away is a gap; the one that winter time gives belongs to
- * the hour of the same name.
+ * Sums of @p meters by calendar: hours, days, weeks or months, whose last window holds the last
+ * date. The hour of the night that summer time takes away is a gap; the one that winter time gives
+ * belongs to the hour of the same name.
  */
 ChartValues chartValues(const Readings::Calendar &calendar,
                         const Readings::Calendar::Meters &meters, Period period,
                         const DateRange &range);
 
-/**
- * Makes chart data that shows @p values, with a space of @p inset slots at each side of a bar. A
- * series takes ownership by setData().
- */
-ZEMHistogramData *makeChartData(const ChartValues &values, double inset);
+/** Makes chart data that shows @p values. A series takes ownership by setData(). */
+ZEMHistogramData *makeChartData(const ChartValues &values);
 
 /** Largest value, or 0 if there is none above it. */
 double largestValue(const ChartValues &values);

@@ -6,6 +6,7 @@
 #include "household.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 using Readings::Household;
 using Readings::Quantity;
@@ -16,11 +17,6 @@ namespace {
 QString tr(const char *text)
 {
     return QCoreApplication::translate("Energy", text);
-}
-
-QString icon(const char *name)
-{
-    return QStringLiteral(":/zem/graphics/gwe/icons/icon_%1_15x20.png").arg(QLatin1String(name));
 }
 
 /** Adds a series unless nothing was ever counted, as by the export meter of a house without sun. */
@@ -47,12 +43,8 @@ void addImport(std::vector<EnergySeries> &series, const Household &household)
 
 Energy electricity(const Household &household)
 {
-    Energy energy {QStringLiteral("electricity"),
-                   tr("Elektriciteit"),
-                   icon("el"),
-                   QStringLiteral("kWh"),
-                   {},
-                   {}};
+    Energy energy {
+        QStringLiteral("electricity"), ZEM::TabElectricity, QStringLiteral("kWh"), {}, {}};
     addImport(energy.consumption, household);
     addSeries(energy.yield, tr("Opwekking"), ZEMStyle::Yellow, household,
               Quantity::SolarProduction);
@@ -60,25 +52,12 @@ Energy electricity(const Household &household)
     return energy;
 }
 
-Energy gas(const Household &household)
+/** An energy of one series. */
+Energy single(const QString &key, ZEM::ZEMTab tab, const QString &unit, const QString &name,
+              ZEMStyle::ZEMColor color, const Household &household, Quantity quantity)
 {
-    Energy energy {QStringLiteral("gas"), tr("Gas"), icon("fi"), QStringLiteral("m³"), {}, {}};
-    addSeries(energy.consumption, tr("Gas"), ZEMStyle::Orange, household, Quantity::Gas);
-    return energy;
-}
-
-Energy water(const Household &household)
-{
-    Energy energy {QStringLiteral("water"), tr("Water"), icon("wa"), QStringLiteral("m³"), {}, {}};
-    addSeries(energy.consumption, tr("Water"), ZEMStyle::SkyBlue, household, Quantity::Water);
-    return energy;
-}
-
-Energy heating(const Household &household)
-{
-    Energy energy {QStringLiteral("heating"), tr("Warmte"), icon("ci"),
-                   QStringLiteral("GJ"),      {},           {}};
-    addSeries(energy.consumption, tr("Warmte"), ZEMStyle::SoftRed, household, Quantity::Heating);
+    Energy energy {key, tab, unit, {}, {}};
+    addSeries(energy.consumption, name, color, household, quantity);
     return energy;
 }
 
@@ -86,12 +65,20 @@ Energy heating(const Household &household)
 
 std::vector<Energy> energiesOf(const Household &household)
 {
-    std::vector<Energy> energies;
-    for (Energy &energy : std::vector<Energy> {electricity(household), gas(household),
-                                               water(household), heating(household)}) {
-        if (!energy.consumption.empty() || !energy.yield.empty()) {
-            energies.push_back(std::move(energy));
-        }
-    }
-    return energies;
+    const QString cubicMetres = QStringLiteral("m³");
+    std::vector<Energy> all {
+        electricity(household),
+        single(QStringLiteral("gas"), ZEM::TabGas, cubicMetres, tr("Gas"), ZEMStyle::Orange,
+               household, Quantity::Gas),
+        single(QStringLiteral("heating"), ZEM::TabHeating, QStringLiteral("GJ"), tr("Warmte"),
+               ZEMStyle::SoftRed, household, Quantity::Heating),
+        single(QStringLiteral("water"), ZEM::TabWater, cubicMetres, tr("Water"), ZEMStyle::SkyBlue,
+               household, Quantity::Water),
+        single(QStringLiteral("solar"), ZEM::TabSolar, QStringLiteral("kWh"), tr("Opwekking"),
+               ZEMStyle::Yellow, household, Quantity::SolarProduction)};
+    const auto isEmpty = [](const Energy &energy) {
+        return energy.consumption.empty() && energy.yield.empty();
+    };
+    all.erase(std::remove_if(all.begin(), all.end(), isEmpty), all.end());
+    return all;
 }

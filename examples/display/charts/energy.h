@@ -7,6 +7,7 @@
 #include "calendar.h"
 
 #include <QString>
+#include <ZEM>
 #include <ZEMStyle>
 #include <vector>
 
@@ -26,8 +27,7 @@ struct EnergySeries
 struct Energy
 {
     QString key; ///< in the names of pictures: "electricity"
-    QString title;
-    QString icon; ///< path of the picture on its tab
+    ZEM::ZEMTab tab = ZEM::TabElectricity; ///< its tab on the chart page
     QString unit; ///< of its value axes
     std::vector<EnergySeries> consumption; ///< the chart, from the back to the front
     std::vector<EnergySeries> yield; ///< the chart under it; none without series

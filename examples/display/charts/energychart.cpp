@@ -4,6 +4,7 @@
 #include "energychart.h"
 
 #include "fittedhistogram.h"
+#include "yearhistogram.h"
 
 #include <QBrush>
 #include <ZEMHistogramData>
@@ -11,95 +12,103 @@
 #include <ZEMSmartDayHistogram>
 #include <ZEMSmartMonthHistogram>
 #include <ZEMSmartWeekHistogram>
-
 #include <algorithm>
 
 namespace {
 
-constexpr ChartHeights aloneHeights {240, 0};
-constexpr ChartHeights pairHeights {178, 116};
 constexpr int valueStepsOfLower = 4; // its labels would touch with more
 
-/** Space at each side of a bar, in slots: about two pixels in each view. */
-double insetOf(Period period)
-{
-    return period == Period::Day ? 0.1 : 0.16;
-}
+} // namespace
 
-/** What all series of a chart share. */
-struct Extent
+EnergyChart::EnergyChart(const Energy &energy, Period itsPeriod, const PlotHeights &heights)
+    : period(itsPeriod)
 {
-    QDate newestWindow; ///< the date of x = 0
-    QwtInterval slotRange; ///< the whole x range
-};
-
-/** Fills one plot with its series and fits its value axis to the largest bar. */
-Extent addSeries(ZEMHistogram *chart, const std::vector<EnergySeries> &allSeries, Period period,
-                 const Readings::Calendar &calendar, const DateRange &range)
-{
-    const ZEMStyle style(nullptr);
-    Extent extent;
-    double largest = 0.0;
-    for (const EnergySeries &each : allSeries) {
-        const ChartValues values = chartValues(calendar, each.meters, period, range);
-        ZEMHistogramData *data = makeChartData(values, insetOf(period));
-        extent = {values.newestWindow, data->interval()};
-        largest = std::max(largest, largestValue(values));
-
-        auto *series = new ZEMHistogramSeries(each.name, QBrush(style.color(each.color)), false);
-        series->setData(data);
-        chart->addSeries(series);
+    switch (period) {
+    case Period::Day:
+        make<ZEMSmartDayHistogram>(energy, heights);
+        break;
+    case Period::Week:
+        make<ZEMSmartWeekHistogram>(energy, heights);
+        break;
+    case Period::Month:
+        make<ZEMSmartMonthHistogram>(energy, heights);
+        break;
+    case Period::Year:
+        make<YearHistogram>(energy, heights);
+        break;
     }
-    chart->setValueLimits(QwtInterval(0.0, largest > 0.0 ? largest : 1.0));
-    return extent;
 }
 
 template <class Base>
-ZEMHistogram *make(const Energy &energy, Period period, const Readings::Calendar &calendar,
-                   const DateRange &range)
+void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
 {
     using Chart = FittedHistogram<Base>;
     const bool pair = !energy.consumption.empty() && !energy.yield.empty();
-    const ChartHeights heights = pair ? pairHeights : aloneHeights;
-    const auto &upperSeries = energy.consumption.empty() ? energy.yield : energy.consumption;
 
-    auto *upper = new Chart(Chart::Place::Upper, heights.upper);
+    auto *upperChart = new Chart(Chart::Place::Upper, pair ? heights.upper : heights.alone);
+    upper = upperChart;
     upper->setYAxisText(energy.unit);
-    Chart *lower = nullptr;
+    Chart *lowerChart = nullptr;
     if (pair) {
-        lower = new Chart(Chart::Place::Lower, heights.lower);
+        lowerChart = new Chart(Chart::Place::Lower, heights.lower);
+        lower = lowerChart;
         lower->setYAxisText(energy.unit);
         lower->init();
-        lower->thePlot()->setAxisMaxMajor(QwtPlot::yLeft, valueStepsOfLower);
+        lowerChart->thePlot()->setAxisMaxMajor(QwtPlot::yLeft, valueStepsOfLower);
         upper->setChild(lower);
     }
     upper->init();
     upper->setScalePeriod(slotsOf(period));
 
-    const Extent extent = addSeries(upper, upperSeries, period, calendar, range);
-    upper->setScaleInterval(extent.slotRange);
+    upperSeries = addSeries(upper, energy.consumption.empty() ? energy.yield : energy.consumption);
     if (lower) {
-        addSeries(lower, energy.yield, period, calendar, range);
-        upper->insertLegendExternal(lower->thePlot(), upper->template findChild<QwtLegend *>());
+        lowerSeries = addSeries(lower, energy.yield);
+        upper->insertLegendExternal(lowerChart->thePlot(),
+                                    upper->template findChild<QwtLegend *>());
     }
-    // Counting in UTC, a day of the chart always has 24 hours.
-    upper->setDataChangedTimestamp(QDateTime(extent.newestWindow, QTime(0, 0), Qt::UTC));
-    upper->replot();
-    return upper;
 }
 
-} // namespace
-
-ZEMHistogram *makeEnergyChart(const Energy &energy, Period period,
-                              const Readings::Calendar &calendar, const DateRange &range)
+std::vector<EnergyChart::Series> EnergyChart::addSeries(ZEMHistogram *chart,
+                                                        const std::vector<EnergySeries> &allSeries)
 {
-    switch (period) {
-    case Period::Day:
-        return make<ZEMSmartDayHistogram>(energy, period, calendar, range);
-    case Period::Week:
-        return make<ZEMSmartWeekHistogram>(energy, period, calendar, range);
-    case Period::Month:
-        break;
+    const ZEMStyle style(nullptr);
+    std::vector<Series> added;
+    for (const EnergySeries &each : allSeries) {
+        auto *item = new ZEMHistogramSeries(each.name, QBrush(style.color(each.color)), false);
+        chart->addSeries(item);
+        added.push_back({item, each.meters});
     }
-    return make<ZEMSmartMonthHistogram>(energy, period, calendar, range);
+    return added;
+}
+
+void EnergyChart::feed(const Readings::Calendar &calendar, const DateRange &range)
+{
+    feed(upper, upperSeries, calendar, range);
+    if (lower) {
+        feed(lower, lowerSeries, calendar, range);
+    }
+    if (!isFed) {
+        // The chart page turned to the newest period before there was one.
+        isFed = true;
+        upper->showFirstPeriod();
+    }
+    upper->replot();
+}
+
+void EnergyChart::feed(ZEMHistogram *chart, const std::vector<Series> &allSeries,
+                       const Readings::Calendar &calendar, const DateRange &range)
+{
+    double largest = 0.0;
+    for (const Series &each : allSeries) {
+        const ChartValues values = chartValues(calendar, each.meters, period, range);
+        largest = std::max(largest, largestValue(values));
+        ZEMHistogramData *data = makeChartData(values);
+        if (chart == upper) {
+            upper->setScaleInterval(data->interval());
+            // Counting in UTC, a day of the chart always has 24 hours.
+            upper->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+        }
+        each.item->setData(data);
+    }
+    chart->setValueLimits(QwtInterval(0.0, largest > 0.0 ? largest : 1.0));
 }

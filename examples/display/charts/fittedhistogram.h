@@ -7,23 +7,20 @@
 #include <ZEMHistogramLegend>
 
 #include <QVBoxLayout>
+#include <QwtPlotMover>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
 
-/** Heights of the plots of a page in pixels, x axis included. */
-struct ChartHeights
-{
-    int upper = 0;
-    int lower = 0;
-};
+/** One row of legend items, in pixels. */
+constexpr int legendHeight = 30;
 
 /** Room for the labels of a value axis, so that the canvases of two charts stand in one line. */
-constexpr double valueAxisExtent = 38.0;
+constexpr double valueAxisExtent = 46.0;
 
 /**
  * A chart of the library, @p Base, fitted to a page of 640 by 480: the plot has the height that the
- * page gives it, and as a lower chart it has neither legend nor labels of its own below the ticks;
- * its series stand in the legend of the upper chart.
+ * page gives it, the legend has one row, and as a lower chart it has neither legend nor labels of
+ * its own below the ticks; its series stand in the legend of the upper chart.
  */
 template <class Base>
 class FittedHistogram : public Base
@@ -34,6 +31,13 @@ public:
     FittedHistogram(Place itsPlace, int plotHeight) : place(itsPlace), height(plotHeight) { }
 
     QwtPlot *thePlot() const { return this->plot; }
+
+    /** Lets a touch through to what is beneath the chart, instead of dragging it. After init(). */
+    void setTouchable(bool touchable)
+    {
+        this->mover->setEnabled(touchable);
+        this->setAttribute(Qt::WA_TransparentForMouseEvents, !touchable);
+    }
 
 protected:
     void initAxisRefine() override
@@ -46,6 +50,7 @@ protected:
     {
         if (place == Place::Upper) {
             Base::setLookAndFeel();
+            this->template findChild<QwtLegend *>()->setMinimumHeight(legendHeight);
         } else {
             this->setPlotLookAndFeel();
             auto *layout = new QVBoxLayout(this);

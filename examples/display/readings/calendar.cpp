@@ -6,6 +6,7 @@
 #include "household.h"
 
 #include <QDateTime>
+#include <algorithm>
 
 namespace Readings {
 
@@ -39,6 +40,14 @@ Interval Calendar::week(const QDate &date) const
     return {border(monday, 0), border(monday.addDays(DaysPerWeek), 0)};
 }
 
+Interval Calendar::month(const QDate &date) const
+{
+    if (!date.isValid())
+        return {};
+    const QDate first(date.year(), date.month(), 1);
+    return {border(first, 0), border(first.addMonths(1), 0)};
+}
+
 QDate Calendar::mondayOf(const QDate &date)
 {
     return date.isValid() ? date.addDays(Qt::Monday - date.dayOfWeek()) : QDate();
@@ -59,7 +68,7 @@ Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) 
     Amounts amounts;
     amounts.reserve(HoursPerDay);
     for (int slot = 0; slot < HoursPerDay; ++slot)
-        amounts.push_back(sumOfAmounts(meters, hour(date, slot)));
+        amounts.push_back(amountIn(meters, hour(date, slot)));
     return amounts;
 }
 
@@ -72,7 +81,7 @@ Calendar::Amounts Calendar::days(const Meters &meters, const QDate &first, int c
 {
     Amounts amounts;
     for (int slot = 0; slot < count; ++slot)
-        amounts.push_back(sumOfAmounts(meters, day(first.addDays(slot))));
+        amounts.push_back(amountIn(meters, day(first.addDays(slot))));
     return amounts;
 }
 
@@ -80,8 +89,28 @@ Calendar::Amounts Calendar::weeks(const Meters &meters, const QDate &date, int c
 {
     Amounts amounts;
     for (int slot = 0; slot < count; ++slot)
-        amounts.push_back(sumOfAmounts(meters, week(date.addDays(qint64(slot) * DaysPerWeek))));
+        amounts.push_back(amountIn(meters, week(date.addDays(qint64(slot) * DaysPerWeek))));
     return amounts;
+}
+
+Calendar::Amounts Calendar::monthsOfYear(const Meters &meters, int year) const
+{
+    Amounts amounts;
+    amounts.reserve(MonthsPerYear);
+    for (int slot = 1; slot <= MonthsPerYear; ++slot)
+        amounts.push_back(amountIn(meters, month(QDate(year, slot, 1))));
+    return amounts;
+}
+
+std::optional<double> Calendar::amountIn(const Meters &meters, const Interval &slot)
+{
+    Interval counted = slot;
+    for (const Meter *meter : meters) {
+        const std::optional<qint64> last = meter->lastInstant();
+        if (last && *last > slot.from)
+            counted.to = std::min(counted.to, *last);
+    }
+    return sumOfAmounts(meters, counted);
 }
 
 // The first of two: so that the slot that begins with a doubled hour holds both of them.

@@ -26,7 +26,8 @@ class Meter;
  *
  * The functions that answer amounts add several meters up: give them all registers of a quantity
  * (Household::metersOf). A slot is empty, a gap, as soon as one of the meters has no answer for
- * it, and if there is no meter. The slot of a skipped hour is always a gap.
+ * it, and if there is no meter. The slot of a skipped hour is always a gap. The slot in which the
+ * last reading lies is still running: it is counted up to that reading.
  */
 class Calendar
 {
@@ -36,6 +37,7 @@ public:
 
     static constexpr int HoursPerDay = 24;
     static constexpr int DaysPerWeek = 7;
+    static constexpr int MonthsPerYear = 12;
 
     /** An invalid zone counts as UTC. */
     explicit Calendar(const QTimeZone &zone);
@@ -48,6 +50,9 @@ public:
     Interval day(const QDate &date) const;
     /** The slot of the week in which a date lies, empty for an invalid date. */
     Interval week(const QDate &date) const;
+
+    /** The slot of the month in which a date lies, empty for an invalid date. */
+    Interval month(const QDate &date) const;
 
     /** The Monday of the week in which a date lies; invalid for an invalid date. */
     static QDate mondayOf(const QDate &date);
@@ -64,8 +69,11 @@ public:
     Amounts days(const Meters &meters, const QDate &first, int count) const;
     /** `count` amounts, of the weeks from the one on in which the date lies. */
     Amounts weeks(const Meters &meters, const QDate &date, int count) const;
+    /** 12 amounts, of the months of a year. */
+    Amounts monthsOfYear(const Meters &meters, int year) const;
 
 private:
+    static std::optional<double> amountIn(const Meters &meters, const Interval &slot);
     qint64 border(const QDate &date, int hour) const;
 
     WallClock clock;

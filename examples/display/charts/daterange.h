@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef DATERANGE_H
+#define DATERANGE_H
+
+#include <QDate>
+
+namespace Readings {
+class Household;
+}
+
+/** The days of which a chart shows something, both included. */
+struct DateRange
+{
+    QDate first;
+    QDate last;
+};
+
+/** The days, by the clock of the house, on which its meters counted. */
+DateRange datesOf(const Readings::Household &household);
+
+#endif

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "chartspage.h"
+
+#include "daterange.h"
+#include "energysource.h"
+
+#include <QVBoxLayout>
+#include <ZEMButton>
+#include <ZEMHistogram>
+#include <algorithm>
+
+namespace {
+
+constexpr PlotHeights plotHeights {240, 168, 104};
+
+/** Whether two lists need the same charts: a meter that is heard for the first time adds one. */
+bool sameSeries(const std::vector<Energy> &left, const std::vector<Energy> &right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const Energy &a, const Energy &b) {
+                          return a.tab == b.tab && a.consumption.size() == b.consumption.size()
+                              && a.yield.size() == b.yield.size();
+                      });
+}
+
+} // namespace
+
+ChartsPage::ChartsPage(const EnergySource &source, QWidget *parent)
+    : DisplayPage(tr("Grafieken"), source, parent), energies(energiesOf(source.household()))
+{
+    makeCharts();
+    connect(&source, &EnergySource::historyChanged, this, &ChartsPage::handleHistory);
+}
+
+void ChartsPage::showChart(ZEM::ZEMTab energy, Period period)
+{
+    // A press on the tab of the period is what the chart page remembers for the next energy.
+    charts->findChild<ZEMButton *>(QLatin1String(infoOf(period).button))->click();
+    charts->selectTab(infoOf(period).tab, energy);
+}
+
+void ChartsPage::showPreviousPeriod()
+{
+    currentEntry()->chart->widget()->showPrevPeriod();
+}
+
+void ChartsPage::showEvent(QShowEvent *event)
+{
+    DisplayPage::showEvent(event);
+    feedCurrentChart();
+}
+
+void ChartsPage::makeCharts()
+{
+    entries.clear();
+    delete charts;
+    charts = new ZEMHistogramWidget;
+    content()->addWidget(charts);
+    ZEM::ZEMTabs tabs;
+    for (const Energy &energy : energies) {
+        for (const Period period : allPeriods) {
+            auto chart = std::make_unique<EnergyChart>(energy, period, plotHeights);
+            charts->setHistogram(infoOf(period).tab, energy.tab, chart->widget());
+            entries.push_back({energy.tab, period, std::move(chart)});
+            tabs |= infoOf(period).tab;
+        }
+        tabs |= energy.tab;
+    }
+    charts->showTabs(tabs);
+    connect(charts, &ZEMHistogramWidget::sigBtnClicked, this, &ChartsPage::handleButton);
+    if (!energies.empty()) {
+        showChart(energies.front().tab, Period::Day);
+    }
+}
+
+void ChartsPage::handleButton(ZEMHistogramWidget::ButtonType button)
+{
+    switch (button) {
+    case ZEMHistogramWidget::BtnDay:
+        currentPeriod = Period::Day;
+        break;
+    case ZEMHistogramWidget::BtnWeek:
+        currentPeriod = Period::Week;
+        break;
+    case ZEMHistogramWidget::BtnMonth:
+        currentPeriod = Period::Month;
+        break;
+    case ZEMHistogramWidget::BtnYear:
+        currentPeriod = Period::Year;
+        break;
+    case ZEMHistogramWidget::BtnElectricity:
+        currentEnergy = ZEM::TabElectricity;
+        break;
+    case ZEMHistogramWidget::BtnGas:
+        currentEnergy = ZEM::TabGas;
+        break;
+    case ZEMHistogramWidget::BtnWater:
+        currentEnergy = ZEM::TabWater;
+        break;
+    case ZEMHistogramWidget::BtnHeating:
+        currentEnergy = ZEM::TabHeating;
+        break;
+    case ZEMHistogramWidget::BtnSolar:
+        currentEnergy = ZEM::TabSolar;
+        break;
+    default:
+        break;
+    }
+    feedCurrentChart();
+}
+
+void ChartsPage::handleHistory()
+{
+    std::vector<Energy> measured = energiesOf(energySource().household());
+    if (!sameSeries(measured, energies)) {
+        energies = std::move(measured);
+        makeCharts();
+        return;
+    }
+    for (Entry &entry : entries) {
+        entry.isFed = false;
+    }
+    if (isVisible()) {
+        feedCurrentChart();
+    }
+}
+
+void ChartsPage::feedCurrentChart()
+{
+    Entry *entry = currentEntry();
+    if (entry && !entry->isFed) {
+        const Readings::Household &household = energySource().household();
+        entry->chart->feed(Readings::Calendar(household.timeZone), datesOf(household));
+        entry->isFed = true;
+    }
+}
+
+ChartsPage::Entry *ChartsPage::currentEntry()
+{
+    for (Entry &entry : entries) {
+        if (entry.energy == currentEnergy && entry.period == currentPeriod) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "overviewpage.h"
+
+#include "chartvalues.h"
+#include "energysource.h"
+#include "fittedhistogram.h"
+#include "pagelook.h"
+
+#include <QBrush>
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <ZEMButton>
+#include <ZEMCurrentStatusWidget>
+#include <ZEMHistogramButton>
+#include <ZEMHistogramData>
+#include <ZEMHistogramSeries>
+#include <ZEMMiniDayHistogram>
+#include <ZEMSmartWeekHistogram>
+#include <ZEMTotalsTodayWidget>
+#include <algorithm>
+
+using Readings::Quantity;
+
+namespace {
+
+constexpr int weekPlotHeight = 132; // pixels, of the 152 of the button
+
+ZEMButton *makePageButton(const QString &text)
+{
+    auto *button = new ZEMButton;
+    button->setBackground(
+        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_small.png")));
+    button->setFont(PageLook::textFont(14));
+    button->setText(text);
+    return button;
+}
+
+/** The dates of the newest window of a chart. */
+DateRange newestOnly(Period period, const QDate &last)
+{
+    return {period == Period::Week ? Readings::Calendar::mondayOf(last) : last, last};
+}
+
+} // namespace
+
+OverviewPage::OverviewPage(const EnergySource &source, QWidget *parent)
+    : DisplayPage(tr("Overzicht"), source, parent), status(new ZEMCurrentStatusWidget)
+{
+    setBackVisible(false);
+    status->setMaxProduction(source.mostProduction());
+    connect(status, &ZEMCurrentStatusWidget::clicked, this, &OverviewPage::devicesClicked);
+
+    auto *tiles = new QGridLayout;
+    tiles->setHorizontalSpacing(24);
+    tiles->setVerticalSpacing(18);
+    tiles->setAlignment(Qt::AlignCenter);
+    tiles->addWidget(status, 0, 0);
+    tiles->addWidget(makeTotals(), 0, 1);
+    tiles->addWidget(makeWeekButton(), 1, 0);
+    tiles->addWidget(makePageButtons(), 1, 1, Qt::AlignBottom);
+    content()->addLayout(tiles, 1);
+
+    connect(&source, &EnergySource::powerChanged, this, &OverviewPage::showPower);
+    connect(&source, &EnergySource::meteringChanged, this, &OverviewPage::showPower);
+    connect(&source, &EnergySource::historyChanged, this, &OverviewPage::handleHistory);
+    showPower();
+}
+
+void OverviewPage::showEvent(QShowEvent *event)
+{
+    DisplayPage::showEvent(event);
+    feedCharts();
+    showPower();
+}
+
+QWidget *OverviewPage::makeTotals()
+{
+    auto *totals = new ZEMTotalsTodayWidget;
+    totals->setBottomEnergyType(ZEMEnergyIcon::SolarProduction);
+    connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, this,
+            &OverviewPage::chartsClicked);
+    connect(totals, &ZEMTotalsTodayWidget::btn_bottom_histogram_clicked, this,
+            &OverviewPage::chartsClicked);
+
+    addSmallChart(totals->getTopHistogram(), {Quantity::GridImport, Quantity::Gas}, Period::Day,
+                  ZEMStyle::Amber);
+    addSmallChart(totals->getBottomHistogram(),
+                  {Quantity::SolarProduction, Quantity::GridExport, Quantity::Water}, Period::Day,
+                  ZEMStyle::Yellow);
+    return totals;
+}
+
+QWidget *OverviewPage::makeWeekButton()
+{
+    using Chart = FittedHistogram<ZEMSmartWeekHistogram>;
+    auto *chart = new Chart(Chart::Place::Lower, weekPlotHeight);
+    chart->init();
+    chart->setScalePeriod(slotsOf(Period::Week));
+    chart->setTouchable(false);
+    addSmallChart(chart, {Quantity::GridImport, Quantity::Gas}, Period::Week, ZEMStyle::Amber);
+
+    auto *button = new ZEMHistogramButton;
+    button->setTitle(tr("deze week"));
+    button->setHistogram(chart);
+    connect(button, &ZEMHistogramButton::clicked, this, &OverviewPage::chartsClicked);
+    return button;
+}
+
+QWidget *OverviewPage::makePageButtons()
+{
+    auto *charts = makePageButton(tr("Grafieken"));
+    connect(charts, &ZEMButton::clicked, this, &OverviewPage::chartsClicked);
+    auto *devices = makePageButton(tr("Apparaten"));
+    connect(devices, &ZEMButton::clicked, this, &OverviewPage::devicesClicked);
+
+    auto *buttons = new QWidget;
+    auto *rows = new QVBoxLayout(buttons);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(2);
+    rows->addWidget(charts);
+    rows->addWidget(devices);
+    return buttons;
+}
+
+void OverviewPage::addSmallChart(ZEMHistogram *chart, const QVector<Readings::Quantity> &quantities,
+                                 Period period, ZEMStyle::ZEMColor color)
+{
+    auto *series = new ZEMHistogramSeries(QString(), QBrush(ZEMStyle(nullptr).color(color)), false);
+    chart->addSeries(series);
+    smallCharts.push_back({chart, series, quantities, period});
+}
+
+Readings::Calendar::Meters OverviewPage::metersOf(const SmallChart &small) const
+{
+    for (const Quantity quantity : small.quantities) {
+        const auto meters = energySource().household().metersOf(quantity);
+        if (!meters.empty()) {
+            return meters;
+        }
+    }
+    return {};
+}
+
+void OverviewPage::showPower()
+{
+    // A hidden tile needs no news, and its arrows no time.
+    if (!isVisible()) {
+        return;
+    }
+    const std::optional<PowerReport> report = energySource().power();
+    status->setMeteringStatus(report.has_value() && energySource().isMetering());
+    status->setConsumption(report ? report->consumption : 0.0);
+    status->setProduction(report ? report->production : 0.0);
+}
+
+void OverviewPage::handleHistory()
+{
+    isFed = false;
+    if (isVisible()) {
+        feedCharts();
+    }
+}
+
+void OverviewPage::feedCharts()
+{
+    if (isFed) {
+        return;
+    }
+    isFed = true;
+    const Readings::Household &household = energySource().household();
+    const Readings::Calendar calendar(household.timeZone);
+    const QDate last = datesOf(household).last;
+    for (const SmallChart &small : smallCharts) {
+        const ChartValues values =
+            chartValues(calendar, metersOf(small), small.period, newestOnly(small.period, last));
+        small.series->setData(makeChartData(values));
+        small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), 0.1)));
+        small.chart->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+        small.chart->replot();
+    }
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "housesource.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr quint64 seed = 20161; // of a house with all that the display can show
+constexpr Place utrecht {52.09, 5.12};
+constexpr qint64 secondsPerMinute = 60;
+constexpr qint64 recordInterval = 5 * secondsPerMinute;
+constexpr int tick = 1000; // milliseconds
+constexpr int yearsOfHistory = 2;
+
+qint64 startOfHistory(qint64 now)
+{
+    return QDateTime::fromSecsSinceEpoch(now, Qt::UTC).addYears(-yearsOfHistory).toSecsSinceEpoch();
+}
+
+} // namespace
+
+HouseSource::HouseSource(double speed, QObject *parent)
+    : EnergySource(parent), clock(QDateTime::currentMSecsSinceEpoch(), speed),
+      house(seed, utrecht, QTimeZone("Europe/Amsterdam"),
+            startOfHistory(QDateTime::currentSecsSinceEpoch())),
+      recorder(&house, &readings), now(QDateTime::currentSecsSinceEpoch()), recorded(now)
+{
+    recorder.recordUntil(now);
+    timer.setInterval(tick);
+    connect(&timer, &QTimer::timeout, this, &HouseSource::followClock);
+}
+
+void HouseSource::start()
+{
+    timer.start();
+}
+
+std::optional<PowerReport> HouseSource::power() const
+{
+    const PowerNow flow = house.powerAt(now);
+    PowerReport report;
+    report.consumption = flow.consumption();
+    report.production = flow.production;
+    report.devices = {{Device::HeatPump, double(flow.heatPump), 2000.0},
+                      {Device::Car, double(flow.car), 7400.0},
+                      {Device::Kitchen, double(flow.kitchen), 3000.0},
+                      {Device::Rest, double(flow.washing + flow.rest), 3000.0}};
+    return report;
+}
+
+double HouseSource::mostProduction() const
+{
+    return SimulatedHouse::mostProduction;
+}
+
+void HouseSource::followClock()
+{
+    const qint64 before = now;
+    now = clock.instantAt(QDateTime::currentMSecsSinceEpoch());
+    // Power changes with the minute only.
+    if (now / secondsPerMinute != before / secondsPerMinute) {
+        Q_EMIT powerChanged();
+    }
+    if (now - recorded >= recordInterval) {
+        recorder.recordUntil(now);
+        recorded = now;
+        Q_EMIT historyChanged();
+    }
+}

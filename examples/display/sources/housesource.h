@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef HOUSESOURCE_H
+#define HOUSESOURCE_H
+
+#include "energysource.h"
+#include "houseclock.h"
+#include "houserecorder.h"
+#include "simulatedhouse.h"
+
+#include <QTimer>
+
+/** A simulated house with two years of history, which lives on from now. */
+class HouseSource : public EnergySource
+{
+    Q_OBJECT
+
+public:
+    /** @p speed is how much faster than the clock on the wall the house lives. */
+    explicit HouseSource(double speed, QObject *parent = nullptr);
+
+    void start() override;
+    const Readings::Household &household() const override { return readings; }
+    std::optional<PowerReport> power() const override;
+    double mostProduction() const override;
+
+private:
+    void followClock();
+
+    const HouseClock clock;
+    SimulatedHouse house;
+    Readings::Household readings;
+    HouseRecorder recorder;
+    qint64 now;
+    qint64 recorded;
+    QTimer timer;
+};
+
+#endif

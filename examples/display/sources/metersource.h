@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef METERSOURCE_H
+#define METERSOURCE_H
+
+#include "energysource.h"
+#include "p1recorder.h"
+#include "p1source.h"
+
+/** A smart meter on its P1 port. What it counts fills the charts from now on. */
+class MeterSource : public EnergySource
+{
+    Q_OBJECT
+
+public:
+    /** @p address and @p settings as at P1Source. */
+    MeterSource(const QString &address, const P1Settings &settings, QObject *parent = nullptr);
+
+    void start() override;
+    const Readings::Household &household() const override { return readings; }
+    std::optional<PowerReport> power() const override;
+    double mostProduction() const override;
+    bool isMetering() const override;
+
+Q_SIGNALS:
+    /** What is wrong with the link or a telegram, one line. */
+    void problem(const QString &line);
+    /** A file is at its end. */
+    void ended();
+
+private:
+    void take(const P1Telegram &telegram);
+
+    Readings::Household readings;
+    P1Recorder recorder;
+    P1Source meter;
+    double mostDelivered = 0.0; ///< watts
+    qint64 knownStep = 0;
+};
+
+#endif
