@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemplot.h"
+
+#include "objectname_p.h"
+#include "zemplotstyler.h"
+#include "zemplotzoomeradvanced.h"
+#include "zemqwtplotcurvepointgetter.h"
+
+#include <QBrush>
+#include <QPalette>
+#include <QPointer>
+
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_panner.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+
+class ZEMPlot::Private
+{
+public:
+    // A program that gives the plot another canvas deletes the old one and both of these with it.
+    QPointer<QwtPlotPanner> panner;
+    QPointer<ZEMPlotZoomerAdvanced> zoomer;
+    ZEMPlotStyler *styler = nullptr;
+    QwtPlotGrid *grid = nullptr;
+    ZEMQwtPlotCurvePointGetter *curvePointGetter = nullptr;
+    QList<QwtPlotCurve *> curves;
+};
+
+ZEMPlot::ZEMPlot(ZEMPlotStyler *styler, QWidget *parent)
+    : QwtPlot(parent), d(std::make_unique<Private>())
+{
+    setObjectNameFromClass(this, staticMetaObject);
+    d->panner = new QwtPlotPanner(canvas());
+    d->zoomer = new ZEMPlotZoomerAdvanced(qobject_cast<QwtPlotCanvas *>(canvas()), true);
+    d->styler = styler;
+    d->grid = new QwtPlotGrid;
+    d->curvePointGetter = new ZEMQwtPlotCurvePointGetter(this);
+}
+
+ZEMPlot::~ZEMPlot()
+{
+    delete d->grid;
+    delete d->panner;
+    delete d->zoomer;
+}
+
+void ZEMPlot::init()
+{
+    d->grid->attach(this);
+    restyle();
+    if (d->panner) {
+        d->panner->setMouseButton(Qt::RightButton, Qt::NoModifier);
+        d->panner->setAxisEnabled(QwtPlot::yLeft, true);
+        d->panner->setAxisEnabled(QwtPlot::xBottom, true);
+    }
+}
+
+void ZEMPlot::restyle()
+{
+    d->styler->stylePlot(this);
+    d->styler->styleGrid(d->grid);
+    for (int i = 0; i < d->curves.size(); ++i) {
+        d->styler->styleCurve(d->curves.at(i), i);
+    }
+    replot();
+}
+
+ZEMPlotStyler *ZEMPlot::getStyler()
+{
+    return d->styler;
+}
+
+void ZEMPlot::setStyler(ZEMPlotStyler *styler)
+{
+    d->styler = styler;
+    restyle();
+}
+
+ZEMPlotZoomerAdvanced *ZEMPlot::getZoomer()
+{
+    return d->zoomer;
+}
+
+QwtPlotPanner *ZEMPlot::getPanner()
+{
+    return d->panner;
+}
+
+ZEMQwtPlotCurvePointGetter *ZEMPlot::getCurvePointGetter()
+{
+    return d->curvePointGetter;
+}
+
+const QList<QwtPlotCurve *> &ZEMPlot::getCurves() const
+{
+    return d->curves;
+}
+
+int ZEMPlot::getNumCurves() const
+{
+    return d->curves.size();
+}
+
+int ZEMPlot::getIndexOfCurve(QwtPlotCurve *curve) const
+{
+    return d->curves.indexOf(curve);
+}
+
+void ZEMPlot::setBackgroundColor(QColor color)
+{
+    setAutoFillBackground(true);
+    setAutoReplot(true);
+    setCanvasBackground(QBrush(color, Qt::SolidPattern));
+}
+
+void ZEMPlot::setFrontColor(QColor color)
+{
+    setPalette(QPalette(color));
+}
+
+void ZEMPlot::setBackgroundGraphic(const QPixmap &pixmap)
+{
+    setCanvasBackground(QBrush(pixmap));
+    auto *const plotCanvas = qobject_cast<QwtPlotCanvas *>(canvas());
+    if (plotCanvas) {
+        plotCanvas->setFrameStyle(0);
+    }
+    setAttribute(Qt::WA_TranslucentBackground, true);
+    if (plotCanvas) {
+        // Either of them would paint a ground under the transparent parts of the picture.
+        plotCanvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
+        plotCanvas->setPaintAttribute(QwtPlotCanvas::Opaque, false);
+        plotCanvas->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    }
+}
+
+void ZEMPlot::setBackgroundGraphic(const QString &path)
+{
+    setBackgroundGraphic(QPixmap(path));
+}
+
+void ZEMPlot::setFontForScale(int axis, const QFont &font)
+{
+    // The widths of the labels are those of the present scale only after this.
+    updateAxes();
+    QwtScaleWidget *const scale = axisWidget(axis);
+    if (!scale) {
+        return;
+    }
+    scale->setFont(font);
+    if (axis == QwtPlot::xBottom) {
+        const int widestLabel = scale->scaleDraw()->maxLabelWidth(scale->font());
+        scale->setMinBorderDist(0, (widestLabel + 1) / 2);
+    }
+    scale->setMargin(0);
+}
+
+void ZEMPlot::setFontForScale(int axis, const QString &family, int pointSize)
+{
+    QFont font;
+    font.setFamily(family);
+    font.setPointSize(pointSize);
+    setFontForScale(axis, font);
+}
+
+void ZEMPlot::addCurve(QwtPlotCurve *curve, bool updateZoomBase)
+{
+    d->styler->styleCurve(curve, getNumCurves());
+    curve->attach(this);
+    d->curves.append(curve);
+    if (updateZoomBase && d->zoomer) {
+        d->zoomer->setZoomBase(true);
+    }
+}
+
+void ZEMPlot::removeCurve(QwtPlotCurve *curve)
+{
+    curve->detach();
+    d->curves.removeOne(curve);
+    replot();
+}
+
+void ZEMPlot::addMarker(QwtPlotMarker *marker)
+{
+    d->styler->styleMarker(marker);
+    marker->attach(this);
+}
+
+void ZEMPlot::removeMarker(QwtPlotMarker *marker)
+{
+    marker->detach();
+    replot();
+}

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMPLOT_H
+#define ZEMPLOT_H
+
+#include "zemkit_export.h"
+
+#include <QColor>
+#include <QFont>
+#include <QList>
+#include <QPixmap>
+#include <QString>
+
+#include <qwt_plot.h>
+
+#include <memory>
+
+class QwtPlotCurve;
+class QwtPlotMarker;
+class QwtPlotPanner;
+class ZEMPlotStyler;
+class ZEMPlotZoomerAdvanced;
+class ZEMQwtPlotCurvePointGetter;
+
+/**
+ * A plot of curves that can be zoomed with the left mouse button or a finger, panned with the right
+ * button, and asked for the point at a position. All of its looks come from a ZEMPlotStyler.
+ *
+ * @code
+ * auto *plot = new ZEMPlot(&styler, page);
+ * plot->init();
+ * plot->addCurve(powerCurve, true);
+ * auto *picker = new ZEMQwtPlotPointPicker(QStringLiteral("power"), plot,
+ *                                          QwtEventPattern::MouseSelect1);
+ * @endcode
+ *
+ * A plot has no legend, title or axis range of its own. Curves, markers and the grid are items of
+ * QwtPlot: those that are attached when the plot dies are deleted with it, as autoDelete() says.
+ * Do not delete the items of this plot with QwtPlotDict::detachItems(): the plot still has its grid
+ * and its list of curves.
+ *
+ * For zooming see ZEMPlotZoomerAdvanced, for picking ZEMQwtPlotPointPicker, for following the mouse
+ * ZEMQwtPlotTracker.
+ */
+class ZEM_EXPORT ZEMPlot : public QwtPlot
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Nothing is styled and there is no grid before init().
+     *
+     * @param styler not null; the plot does not own it
+     */
+    explicit ZEMPlot(ZEMPlotStyler *styler, QWidget *parent = nullptr);
+
+    /** Leaves the styler, the point getter and all curves and markers that are not attached. */
+    ~ZEMPlot() override;
+
+    /**
+     * Shows the grid, styles everything, replots, and puts panning on the right mouse button for
+     * the left and the bottom axis. To be called once, when the styler is ready.
+     */
+    void init();
+
+    /** Has the styler style the plot, the grid and the curves, in this order, and replots. */
+    void restyle();
+
+    /** The styler, which is not owned. Setting one, which must not be null, restyles at once. */
+    ZEMPlotStyler *getStyler();
+    void setStyler(ZEMPlotStyler *styler);
+
+    /** Zooms the bottom and the left axis. Dies with the plot or its canvas; null then. */
+    ZEMPlotZoomerAdvanced *getZoomer();
+
+    /** Pans the plot. Dies with the plot or its canvas; null then. */
+    QwtPlotPanner *getPanner();
+
+    /**
+     * Finds points of the curves. The plot makes it and does not delete it, since pickers may
+     * still hold it: a program that makes and drops plots deletes it after the plot.
+     */
+    ZEMQwtPlotCurvePointGetter *getCurvePointGetter();
+
+    /** The curves in the order in which they were added. */
+    const QList<QwtPlotCurve *> &getCurves() const;
+    int getNumCurves() const;
+    /** The first place of @p curve in the list, -1 if it is not there. */
+    int getIndexOfCurve(QwtPlotCurve *curve) const;
+
+    /** Fills the canvas with @p color and, from now on, replots after every change. */
+    void setBackgroundColor(QColor color);
+
+    /** Makes all colours of the plot's palette from @p color, the colour of buttons. */
+    void setFrontColor(QColor color);
+
+    /**
+     * Tiles the canvas with a picture and lets what is behind the plot shine through around it and
+     * through its transparent parts. The canvas loses its frame and its backing store.
+     */
+    void setBackgroundGraphic(const QPixmap &pixmap);
+    /** The same with the picture at @p path, a file or a resource; none if there is no such. */
+    void setBackgroundGraphic(const QString &path);
+
+    /**
+     * Sets the font of the numbers at an axis and moves the scale close to the canvas. The bottom
+     * axis leaves room at its end for half of its widest number, and none at its start.
+     *
+     * @param axis a QwtPlot::Axis; another number does nothing
+     */
+    void setFontForScale(int axis, const QFont &font);
+    /** The same with the default font in another family and with @p pointSize points, above 0. */
+    void setFontForScale(int axis, const QString &family, int pointSize);
+
+    /**
+     * Styles @p curve, attaches it and puts it at the end of the list. It is seen at the next
+     * replot().
+     *
+     * @param curve not null; to be removed before it is deleted
+     * @param updateZoomBase replots, forgets all zooming and takes what is then shown as the view
+     *                       to which the zoomer returns
+     */
+    virtual void addCurve(QwtPlotCurve *curve, bool updateZoomBase);
+
+    /**
+     * Detaches @p curve, takes it from the list and replots. The caller has to delete it. The zoom
+     * base stays. A curve that is not in the list is detached all the same.
+     */
+    virtual void removeCurve(QwtPlotCurve *curve);
+
+    /** Styles @p marker, which is not null, and attaches it. It is seen at the next replot(). */
+    virtual void addMarker(QwtPlotMarker *marker);
+
+    /** Detaches @p marker and replots. The caller has to delete it. */
+    virtual void removeMarker(QwtPlotMarker *marker);
+
+Q_SIGNALS:
+    /** For programs and subclasses that change an axis; the plot itself never emits it. */
+    void axisChanged(int axis);
+
+private:
+    Q_DISABLE_COPY(ZEMPlot)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif

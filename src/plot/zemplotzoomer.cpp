@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemplotzoomer.h"
+
+#include "zemqwtpickerdraw.h"
+#include "zoomgesture_p.h"
+
+#include <QtDebug>
+
+#include <qwt_plot.h>
+#include <qwt_plot_canvas.h>
+
+class ZEMPlotZoomer::Private
+{
+public:
+    explicit Private(ZEMPlotZoomer *zoomer) : ownDraw(zoomer), pickerDraw(&ownDraw) { }
+
+    ZEMQwtPickerDraw ownDraw;
+    ZEMQwtPickerDraw *pickerDraw;
+};
+
+ZEMPlotZoomer::ZEMPlotZoomer(QwtPlotCanvas *canvas, bool doReplot)
+    : QwtPlotZoomer(QwtPlot::xBottom, QwtPlot::yLeft, canvas, doReplot),
+      d(std::make_unique<Private>(this))
+{
+    setTrackerMode(QwtPicker::AlwaysOff);
+    setRubberBand(QwtPicker::UserRubberBand);
+}
+
+ZEMPlotZoomer::~ZEMPlotZoomer() = default;
+
+void ZEMPlotZoomer::setPickerDraw(ZEMQwtPickerDraw *draw)
+{
+    if (!draw) {
+        qDebug("Error: NULL pickerDraw provided");
+        return;
+    }
+    d->pickerDraw = draw;
+}
+
+void ZEMPlotZoomer::drawRubberBand(QPainter *painter) const
+{
+    if (rubberBand() >= QwtPicker::UserRubberBand) {
+        d->pickerDraw->drawRubberBand(painter);
+    } else {
+        QwtPlotZoomer::drawRubberBand(painter);
+    }
+}
+
+void ZEMPlotZoomer::drawTracker(QPainter *painter) const
+{
+    if (rubberBand() >= QwtPicker::UserRubberBand) {
+        d->pickerDraw->drawTracker(painter);
+    } else {
+        QwtPlotZoomer::drawTracker(painter);
+    }
+}
+
+void ZEMPlotZoomer::zoom(const QRectF &rect)
+{
+    QwtPlotZoomer::zoom(rect);
+}
+
+void ZEMPlotZoomer::zoom(int up)
+{
+    QwtPlotZoomer::zoom(up);
+}
+
+void ZEMPlotZoomer::begin()
+{
+    QwtPlotZoomer::begin();
+}
+
+bool ZEMPlotZoomer::end(bool ok)
+{
+    // Who hears of the selection in there may take the canvas away from its plot.
+    if (!QwtPlotPicker::end(ok) || !plot()) {
+        return false;
+    }
+    const QPolygon points = selection();
+    if (points.size() < 2) {
+        return false;
+    }
+    if (!isZoomQuadrant(points.at(0), points.at(1))) {
+        zoom(0);
+        return true;
+    }
+    const QRectF rect = invTransform(QRect(points.first(), points.last())).normalized();
+    const QSizeF least = minZoomSize();
+    zoom(least.isValid() ? ZoomGesture::widened(rect, least) : rect);
+    return true;
+}
+
+bool ZEMPlotZoomer::accept(QPolygon &points) const
+{
+    return points.size() >= 2 && ZoomGesture::hasExtent(points.first(), points.last());
+}
+
+void ZEMPlotZoomer::widgetMouseReleaseEvent(QMouseEvent *event)
+{
+    // Past QwtPlotZoomer, which would zoom out on other buttons: they may belong to a panner.
+    QwtPicker::widgetMouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void ZEMPlotZoomer::widgetKeyPressEvent(QKeyEvent *) { }
+
+void ZEMPlotZoomer::widgetKeyReleaseEvent(QKeyEvent *) { }
+
+bool ZEMPlotZoomer::isZoomQuadrant(QPoint start, QPoint end) const
+{
+    return ZoomGesture::isZoom(start, end);
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMPLOTZOOMER_H
+#define ZEMPLOTZOOMER_H
+
+#include "zemkit_export.h"
+
+#include <qwt_plot_zoomer.h>
+
+#include <memory>
+
+class QwtPlotCanvas;
+class ZEMQwtPickerDraw;
+
+/**
+ * A zoomer for one finger: a drag to the upper left takes all zooming back, a drag in any other
+ * direction zooms to the dragged rectangle. Neither other mouse buttons nor keys zoom.
+ *
+ * The zoom stack, zoomed(), the least size of a view and the depth are those of QwtPlotZoomer. A
+ * selection may be one pixel wide as long as it is longer in the other direction; one without any
+ * extent does nothing. The rubber band is painted by a ZEMQwtPickerDraw.
+ */
+class ZEM_EXPORT ZEMPlotZoomer : public QwtPlotZoomer
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Zooms the bottom and the left axis of the plot of @p canvas, which owns the zoomer. What the
+     * plot shows now becomes the zoom base.
+     *
+     * @param doReplot replots first, so that autoscaled axes are up to date
+     */
+    explicit ZEMPlotZoomer(QwtPlotCanvas *canvas, bool doReplot);
+    ~ZEMPlotZoomer() override;
+
+    /**
+     * Sets who paints the rubber band. The zoomer never deletes what it is given, neither now nor
+     * later: @p draw must live until another one is set or the zoomer is gone. Null is refused with
+     * a debug message. Does not repaint.
+     */
+    void setPickerDraw(ZEMQwtPickerDraw *draw);
+
+    /** Asks the picker draw if rubberBand() is a user one, as it is by default. */
+    void drawRubberBand(QPainter *painter) const override;
+    void drawTracker(QPainter *painter) const override;
+
+public Q_SLOTS:
+    /** As in QwtPlotZoomer; every zoom by a drag comes through one of them. */
+    void zoom(const QRectF &rect) override;
+    void zoom(int up) override;
+
+protected:
+    void begin() override;
+
+    /** Zooms to the selection, or back to the base. Returns whether it did. */
+    bool end(bool ok = true) override;
+
+    /** Whether the selection has an extent; leaves the points as they are. */
+    bool accept(QPolygon &points) const override;
+
+    void widgetMouseReleaseEvent(QMouseEvent *event) override;
+    void widgetKeyPressEvent(QKeyEvent *event) override;
+    void widgetKeyReleaseEvent(QKeyEvent *event) override;
+
+    /** Whether a drag is one that zooms: any but to the upper left, both strictly. In pixels. */
+    virtual bool isZoomQuadrant(QPoint start, QPoint end) const;
+
+private:
+    Q_DISABLE_COPY(ZEMPlotZoomer)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemqwtplotpointpicker.h"
+
+#include "zemplot.h"
+#include "zemtrackerpickermachine.h"
+
+#include <QPointer>
+
+#include <utility>
+
+class ZEMQwtPlotPointPicker::Private
+{
+public:
+    QString name;
+    QPointer<ZEMPlot> plot;
+    ZEMQwtPlotCurvePointGetter *curvePointGetter = nullptr;
+    ZEMQwtPlotCurvePointGetter::PlotCurvePoint currentPoint;
+};
+
+ZEMQwtPlotPointPicker::ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
+                                             QwtEventPattern::MousePatternCode pattern)
+    : QwtPlotPicker(plot->canvas()), d(std::make_unique<Private>())
+{
+    d->name = std::move(name);
+    d->plot = plot;
+    d->curvePointGetter = plot->getCurvePointGetter();
+    setTrackerMode(QwtPicker::AlwaysOff);
+    setRubberBand(QwtPicker::NoRubberBand);
+    setStateMachine(new ZEMTrackerPickerMachine(pattern));
+    // The base's signal and the slot here share their name, so that only strings tell them apart.
+    connect(this, SIGNAL(selected(QPointF)), this, SLOT(selected(QPointF)));
+}
+
+ZEMQwtPlotPointPicker::~ZEMQwtPlotPointPicker() = default;
+
+void ZEMQwtPlotPointPicker::pickNextPlotPoint()
+{
+    updateCurrentPoint(d->curvePointGetter->getNextCurvePoint(d->currentPoint));
+}
+
+void ZEMQwtPlotPointPicker::pickPrevPlotPoint()
+{
+    updateCurrentPoint(d->curvePointGetter->getPrevCurvePoint(d->currentPoint));
+}
+
+void ZEMQwtPlotPointPicker::pickNextCurve()
+{
+    updateCurrentPoint(d->curvePointGetter->getNextCurveForPoint(d->currentPoint));
+}
+
+void ZEMQwtPlotPointPicker::pickPrevCurve()
+{
+    updateCurrentPoint(d->curvePointGetter->getPrevCurveForPoint(d->currentPoint));
+}
+
+void ZEMQwtPlotPointPicker::selected(const QPointF &pos)
+{
+    updateCurrentPoint(d->curvePointGetter->getCurvePoint(pos));
+}
+
+void ZEMQwtPlotPointPicker::updateCurrentPoint(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point)
+{
+    if (point.valid) {
+        d->currentPoint = point;
+        Q_EMIT selectedPlotPoint(point);
+    }
+}
+
+void ZEMQwtPlotPointPicker::widgetKeyPressEvent(QKeyEvent *) { }
+
+void ZEMQwtPlotPointPicker::widgetKeyReleaseEvent(QKeyEvent *) { }

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMQWTPLOTTRACKER_H
+#define ZEMQWTPLOTTRACKER_H
+
+#include "zemkit_export.h"
+#include "zemqwtplotcurvepointgetter.h"
+
+#include <qwt_plot_picker.h>
+
+#include <memory>
+
+class ZEMPlot;
+
+/**
+ * Follows the mouse over a ZEMPlot, with or without a button held, and tells a subclass which curve
+ * point lies under it. Which point that is says ZEMQwtPlotCurvePointGetter::getCurvePoint().
+ *
+ * @code
+ * class ValueTracker : public ZEMQwtPlotTracker
+ * {
+ *     using ZEMQwtPlotTracker::ZEMQwtPlotTracker;
+ *     void curvePointValidChanged(bool valid) override { bubble->setVisible(valid); }
+ *     void curvePointMoved(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point) override
+ *     {
+ *         bubble->setText(tr("%L1 W").arg(point.point.y()));
+ *     }
+ * };
+ * @endcode
+ *
+ * The tracker paints nothing itself, emits no moved(), and takes no keys. The canvas keeps mouse
+ * tracking on.
+ */
+class ZEM_EXPORT ZEMQwtPlotTracker : public QwtPlotPicker
+{
+    Q_OBJECT
+
+public:
+    /** @param plot not null; its canvas owns the tracker */
+    explicit ZEMQwtPlotTracker(ZEMPlot *plot);
+    ~ZEMQwtPlotTracker() override;
+
+protected:
+    /**
+     * The mouse has come onto a curve point, or has left all of them. Called when that changes, at
+     * first when a point is found; not when the mouse leaves the canvas.
+     */
+    virtual void curvePointValidChanged(bool valid) = 0;
+
+    /**
+     * The point under the mouse, which is valid. Called at every move that finds one, also the same
+     * again, and after curvePointValidChanged().
+     */
+    virtual void curvePointMoved(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point) = 0;
+
+    void move(const QPoint &pos) override;
+    void widgetKeyPressEvent(QKeyEvent *event) override;
+    void widgetKeyReleaseEvent(QKeyEvent *event) override;
+
+private:
+    Q_DISABLE_COPY(ZEMQwtPlotTracker)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif

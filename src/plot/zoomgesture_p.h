@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZOOMGESTURE_P_H
+#define ZOOMGESTURE_P_H
+
+#include <QLineF>
+#include <QPoint>
+#include <QPolygon>
+#include <QRect>
+#include <QRectF>
+#include <QSize>
+#include <QSizeF>
+
+#include <array>
+#include <cstdlib>
+
+/** What a drag on a plot means. Points are pixels of the canvas, y growing downward. */
+namespace ZoomGesture {
+
+/** Along which axis a drag runs; the numbers are those of ZEMQwtPickerDrawAdvanced. */
+enum Direction { AlongY = 0, AlongX = 1, Free = 2 };
+
+/** A drag after snapping to an axis. */
+struct Snap
+{
+    Direction direction;
+    QPoint first;
+    QPoint last;
+};
+
+using LinePair = std::array<QLineF, 2>;
+
+/** False for a drag to the upper left, which takes all zooming back. */
+inline bool isZoom(const QPoint &start, const QPoint &end)
+{
+    return end.x() >= start.x() || end.y() >= start.y();
+}
+
+/** Whether a selection is long enough in one direction at least. */
+inline bool hasExtent(const QPoint &start, const QPoint &end)
+{
+    const QRect rect = QRect(start, end).normalized();
+    return rect.right() - rect.left() > 0 || rect.bottom() - rect.top() > 0;
+}
+
+/** The band that a drag from @p start to @p end selects if it strays less than @p margin. */
+inline Snap snapped(const QPoint &start, const QPoint &end, int margin, const QSize &canvas)
+{
+    const int dx = std::abs(end.x() - start.x());
+    const int dy = std::abs(end.y() - start.y());
+    if (dy < margin && dy < dx) {
+        return {AlongX, QPoint(start.x(), 0), QPoint(end.x() - 1, canvas.height() - 1)};
+    }
+    if (dx < margin && dx < dy) {
+        return {AlongY, QPoint(0, start.y()), QPoint(canvas.width() - 1, end.y() - 1)};
+    }
+    return {Free, start, end};
+}
+
+/** @p rect, made at least as large as @p least around the same centre. */
+inline QRectF widened(QRectF rect, const QSizeF &least)
+{
+    const QPointF centre = rect.center();
+    rect.setSize(rect.size().expandedTo(least));
+    rect.moveCenter(centre);
+    return rect;
+}
+
+/** The rubber band: the dragged rectangle with both of its border pixels. */
+inline QRectF band(const QRect &rect)
+{
+    return QRectF(rect.left(), rect.top(), rect.right() - rect.left() + 1,
+                  rect.bottom() - rect.top() + 1);
+}
+
+/** The two diagonals that strike @p rect out. */
+inline LinePair cross(const QRect &rect)
+{
+    return {QLineF(rect.left(), rect.top(), rect.right(), rect.bottom()),
+            QLineF(rect.right(), rect.top(), rect.left(), rect.bottom())};
+}
+
+constexpr int halfTick = 10; // pixels
+
+/** Ticks at the moving edge of a band over the whole width, @p margin off @p origin. */
+inline LinePair ticksAlongY(const QRect &rect, const QPoint &origin, int margin)
+{
+    const int edge = origin.y() < rect.bottom() ? rect.bottom() : rect.top();
+    const int left = origin.x() - margin;
+    const int right = origin.x() + margin;
+    return {QLineF(left, edge - halfTick, left, edge + halfTick),
+            QLineF(right, edge - halfTick, right, edge + halfTick)};
+}
+
+/** Ticks at the moving edge of a band over the whole height, @p margin off @p origin. */
+inline LinePair ticksAlongX(const QRect &rect, const QPoint &origin, int margin)
+{
+    const int edge = origin.x() < rect.right() ? rect.right() : rect.left();
+    const int above = origin.y() - margin;
+    const int below = origin.y() + margin;
+    return {QLineF(edge - halfTick, above, edge + halfTick, above),
+            QLineF(edge - halfTick, below, edge + halfTick, below)};
+}
+
+} // namespace ZoomGesture
+
+#endif
