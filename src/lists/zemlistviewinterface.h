@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMLISTVIEWINTERFACE_H
+#define ZEMLISTVIEWINTERFACE_H
+
+#include "zemkit_export.h"
+
+#include <QAbstractItemView>
+#include <QItemSelectionModel>
+#include <QVariant>
+
+class QAbstractItemDelegate;
+class QAbstractItemModel;
+
+#if defined(__GNUC__) // no destructor, as told below
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
+/**
+ * What a host can ask of every list that moves by pages: of the engine, ZEMListViewLogic, and of
+ * the pages with a list on them, ZEMListView and ZEMSimpleListView. Code that fills a list need not
+ * know which of them it has.
+ *
+ * A list keeps two rows apart. The chosen row is the one given to setIndex(); the current row is
+ * the one of the view, which taps and paging move as well. Rows are counted from 0 and always those
+ * of column 0 at the top level of the model.
+ *
+ * The interface has no destructor: delete an object as what it is, never through this class.
+ */
+class ZEM_EXPORT ZEMListViewInterface
+{
+public:
+    /**
+     * Shows @p model, which stays the caller's and may be deleted any time; a list without one is
+     * as an empty list. The chosen row becomes 0, but no row becomes current, and a list cannot be
+     * paged until one is: call setIndex() next. (A list that gets the keyboard focus makes its
+     * first row current if none is.)
+     *
+     * From then on every reset of @p model chooses the chosen row again, or the last row if there
+     * are fewer now, or -1 if there are none. A model that was set before is still listened to: its
+     * resets restore the chosen row too, and a model that is set twice does so twice.
+     */
+    virtual void setModel(QAbstractItemModel *model) = 0;
+
+    /** Paints the items with @p delegate, which stays the caller's and must outlive the list. */
+    virtual void setItemDelegate(QAbstractItemDelegate *delegate) = 0;
+
+    /**
+     * How a page move selects the row that it makes current. Default:
+     * QItemSelectionModel::NoUpdate, which leaves the selection where it was;
+     * QItemSelectionModel::ClearAndSelect lets it follow.
+     */
+    virtual void setSelectionFlags(QItemSelectionModel::SelectionFlags flags) = 0;
+
+    /** Where a page is brought to in the view. Default: QAbstractItemView::PositionAtTop. */
+    virtual void setScrollHint(QAbstractItemView::ScrollHint hint) = 0;
+
+    /**
+     * The rows of a page, 8 by default. A @p count that is not above 0 is ignored. What is shown
+     * stays until the next call that moves the list.
+     */
+    virtual void setNrPageItems(int count) = 0;
+    virtual int nrPageItems() const = 0;
+
+    /**
+     * Chooses the row @p index: makes it current, selects it as the view's selection mode tells,
+     * and scrolls to the top of its page. A row that does not exist changes nothing. A row that is
+     * disabled in the model becomes the chosen one, but not the current one.
+     */
+    virtual void setIndex(int index) = 0;
+    /** The chosen row: 0 at first, -1 after a reset that left no rows. */
+    virtual int index() const = 0;
+
+    /** The Qt::DisplayRole of the row @p index; invalid if there is no such row. */
+    virtual QVariant data(int index) = 0;
+};
+
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
+
+#endif

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMSIMPLELISTVIEW_H
+#define ZEMSIMPLELISTVIEW_H
+
+#include "zemkit_export.h"
+#include "zemlistviewinterface.h"
+#include "zempagebackground.h"
+
+#include <memory>
+
+class QModelIndex;
+
+#if defined(__GNUC__) // the interface has no destructor
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
+/**
+ * A page to pick one of a few things by its picture: the page beneath is darkened, and a panel in
+ * the middle has a title and a grid of two columns, 175 by 100 pixels for each item and icons of 60
+ * by 60. A tap on an item picks it, a press beside the list cancels.
+ *
+ * @code
+ * auto *actions = new ZEMActionListModel(this);
+ * actions->setTitle(tr("Energie"));
+ * actions->setActionList({electricity, gas, water});
+ * auto *page = new ZEMSimpleListView(window);
+ * page->setModel(actions);
+ * page->fitContents(3);
+ * connect(page, &ZEMSimpleListView::sigSelect, this, &Window::showEnergy);
+ * connect(page, &ZEMSimpleListView::sigSelect, page, &QObject::deleteLater);
+ * connect(page, &ZEMSimpleListView::sigCancel, page, &QObject::deleteLater);
+ * page->show();
+ * @endcode
+ *
+ * The list is for as many items as the panel has room for: there is nothing to page with. The page
+ * neither hides nor closes itself. Do not delete it in a slot that hears of a pick or a cancel, use
+ * deleteLater().
+ *
+ * A new page is 640 by 480 pixels. The list has no ground of its own and takes its text colours
+ * from the palette. For a list of texts, see ZEMListView.
+ */
+class ZEM_EXPORT ZEMSimpleListView : public ZEMPageBackground, public ZEMListViewInterface
+{
+    Q_OBJECT
+
+public:
+    explicit ZEMSimpleListView(QWidget *parent = nullptr);
+    ~ZEMSimpleListView() override;
+
+    /**
+     * As in the interface, and takes the title from the horizontal header of column 0, unless that
+     * is empty. Later changes of the header are not followed.
+     */
+    void setModel(QAbstractItemModel *model) override;
+    void setItemDelegate(QAbstractItemDelegate *delegate) override;
+    void setSelectionFlags(QItemSelectionModel::SelectionFlags flags) override;
+    void setScrollHint(QAbstractItemView::ScrollHint hint) override;
+    /**
+     * As in the interface, and makes the list at least as high as that number of items below each
+     * other, all as high as the first; to fit it to the grid call fitContents(). While there are no
+     * items the height stays.
+     */
+    void setNrPageItems(int count) override;
+    int nrPageItems() const override;
+    void setIndex(int index) override;
+    int index() const override;
+
+    /** Sets the title; the translated "Text label" by default. */
+    virtual void setTitle(const QString &title);
+
+    QVariant data(int index) override;
+
+    /**
+     * Makes the list at least as wide as two columns and exactly as high as @p count items need, or
+     * nrPageItems() items if @p count is not above 0; an odd last item takes a row of its own. The
+     * page size stays. If a host has taken the grid of the list away, the items are measured.
+     */
+    virtual void fitContents(int count);
+
+Q_SIGNALS:
+    /**
+     * The user tapped an item. @p index is its row, which is the current and the chosen one. A tap
+     * on an item that cannot be current, being disabled in the model, picks the current row
+     * instead, the first enabled one if there was none; if all are disabled, the tapped one. Check
+     * it against the model.
+     */
+    void sigSelect(int index);
+
+    /** The user pressed on the page, the panel or the title. */
+    void sigCancel();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+
+private Q_SLOTS:
+    void slotClicked(const QModelIndex &index);
+
+private:
+    Q_DISABLE_COPY(ZEMSimpleListView)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
+
+#endif
