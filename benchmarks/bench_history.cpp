@@ -8,6 +8,8 @@
 //
 // Ends with 1 if a ratio is above the goal.
 
+#include "benchmark.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -91,64 +93,30 @@ private:
     QPointF position {200.0, 100.0};
 };
 
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 /** Compares the two histories and prints a row; returns the ratio of ten years to one day. */
 double compare(const QString &name, bool merged, QTextStream &out)
 {
     DraggedChart day(1, merged);
     DraggedChart tenYears(daysOfTenYears, merged);
-    std::vector<double> dayTimes;
-    std::vector<double> tenYearTimes;
-    std::vector<double> ratios;
-    for (int round = 0; round < rounds; ++round) {
-        // Each goes first every other round.
-        double dayTime = 0.0;
-        double tenYearTime = 0.0;
-        if (round % 2 == 0) {
-            dayTime = day.dragRound();
-            tenYearTime = tenYears.dragRound();
-        } else {
-            tenYearTime = tenYears.dragRound();
-            dayTime = day.dragRound();
-        }
-        dayTimes.push_back(dayTime);
-        tenYearTimes.push_back(tenYearTime);
-        ratios.push_back(tenYearTime / dayTime);
-    }
-    constexpr double nanosecondsPerMicrosecond = 1000.0;
-    const double ratio = median(ratios);
-    out << QStringLiteral("%1 %2 %3 %4\n")
-               .arg(name, -12)
-               .arg(median(dayTimes) / nanosecondsPerMicrosecond, 12, 'f', 1)
-               .arg(median(tenYearTimes) / nanosecondsPerMicrosecond, 12, 'f', 1)
-               .arg(ratio, 8, 'f', 3);
-    return ratio;
+    const Benchmark::Comparison comparison = Benchmark::compareInTurn(
+        rounds, [&day] { return day.dragRound(); }, [&tenYears] { return tenYears.dragRound(); });
+    Benchmark::printRow(out, name, comparison);
+    return comparison.ratio;
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    Benchmark::needNoScreen();
     const QApplication application(argc, argv);
     QTextStream out(stdout);
     out << QStringLiteral("A drag step of %1 pixels, medians of %2 rounds; goal: ratio <= %3\n")
                .arg(stepPixels)
                .arg(rounds)
-               .arg(goal)
-        << QStringLiteral("%1 %2 %3 %4\n")
-               .arg(QStringLiteral("bars"), -12)
-               .arg(QStringLiteral("1 day, us"), 12)
-               .arg(QStringLiteral("10 years, us"), 12)
-               .arg(QStringLiteral("ratio"), 8);
+               .arg(goal);
+    Benchmark::printHeading(out, QStringLiteral("bars"), QStringLiteral("1 day"),
+                            QStringLiteral("10 years"));
     const double separate = compare(QStringLiteral("24 bars"), false, out);
     const double merged = compare(QStringLiteral("merged run"), true, out);
     return std::max(separate, merged) <= goal ? 0 : 1;
