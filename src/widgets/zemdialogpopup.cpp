@@ -3,11 +3,9 @@
 
 #include "zemdialogpopup.h"
 
+#include "modalloop_p.h"
 #include "objectname_p.h"
 #include "ui_zemdialogpopup.h"
-
-#include <QEventLoop>
-#include <QPointer>
 
 class ZEMDialogPopup::Private
 {
@@ -20,34 +18,11 @@ public:
         dialog->setVisible(true);
     }
 
-    /** Returns when the loop has ended: false if the dialog, and with it *this, is gone. */
-    bool runLoop()
-    {
-        QEventLoop loop;
-        // Nobody could end the loop of a dialog that is destroyed by one of the host's slots.
-        connect(dialog, &QObject::destroyed, &loop, &QEventLoop::quit);
-        const QPointer<ZEMDialogPopup> alive(dialog);
-        activeLoop = &loop;
-        loop.exec();
-        if (!alive) {
-            return false;
-        }
-        activeLoop.clear();
-        return true;
-    }
-
-    void exitLoop() const
-    {
-        if (activeLoop) {
-            activeLoop->exit(0);
-        }
-    }
-
     void finish(bool accepted)
     {
         result = accepted;
         dialog->setVisible(false);
-        exitLoop();
+        eventLoop.exit();
     }
 
     void showSpinner(bool show) const
@@ -63,7 +38,7 @@ public:
 
     ZEMDialogPopup *dialog;
     Ui_ZEMDialogPopup ui;
-    QPointer<QEventLoop> activeLoop;
+    ModalLoop eventLoop;
     bool result = false;
 };
 
@@ -110,7 +85,7 @@ void ZEMDialogPopup::info(bool disableAcceptButton)
     d->ui.btnRejected->setEnabled(false);
     d->ui.btnAccepted->setEnabled(!disableAcceptButton);
     d->show();
-    if (d->runLoop()) {
+    if (d->eventLoop.run(this)) {
         d->ui.btnRejected->setEnabled(true);
     }
 }
@@ -121,12 +96,12 @@ bool ZEMDialogPopup::exec()
     d->ui.btnAccepted->setEnabled(true);
     d->show();
     d->result = false;
-    return d->runLoop() && d->result;
+    return d->eventLoop.run(this) && d->result;
 }
 
 void ZEMDialogPopup::reset()
 {
-    d->exitLoop();
+    d->eventLoop.exit();
     if (isVisible()) {
         setVisible(false);
     }

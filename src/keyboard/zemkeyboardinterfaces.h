@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMKEYBOARDINTERFACES_H
+#define ZEMKEYBOARDINTERFACES_H
+
+#include "zemkit_export.h"
+
+#include <QString>
+
+class QWidget;
+class ZEMVirtualKey;
+class ZEMVirtualKeyboard;
+
+#if defined(__GNUC__) // no destructors, as told below
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
+/**
+ * What a host asks for its keyboards, so that it need not know where their files lie and what their
+ * keys look like. KeyboardFactoryDefault is the library's implementation.
+ *
+ * @code
+ * void Settings::editName(ZEMVirtualKeyboardFactoryIntf *keyboards)
+ * {
+ *     auto *keyboard = keyboards->createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupAbove);
+ *     auto *dialog = new ZEMLineEditDialog(keyboard, this);
+ * }
+ * @endcode
+ *
+ * Every call makes a new keyboard, which has no parent and belongs to the caller. The interface has
+ * no destructor: delete an object as what it is, never through this class.
+ */
+class ZEM_EXPORT ZEMVirtualKeyboardFactoryIntf
+{
+public:
+    /** Where the preview of a key and its alternative characters appear. */
+    enum KeyboardPopupStyle {
+        PopupAbove, ///< always above the key; the keyboard keeps a strip of 46 pixels free for it
+        PopupFlip ///< below the key where they would rise above the keyboard; there is no strip
+    };
+
+    /** A full keyboard in the language of the factory. */
+    virtual ZEMVirtualKeyboard *createKeyboard(KeyboardPopupStyle style) = 0;
+
+    /** A keypad for numbers. */
+    virtual ZEMVirtualKeyboard *createNumericKeypad() = 0;
+
+    /**
+     * A keyboard that has the characters of ASCII only, in whatever language, or null if there is
+     * none. This implementation returns null.
+     */
+    virtual ZEMVirtualKeyboard *createAsciiKeyboard(KeyboardPopupStyle style);
+};
+
+/**
+ * What a ZEMVirtualKeyboard asks while it is built and used: its keys, their looks and distances.
+ * To be implemented by whoever wants other keys than those of KeyboardFactoryDefault.
+ *
+ * The widgets are made without a parent; the keyboard that asked takes them over. The factory has
+ * to live as long as the keyboards that use it. The interface has no destructor: delete an object
+ * as what it is, never through this class.
+ */
+class ZEM_EXPORT ZEMVirtualKeyFactoryIntf
+{
+public:
+    /**
+     * A key for the character or word @p name, with its minimum size. The keyboard gives the key
+     * its type, and widens it as its file tells.
+     */
+    virtual ZEMVirtualKey *createKey(const QString &name) = 0;
+
+    /** A key of the panel of alternative characters. A keyboard asks for ten of them. */
+    virtual ZEMVirtualKey *createAlternateKey() = 0;
+
+    /** The preview of the touched character; null if there shall be none. */
+    virtual ZEMVirtualKey *createPopupKey() = 0;
+
+    /** What is seen behind the alternative characters. */
+    virtual QWidget *createPopupKeysBackground() = 0;
+
+    /**
+     * Gives @p key the look of a key that is @p pressed or not, in the size that it has now. Called
+     * for each press and release, and for every key when the keyboard is resized.
+     */
+    virtual void changeKeyStylesheet(ZEMVirtualKey *key, bool pressed) = 0;
+
+    /** The distance of two keys of a row, in pixels. */
+    virtual int hSpacing() const = 0;
+
+    /** The distance of two rows, in pixels. */
+    virtual int vSpacing() const = 0;
+};
+
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
+
+#endif

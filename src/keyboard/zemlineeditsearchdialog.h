@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ZEMLINEEDITSEARCHDIALOG_H
+#define ZEMLINEEDITSEARCHDIALOG_H
+
+#include "zempagebackground.h"
+
+#include <QString>
+
+#include <memory>
+
+class ZEMKeyboardInputHandler;
+class ZEMVirtualKeyboard;
+
+/**
+ * Asks for a search term while the host searches: it reports every edit, and beside the field has a
+ * search button with the number of hits. Otherwise like ZEMLineEditDialog, an Enter key included.
+ *
+ * @code
+ * connect(handler, &ZEMKeyboardInputHandler::sigTextEdited, this, [=](const QString &text) {
+ *     dialog->setSearchCount(index.count(text));
+ * });
+ * dialog->setActiveInputHandler(handler);
+ * dialog->show();
+ * @endcode
+ * The dialog does not close itself: hide it in answer to a signal. A new dialog is 892 by 531
+ * pixels.
+ */
+class ZEM_EXPORT ZEMLineEditSearchDialog : public ZEMPageBackground
+{
+    Q_OBJECT
+
+public:
+    /** The dialog becomes the parent of @p keyboard, which must not be null. */
+    explicit ZEMLineEditSearchDialog(ZEMVirtualKeyboard *keyboard, QWidget *parent = nullptr);
+    ~ZEMLineEditSearchDialog() override;
+
+    /** The text above the field; empty by default. */
+    void setTitle(const QString &title);
+
+    /** The text of the field. Setting it is not an edit: sigTextEdited() is not raised. */
+    void setText(const QString &text);
+    QString text() const;
+
+    /**
+     * Tells results to @p handler from now on, which stays the caller's and may be deleted any
+     * time; null by default, which leaves the dialog's own signals.
+     */
+    void setActiveInputHandler(ZEMKeyboardInputHandler *handler);
+
+    /**
+     * Whether the text is selected when the dialog is shown, so that the first key replaces it;
+     * true by default. Otherwise the cursor stands at the end.
+     */
+    void setAutoSelect(bool select);
+
+    /** The number on the search button; below 0, as by default, it has none. */
+    void setSearchCount(int count);
+
+Q_SIGNALS:
+    /** The dialog was shown; raised once the field has the focus. */
+    void sigShown();
+    /** The user has confirmed. The handler is told before other listeners. */
+    void sigSelect();
+    /** The cancel button was touched. The handler is told before other listeners. */
+    void sigCancel();
+    /** The search button was touched. The handler is told before other listeners. */
+    void sigSearch();
+    /** The user has changed the text to @p text. The handler is told before other listeners. */
+    void sigTextEdited(const QString &text);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void slotInputHandlerSelect();
+    void slotInputHandlerCancel();
+    void slotInputHandlerSearch();
+    void slotInputHandlerTextEdited(const QString &text);
+
+private:
+    Q_DISABLE_COPY(ZEMLineEditSearchDialog)
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+#endif
