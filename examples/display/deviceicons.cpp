@@ -3,15 +3,13 @@
 
 #include "deviceicons.h"
 
-#include <QPainter>
-#include <QPainterPath>
+#include "lineicon.h"
+
+#include <QLineF>
 
 namespace DeviceIcons {
 
 namespace {
-
-constexpr int iconSize = 26; // pixels
-constexpr double lineWidth = 2.0;
 
 /** A fan in a box. */
 QPainterPath heatPump()
@@ -86,37 +84,26 @@ QPainterPath sun()
     return path;
 }
 
-QPixmap draw(const QPainterPath &path)
-{
-    QPixmap picture(iconSize, iconSize);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(path);
-    return picture;
-}
-
 } // namespace
 
 QPixmap picture(Device device)
 {
     switch (device) {
     case Device::HeatPump:
-        return draw(heatPump());
+        return LineIcon::draw(heatPump());
     case Device::Car:
-        return draw(car());
+        return LineIcon::draw(car());
     case Device::Kitchen:
-        return draw(kitchen());
+        return LineIcon::draw(kitchen());
     case Device::Rest:
         break;
     }
-    return draw(rest());
+    return LineIcon::draw(rest());
 }
 
 QPixmap solar()
 {
-    return draw(sun());
+    return LineIcon::draw(sun());
 }
 
 } // namespace DeviceIcons

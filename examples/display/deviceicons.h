@@ -8,7 +8,7 @@
 
 #include <QPixmap>
 
-/** The host's own pictures, white lines of 26 by 26 pixels that go with those of the library. */
+/** Pictures of what takes and gives power, 26 by 26 pixels. */
 namespace DeviceIcons {
 
 QPixmap picture(Device device);

@@ -3,46 +3,67 @@
 
 #include "displaywindow.h"
 
+#include "analysispage.h"
 #include "chartspage.h"
 #include "devicespage.h"
+#include "displaysettings.h"
+#include "energysource.h"
+#include "goalspage.h"
+#include "monthspage.h"
 #include "overviewpage.h"
+#include "pageicons.h"
+#include "pagelook.h"
+#include "settingspage.h"
+#include "standbypage.h"
+
+#include <QAction>
+#include <QRegularExpression>
+#include <ZEMMenuOverlay>
 
 namespace {
 
-QString overviewName()
-{
-    return QStringLiteral("overview");
-}
+const QString overviewName = QStringLiteral("overview");
+const QString chartsName = QStringLiteral("charts");
+const QString devicesName = QStringLiteral("devices");
+const QString analysisName = QStringLiteral("analysis");
+const QString monthsName = QStringLiteral("months");
+const QString goalsName = QStringLiteral("goals");
+const QString settingsName = QStringLiteral("settings");
 
-QString chartsName()
+/** "DIRECTORY/FILE:LINE: what" as "what (FILE:LINE)": in a list the first words are what is seen.
+ */
+QString withPlaceBehind(QString problem)
 {
-    return QStringLiteral("charts");
-}
-
-QString devicesName()
-{
-    return QStringLiteral("devices");
+    static const QRegularExpression place(QStringLiteral("^(?:[^:]*/)?([^:/]+(?::\\d+)?): (.*)$"));
+    return problem.replace(place, QStringLiteral("\\2 (\\1)"));
 }
 
 } // namespace
 
-DisplayWindow::DisplayWindow(const EnergySource &source, QWidget *parent) : QStackedWidget(parent)
+DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSettings,
+                             const QString &keyboardDirectory, QWidget *parent)
+    : QStackedWidget(parent), settings(theSettings), dialogs(keyboardDirectory, theSettings, this)
 {
     setWindowTitle(QStringLiteral("zemkit-display"));
-    setFixedSize(640, 480);
+    setFixedSize(PageLook::pageSize);
+    makePages(source);
+    makePageGrid();
+    makeStandby();
+    makeMenu();
 
-    auto *overview = new OverviewPage(source);
-    charts = new ChartsPage(source);
-    addPage(overview, overviewName());
-    addPage(charts, chartsName());
-    addPage(new DevicesPage(source), devicesName());
-    connect(overview, &OverviewPage::chartsClicked, this, [this] { openPage(chartsName()); });
-    connect(overview, &OverviewPage::devicesClicked, this, [this] { openPage(devicesName()); });
+    for (const QString &problem : source.household().problems) {
+        addMessage(withPlaceBehind(problem));
+    }
+    connect(&source, &EnergySource::problem, this, &DisplayWindow::addMessage);
+    connect(&source, &EnergySource::meteringChanged, this, [this](bool metering) {
+        addMessage(metering ? tr("De meter is er weer.") : tr("De meter zwijgt."));
+    });
 }
 
 QStringList DisplayWindow::pageNames()
 {
-    return {overviewName(), chartsName(), devicesName()};
+    return {overviewName, chartsName, devicesName, analysisName,
+            monthsName,   goalsName,  settingsName};
 }
 
 void DisplayWindow::openPage(const QString &name)
@@ -50,9 +71,117 @@ void DisplayWindow::openPage(const QString &name)
     setCurrentIndex(pageNames().indexOf(name));
 }
 
+void DisplayWindow::openMenu()
+{
+    menu->show();
+    menu->raise();
+}
+
+void DisplayWindow::openPageGrid()
+{
+    dialogs.chooseByPicture(&pageGrid, [this](int row) { gridActions.at(row)->trigger(); });
+}
+
+void DisplayWindow::openMessages()
+{
+    messages.markSeen();
+    if (messages.rowCount() == 0) {
+        dialogs.inform(tr("Geen meldingen"));
+        return;
+    }
+    dialogs.choose(tr("Meldingen"), &messages, 0, [this](int row) {
+        dialogs.read(tr("Melding"), messages.data(messages.index(row)).toString());
+    });
+}
+
+void DisplayWindow::openStandby()
+{
+    setCurrentWidget(standby);
+}
+
+void DisplayWindow::addMessage(const QString &message)
+{
+    messages.add(message);
+}
+
+void DisplayWindow::makePages(const EnergySource &source)
+{
+    auto *overview = new OverviewPage(source);
+    charts = new ChartsPage(source, settings);
+    addPage(overview, overviewName);
+    addPage(charts, chartsName);
+    addPage(new DevicesPage(source), devicesName);
+    addPage(new AnalysisPage(source), analysisName);
+    addPage(new MonthsPage(source), monthsName);
+    addPage(new GoalsPage(source, settings, &dialogs), goalsName);
+    addPage(new SettingsPage(source, settings, &dialogs), settingsName);
+    makeOverview(overview);
+}
+
+void DisplayWindow::makeOverview(OverviewPage *overview)
+{
+    connect(overview, &OverviewPage::chartsClicked, this, [this] { openPage(chartsName); });
+    connect(overview, &OverviewPage::devicesClicked, this, [this] { openPage(devicesName); });
+    connect(overview, &OverviewPage::analysisClicked, this, [this] { openPage(analysisName); });
+    connect(overview, &OverviewPage::goalsClicked, this, [this] { openPage(goalsName); });
+
+    const auto showName = [this, overview] {
+        const QString name = settings->houseName();
+        overview->setTitle(name.isEmpty() ? tr("Overzicht") : name);
+    };
+    connect(settings, &DisplaySettings::changed, overview, showName);
+    showName();
+}
+
 void DisplayWindow::addPage(DisplayPage *page, const QString &name)
 {
     page->setObjectName(name);
+    page->setPlace(count(), int(pageNames().size()));
+    if (count() > 0) {
+        page->addBackButton();
+    }
     addWidget(page);
-    connect(page, &DisplayPage::backClicked, this, [this] { openPage(overviewName()); });
+    connect(page, &DisplayPage::backClicked, this, [this] { openPage(overviewName); });
+    connect(page, &DisplayPage::menuClicked, this, &DisplayWindow::openMenu);
+    connect(page, &DisplayPage::messagesClicked, this, &DisplayWindow::openMessages);
+    connect(&messages, &MessageList::unseenChanged, page, &DisplayPage::setMessageCount);
+}
+
+void DisplayWindow::addGridAction(const QString &text, const QPixmap &icon, const QString &page)
+{
+    auto *action = new QAction(QIcon(icon), text, this);
+    connect(action, &QAction::triggered, this, [this, page] { openPage(page); });
+    gridActions.append(action);
+}
+
+void DisplayWindow::makePageGrid()
+{
+    addGridAction(tr("Grafieken"), PageIcons::charts(), chartsName);
+    addGridAction(tr("Apparaten"), PageIcons::devices(), devicesName);
+    addGridAction(tr("Analyse"), PageIcons::analysis(), analysisName);
+    addGridAction(tr("Maanden"), PageIcons::months(), monthsName);
+    addGridAction(tr("Doelen"), PageIcons::goals(), goalsName);
+    addGridAction(tr("Instellingen"), PageIcons::settings(), settingsName);
+    pageGrid.setTitle(tr("Pagina's"));
+    pageGrid.setActionList(gridActions);
+}
+
+void DisplayWindow::makeMenu()
+{
+    menu = new ZEMMenuOverlay(this);
+    menu->hide();
+    menu->setText1(tr("pagina's"));
+    menu->setText4(tr("meldingen"));
+    menu->showButton4(true);
+    connect(menu, &ZEMMenuOverlay::button1_clicked, this, &DisplayWindow::openPageGrid);
+    connect(menu, &ZEMMenuOverlay::button2_clicked, this, &DisplayWindow::openStandby);
+    connect(menu, &ZEMMenuOverlay::button4_clicked, this, &DisplayWindow::openMessages);
+}
+
+void DisplayWindow::makeStandby()
+{
+    auto *page = new StandbyPage;
+    connect(page, &StandbyPage::touched, this, [this] { openPage(overviewName); });
+    addWidget(page);
+    standby = page;
 }

@@ -4,33 +4,67 @@
 #ifndef DISPLAYWINDOW_H
 #define DISPLAYWINDOW_H
 
+#include "inputdialogs.h"
+#include "messagelist.h"
+
+#include <QList>
 #include <QStackedWidget>
 #include <QStringList>
+#include <ZEMActionListModel>
 
 class ChartsPage;
 class DisplayPage;
+class DisplaySettings;
 class EnergySource;
+class OverviewPage;
+class ZEMMenuOverlay;
 
-/** The whole display: its pages, and the ways between them. */
+/** The whole display: its pages, the ways between them, and the messages. */
 class DisplayWindow : public QStackedWidget
 {
     Q_OBJECT
 
 public:
-    /** @p source must outlive the window. */
-    explicit DisplayWindow(const EnergySource &source, QWidget *parent = nullptr);
+    /**
+     * @p source and @p settings must outlive the window. On-screen keyboards are read from
+     * @p keyboardDirectory when they are wanted.
+     */
+    DisplayWindow(const EnergySource &source, DisplaySettings *settings,
+                  const QString &keyboardDirectory, QWidget *parent = nullptr);
 
     /** The names of the pages, as on the command line; the first is the start page. */
     static QStringList pageNames();
     /** Opens a page of pageNames(). */
     void openPage(const QString &name);
 
+    /** What a touch on the header opens. */
+    void openMenu();
+    void openPageGrid();
+    void openMessages();
+    void openStandby();
+
     ChartsPage *chartsPage() const { return charts; }
 
-private:
-    void addPage(DisplayPage *page, const QString &name);
+public Q_SLOTS:
+    void addMessage(const QString &message);
 
+private:
+    void makePages(const EnergySource &source);
+    void makeOverview(OverviewPage *overview);
+    void addPage(DisplayPage *page, const QString &name);
+    void addGridAction(const QString &text, const QPixmap &icon, const QString &page);
+    void makePageGrid();
+    void makeMenu();
+    void makeStandby();
+
+    DisplaySettings *settings;
+    InputDialogs dialogs;
+    MessageList messages;
+    ZEMActionListModel pageGrid;
+    QList<QAction *> gridActions;
     ChartsPage *charts = nullptr;
+    ZEMMenuOverlay *menu = nullptr;
+    QWidget *standby = nullptr;
 };
 
 #endif

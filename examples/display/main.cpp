@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "charts/energy.h"
+#include "busynotice.h"
+#include "displaysettings.h"
 #include "displaywindow.h"
+#include "energy.h"
 #include "housesource.h"
 #include "metersource.h"
 #include "options.h"
@@ -11,6 +13,7 @@
 #include "screenshots.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QFont>
 #include <QLocale>
@@ -52,6 +55,7 @@ void setLook()
 {
     QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
     QFont::insertSubstitution(QStringLiteral("Quicksand Book"), QStringLiteral("Quicksand"));
+    QFont::insertSubstitution(QStringLiteral("MS Shell Dlg 2"), QStringLiteral("Cabin"));
     QApplication::setFont(QFont(QStringLiteral("Cabin"), 11));
     // The chart page of the library traces every press.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
@@ -82,16 +86,31 @@ std::optional<Readings::Household> readHousehold(const QStringList &files)
     return household;
 }
 
-std::unique_ptr<EnergySource> makeSource(const Options &options,
-                                         std::optional<Readings::Household> household)
+/** The source that the command line asks for, ready to be shown. Null if there is nothing to show.
+ */
+std::unique_ptr<EnergySource> makeSource(const Options &options)
 {
-    if (household) {
-        return std::make_unique<ReadingsSource>(std::move(*household));
+    if (!options.readings.isEmpty()) {
+        std::optional<Readings::Household> household;
+        doWithNotice(QCoreApplication::translate("main", "Standen lezen …"),
+                     [&] { household = readHousehold(options.readings); });
+        return household ? std::make_unique<ReadingsSource>(std::move(*household)) : nullptr;
     }
     if (!options.meter.isEmpty()) {
         return meterSource(options);
     }
-    return std::make_unique<HouseSource>(options.speed);
+    auto house = std::make_unique<HouseSource>(options.speed);
+    doWithNotice(QCoreApplication::translate("main", "Het huis komt tot leven …"),
+                 [&] { house->prepare(); });
+    return house;
+}
+
+/** Beside the program where it is installed, else those of the sources. */
+QString keyboardDirectory()
+{
+    const QDir installed(QCoreApplication::applicationDirPath()
+                         + QStringLiteral("/../share/zemkit/keyboards"));
+    return installed.exists() ? installed.absolutePath() : QStringLiteral(KEYBOARD_DIR);
 }
 
 /** Gives the arrows time to set off, and a meter to tell all it has. */
@@ -123,23 +142,18 @@ int main(int argc, char *argv[])
     if (!options.screenshots.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    std::optional<Readings::Household> household;
-    if (!options.readings.isEmpty()) {
-        // Before there is a window, for files without a reading need none.
-        household = readHousehold(options.readings);
-        if (!household) {
-            return exitNothingToShow;
-        }
-    }
-
     const QApplication application(argc, argv);
     nameApplication();
     // The texts are Dutch, and so are the dates and numbers in them.
     QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     setLook();
 
-    const std::unique_ptr<EnergySource> source = makeSource(options, std::move(household));
-    DisplayWindow display(*source);
+    const std::unique_ptr<EnergySource> source = makeSource(options);
+    if (!source) {
+        return exitNothingToShow;
+    }
+    DisplaySettings settings;
+    DisplayWindow display(*source, &settings, keyboardDirectory());
     display.openPage(options.page);
     display.show();
     source->start();

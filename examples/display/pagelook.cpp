@@ -3,14 +3,20 @@
 
 #include "pagelook.h"
 
+#include <QAbstractItemView>
+#include <QIcon>
 #include <QLinearGradient>
 #include <QPainter>
+#include <ZEMButton>
+#include <ZEMLineEditButton>
+#include <ZEMStyle>
+#include <ZEMTextLabel>
 
 namespace PageLook {
 
 QPixmap background()
 {
-    QPixmap picture(640, 480);
+    QPixmap picture(pageSize);
     QLinearGradient gradient(0.0, 0.0, 0.0, picture.height());
     gradient.setColorAt(0.0, QColor(36, 50, 60));
     gradient.setColorAt(1.0, QColor(14, 20, 26));
@@ -18,14 +24,67 @@ QPixmap background()
     return picture;
 }
 
-QFont titleFont()
-{
-    return QFont(QStringLiteral("Quicksand Book"), 20);
-}
-
 QFont textFont(int pointSize)
 {
     return QFont(QStringLiteral("Cabin"), pointSize);
+}
+
+void makeWhite(QWidget *label)
+{
+    QPalette palette = label->palette();
+    ZEMStyle(nullptr).setLabelColor(palette, ZEMStyle::White);
+    label->setPalette(palette);
+}
+
+ZEMTextLabel *makeLabel(const QString &text, int pointSize)
+{
+    auto *label = new ZEMTextLabel;
+    makeWhite(label);
+    label->setFont(textFont(pointSize));
+    label->setText(text);
+    return label;
+}
+
+ZEMButton *makeTextButton(const QString &text)
+{
+    auto *button = new ZEMButton;
+    button->setBackground(
+        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_small.png")));
+    button->setFont(textFont(14));
+    button->setText(text);
+    return button;
+}
+
+ZEMButton *makeIconButton(const QString &icon)
+{
+    const QString pictures = QStringLiteral(":/zem/graphics/main/buttons/btn_square_small%1.png");
+    auto *button = new ZEMButton;
+    button->setBackground(QPixmap(pictures.arg(QString())));
+    button->setBackgroundDisabled(QPixmap(pictures.arg(QStringLiteral("_disabled"))));
+    button->setIcon(QIcon(QStringLiteral(":/tango/graphics/tango/actions/%1-icon.png").arg(icon)));
+    return button;
+}
+
+ZEMLineEditButton *makeField()
+{
+    constexpr int fieldMargin = 12; // pixels
+    auto *field = new ZEMLineEditButton;
+    field->setBackground(
+        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_xs_wide.png")));
+    field->setLayoutLeft(fieldMargin);
+    field->setLayoutRight(fieldMargin);
+    field->setFont(textFont(14));
+    return field;
+}
+
+void makeTransparent(QAbstractItemView *view)
+{
+    QPalette palette = view->palette();
+    palette.setBrush(QPalette::Base, Qt::NoBrush);
+    palette.setBrush(QPalette::Window, Qt::NoBrush);
+    palette.setColor(QPalette::Text, Qt::white);
+    view->setPalette(palette);
+    view->viewport()->setAutoFillBackground(false);
 }
 
 } // namespace PageLook

@@ -6,17 +6,41 @@
 
 #include <QFont>
 #include <QPixmap>
+#include <QSize>
+#include <QString>
+
+class QAbstractItemView;
+class QWidget;
+class ZEMButton;
+class ZEMLineEditButton;
+class ZEMTextLabel;
 
 /** What all pages of the display have in common. */
 namespace PageLook {
 
-/** The dark ground of a page, 640 by 480 pixels. */
+constexpr QSize pageSize(640, 480);
+
+/** The dark ground of a page, of its size. */
 QPixmap background();
 
-/** The font of page titles. */
-QFont titleFont();
-/** The font of everything else. */
+/** The font of everything but page titles. */
 QFont textFont(int pointSize);
+
+/** Makes the text of a label white. */
+void makeWhite(QWidget *label);
+/** A white text. */
+ZEMTextLabel *makeLabel(const QString &text, int pointSize);
+
+/** A wide button with a text, 152 by 75 pixels. */
+ZEMButton *makeTextButton(const QString &text);
+/** A square button of 75 by 75 pixels with the icon of that name, as "go-up". */
+ZEMButton *makeIconButton(const QString &icon);
+
+/** A field to touch, which shows what was entered, 233 by 50 pixels. */
+ZEMLineEditButton *makeField();
+
+/** Lets the ground of the page shine through a list or a table, and makes its texts white. */
+void makeTransparent(QAbstractItemView *view);
 
 } // namespace PageLook
 

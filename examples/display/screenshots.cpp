@@ -8,9 +8,17 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QPixmap>
+#include <QTimer>
+#include <ZEMDialogPopup>
+#include <ZEMDialogShowText>
+#include <ZEMLineEditButton>
+#include <functional>
 
 namespace {
+
+constexpr int timeToShow = 150; // milliseconds that a dialog needs to stand
 
 /** Grabs pictures into a directory until one cannot be written. */
 class PictureWriter
@@ -34,24 +42,49 @@ public:
         }
     }
 
+    /** Grabs what @p open lays over the page, and closes it again. */
+    void writeOverlay(const QString &name, const std::function<void()> &open)
+    {
+        QEventLoop loop;
+        bool isWritten = false;
+        QTimer::singleShot(timeToShow, &loop, [&] {
+            write(name);
+            closeOverlays();
+            isWritten = true;
+            loop.quit();
+        });
+        // Questions come back when they are closed, everything else at once.
+        open();
+        if (!isWritten) {
+            loop.exec();
+        }
+    }
+
     QString firstProblem() const { return problem; }
 
 private:
+    void closeOverlays()
+    {
+        const auto children =
+            display->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QWidget *child : children) {
+            if (auto *popup = qobject_cast<ZEMDialogPopup *>(child)) {
+                popup->reset();
+            } else if (auto *text = qobject_cast<ZEMDialogShowText *>(child)) {
+                text->reset();
+            } else if (display->indexOf(child) < 0) {
+                child->hide();
+            }
+        }
+    }
+
     const QDir dir;
     DisplayWindow *const display;
     QString problem;
 };
 
-} // namespace
-
-QString writeScreenshots(const QString &directory, DisplayWindow *display)
+void writeCharts(PictureWriter &writer, DisplayWindow *display)
 {
-    PictureWriter writer(directory, display);
-    for (const QString &name : DisplayWindow::pageNames()) {
-        display->openPage(name);
-        writer.write(name);
-    }
-
     ChartsPage *charts = display->chartsPage();
     display->setCurrentWidget(charts);
     for (const Energy &energy : charts->allEnergies()) {
@@ -65,5 +98,35 @@ QString writeScreenshots(const QString &directory, DisplayWindow *display)
             writer.write(name + QStringLiteral("-before"));
         }
     }
+}
+
+/** What the header opens, and what each field of a page asks. */
+void writeOverlays(PictureWriter &writer, DisplayWindow *display)
+{
+    display->openPage(DisplayWindow::pageNames().constFirst());
+    writer.writeOverlay(QStringLiteral("menu"), [display] { display->openMenu(); });
+    writer.writeOverlay(QStringLiteral("pages"), [display] { display->openPageGrid(); });
+    writer.writeOverlay(QStringLiteral("messages"), [display] { display->openMessages(); });
+    for (const QString &page : DisplayWindow::pageNames()) {
+        display->openPage(page);
+        const auto fields = display->currentWidget()->findChildren<ZEMLineEditButton *>();
+        for (ZEMLineEditButton *field : fields) {
+            writer.writeOverlay(QStringLiteral("%1-%2").arg(page, field->objectName()),
+                                [field] { field->click(); });
+        }
+    }
+}
+
+} // namespace
+
+QString writeScreenshots(const QString &directory, DisplayWindow *display)
+{
+    PictureWriter writer(directory, display);
+    for (const QString &name : DisplayWindow::pageNames()) {
+        display->openPage(name);
+        writer.write(name);
+    }
+    writeCharts(writer, display);
+    writeOverlays(writer, display);
     return writer.firstProblem();
 }

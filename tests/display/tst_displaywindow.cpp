@@ -2,54 +2,28 @@
 // SPDX-License-Identifier: MIT
 
 #include "chartspage.h"
-#include "displaywindow.h"
-#include "energysource.h"
-
-#include "zemtest.h"
+#include "playedsource.h"
 
 #include <QLabel>
+#include <QListView>
 #include <QLoggingCategory>
-#include <QSignalSpy>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <ZEMAnimatedArrows>
 #include <ZEMButton>
 #include <ZEMCurrentStatusWidget>
 #include <ZEMHistogram>
+#include <ZEMListView>
+#include <ZEMMenuOverlay>
+#include <ZEMNotificationButton>
+#include <ZEMPageHeader>
+#include <ZEMPageIndicator>
+#include <ZEMSimpleListView>
 #include <ctime>
 
 using namespace ZemTest;
-using Readings::Meter;
 using Readings::Quantity;
-
-/** A source that a test plays. */
-class PlayedSource : public EnergySource
-{
-    Q_OBJECT
-
-public:
-    PlayedSource() { readings.timeZone = QTimeZone("Europe/Amsterdam"); }
-
-    const Readings::Household &household() const override { return readings; }
-    std::optional<PowerReport> power() const override { return report; }
-    double mostProduction() const override { return 4000.0; }
-    bool isMetering() const override { return metering; }
-
-    /** Counters that are read each hour of so many days from 7 March 2016 on. */
-    void count(Quantity quantity, int days)
-    {
-        Meter &meter = readings.meter({quantity, Readings::Tariff::Single}, Meter::Kind::Counter);
-        const qint64 midnight =
-            QDateTime(QDate(2016, 3, 7), QTime(0, 0), readings.timeZone).toSecsSinceEpoch();
-        for (int hour = 0; hour <= 24 * days; ++hour) {
-            meter.addReading(midnight + hour * 3600, 100.0 + 0.5 * hour);
-        }
-    }
-
-    Readings::Household readings;
-    std::optional<PowerReport> report;
-    bool metering = true;
-};
 
 /** Counts the paint events of all arrows in a widget. */
 class PaintCounter : public QObject
@@ -84,7 +58,15 @@ class tst_DisplayWindow : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void tapsLeadToThePagesAndBack_data();
     void tapsLeadToThePagesAndBack();
+    void menuLeadsToEveryPage_data();
+    void menuLeadsToEveryPage();
+    void standbyIsDarkUntilATouch();
+    void messagesAreCountedUntilSeen();
+    void bellWarnsWhileTheMeterIsSilent();
+    void headerTellsTimeAndPlace();
+    void nothingHidesBehindAScrollBar();
     void chartsAppearWithTheirMeters();
     void energyKeepsThePeriodThatWasChosen();
     void hiddenArrowsPaintNothing();
@@ -93,13 +75,12 @@ private Q_SLOTS:
     void lostMeterShowsAQuestionMark();
 
 private:
-    void tap(QWidget *widget) const;
-
     std::unique_ptr<PlayedSource> source;
 };
 
 void tst_DisplayWindow::initTestCase()
 {
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
 }
 
@@ -109,62 +90,169 @@ void tst_DisplayWindow::init()
     source->report = PowerReport {1200.0, 3000.0, {{Device::Car, 800.0, 7400.0}}};
 }
 
-void tst_DisplayWindow::tap(QWidget *widget) const
+void tst_DisplayWindow::tapsLeadToThePagesAndBack_data()
 {
-    press(widget, widget->rect().center());
-    release(widget, widget->rect().center());
-}
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
 
-static ZEMButton *buttonWithText(const QWidget *root, const QString &text)
-{
-    for (ZEMButton *button : root->findChildren<ZEMButton *>()) {
-        if (button->text() == text) {
-            return button;
-        }
-    }
-    return nullptr;
-}
-
-static ZEMButton *backButton(const QWidget *page)
-{
-    for (ZEMButton *button : page->findChildren<ZEMButton *>()) {
-        if (button->size() == QSize(44, 44)) {
-            return button;
-        }
-    }
-    return nullptr;
+    QTest::newRow("the flows") << "ZEMCurrentStatusWidget"
+                               << "devices";
+    QTest::newRow("the totals") << "btnTop"
+                                << "charts";
+    // The chart on the large button lets the touch through to it.
+    QTest::newRow("the week") << "button"
+                              << "charts";
+    QTest::newRow("analysis") << "analysis"
+                              << "analysis";
+    QTest::newRow("goals") << "goals"
+                           << "goals";
 }
 
 void tst_DisplayWindow::tapsLeadToThePagesAndBack()
 {
+    QFETCH(QString, from);
+    QFETCH(QString, to);
     source->count(Quantity::GridImport, 3);
-    DisplayWindow window(*source);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const auto page = [&] { return window.currentWidget()->objectName(); };
-    QCOMPARE(page(), QStringLiteral("overview"));
-    QVERIFY(!backButton(window.currentWidget())->isVisible());
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    QCOMPARE(display.page(), QStringLiteral("overview"));
+    QVERIFY(!display.onPage("back"));
 
-    tap(window.findChild<ZEMCurrentStatusWidget *>());
-    QCOMPARE(page(), QStringLiteral("devices"));
-    tap(backButton(window.currentWidget()));
-    QCOMPARE(page(), QStringLiteral("overview"));
+    PlayedDisplay::tap(display.onPage(qPrintable(from)));
+    QCOMPARE(display.page(), to);
+    PlayedDisplay::tap(display.onPage("back"));
+    QCOMPARE(display.page(), QStringLiteral("overview"));
+}
 
-    tap(buttonWithText(window.currentWidget(), QStringLiteral("Grafieken")));
-    QCOMPARE(page(), QStringLiteral("charts"));
-    tap(backButton(window.currentWidget()));
-    QCOMPARE(page(), QStringLiteral("overview"));
+void tst_DisplayWindow::menuLeadsToEveryPage_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("page");
 
-    // The chart on the large button lets the touch through to it.
-    tap(window.currentWidget()->findChild<QWidget *>(QStringLiteral("button")));
-    QCOMPARE(page(), QStringLiteral("charts"));
+    const QStringList pages = DisplayWindow::pageNames().mid(1);
+    for (const QString &page : pages) {
+        QTest::newRow(qPrintable(page)) << int(pages.indexOf(page)) << page;
+    }
+}
+
+void tst_DisplayWindow::menuLeadsToEveryPage()
+{
+    QFETCH(int, row);
+    QFETCH(QString, page);
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    // Of a page that is not the start page, too.
+    display.window.openPage(QStringLiteral("settings"));
+
+    PlayedDisplay::tap(display.onPage("menu"));
+    auto *menu = display.overlay<ZEMMenuOverlay>();
+    QVERIFY(menu);
+    PlayedDisplay::tap(menu->findChild<ZEMButton *>(QStringLiteral("button1")));
+    QVERIFY(!menu->isVisible());
+    auto *grid = display.overlay<ZEMSimpleListView>();
+    QVERIFY(grid);
+    auto *list = grid->findChild<QListView *>();
+    const QPoint item = list->visualRect(list->model()->index(row, 0)).center();
+    QVERIFY2(list->viewport()->rect().contains(item), "an item beyond the panel");
+    press(list->viewport(), item);
+    release(list->viewport(), item);
+    QCOMPARE(display.page(), page);
+    QVERIFY(!display.overlay<ZEMSimpleListView>());
+}
+
+void tst_DisplayWindow::standbyIsDarkUntilATouch()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    PlayedDisplay::tap(display.onPage("menu"));
+    PlayedDisplay::tap(
+        display.overlay<ZEMMenuOverlay>()->findChild<ZEMButton *>(QStringLiteral("button2")));
+    const QImage dark = display.window.grab().toImage();
+    QCOMPARE(dark.pixelColor(320, 240), QColor(Qt::black));
+    QCOMPARE(dark.pixelColor(20, 20), QColor(Qt::black));
+    PlayedDisplay::tap(display.window.currentWidget());
+    QCOMPARE(display.page(), QStringLiteral("overview"));
+}
+
+void tst_DisplayWindow::messagesAreCountedUntilSeen()
+{
+    source->readings.problems << QStringLiteral("/somewhere/readings.csv:12: a broken row");
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    auto *bell = display.window.currentWidget()->findChild<ZEMNotificationButton *>();
+    QCOMPARE(bell->getNotifyCount(), 1);
+    Q_EMIT source->problem(QStringLiteral("a damaged telegram"));
+    QCOMPARE(bell->getNotifyCount(), 2);
+
+    PlayedDisplay::tap(bell);
+    QCOMPARE(bell->getNotifyCount(), 0);
+    auto *list = display.overlay<ZEMListView>();
+    QVERIFY(list);
+    QCOMPARE(list->data(0).toString(), QStringLiteral("a damaged telegram"));
+    QCOMPARE(list->data(1).toString(), QStringLiteral("a broken row (readings.csv:12)"));
+    PlayedDisplay::tap(list->findChild<ZEMButton *>(QStringLiteral("btnCancel")));
+    QTRY_VERIFY(!display.overlay<ZEMListView>());
+}
+
+void tst_DisplayWindow::bellWarnsWhileTheMeterIsSilent()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    auto *bell = display.window.currentWidget()->findChild<ZEMNotificationButton *>();
+    QVERIFY(!bell->getWarning());
+    source->metering = false;
+    Q_EMIT source->meteringChanged(false);
+    QVERIFY(bell->getWarning());
+    QCOMPARE(bell->getNotifyCount(), 1);
+    source->metering = true;
+    Q_EMIT source->meteringChanged(true);
+    QVERIFY(!bell->getWarning());
+}
+
+void tst_DisplayWindow::headerTellsTimeAndPlace()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    auto *header = display.window.currentWidget()->findChild<ZEMPageHeader *>();
+    QCOMPARE(header->getTitle(), QStringLiteral("Overzicht"));
+    QCOMPARE(header->getSubTitle(), QStringLiteral("woensdag 9 maart 2016, 14:05"));
+    QCOMPARE(header->getNrOfPages(), DisplayWindow::pageNames().size());
+    display.settings.setHouseName(QStringLiteral("Huize Weltevree"));
+    QCOMPARE(header->getTitle(), QStringLiteral("Huize Weltevree"));
+
+    display.window.openPage(QStringLiteral("devices"));
+    header = display.window.currentWidget()->findChild<ZEMPageHeader *>();
+    auto *dots = header->findChild<ZEMPageIndicator *>();
+    QCOMPARE(dots->getCurrentPage(), 2);
+    source->time = source->time.addSecs(3600);
+    display.window.openPage(QStringLiteral("overview"));
+    header = display.window.currentWidget()->findChild<ZEMPageHeader *>();
+    QCOMPARE(header->getSubTitle(), QStringLiteral("woensdag 9 maart 2016, 15:05"));
+}
+
+void tst_DisplayWindow::nothingHidesBehindAScrollBar()
+{
+    source->count(Quantity::GridImport, 3);
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    for (const QString &name : DisplayWindow::pageNames()) {
+        display.window.openPage(name);
+        QCoreApplication::processEvents();
+        for (const QScrollBar *bar : display.window.currentWidget()->findChildren<QScrollBar *>()) {
+            QVERIFY2(!bar->isVisible(), qPrintable(name));
+        }
+        QVERIFY2(display.window.currentWidget()->minimumSizeHint().height() <= 480
+                     && display.window.currentWidget()->minimumSizeHint().width() <= 640,
+                 qPrintable(name));
+    }
 }
 
 void tst_DisplayWindow::chartsAppearWithTheirMeters()
 {
-    DisplayWindow window(*source);
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
     window.openPage(QStringLiteral("charts"));
-    window.show();
+    QVERIFY(display.show());
     QVERIFY(window.chartsPage()->allEnergies().empty());
 
     source->count(Quantity::GridImport, 3);
@@ -180,15 +268,15 @@ void tst_DisplayWindow::energyKeepsThePeriodThatWasChosen()
 {
     source->count(Quantity::GridImport, 10);
     source->count(Quantity::Gas, 10);
-    DisplayWindow window(*source);
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
     window.openPage(QStringLiteral("charts"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(display.show());
     window.chartsPage()->showChart(ZEM::TabElectricity, Period::Week);
     auto *stack = window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
     QVERIFY(stack);
     QCOMPARE(stack->currentIndex(), 1); // week and electricity
-    tap(window.findChild<QWidget *>(QStringLiteral("tabGas")));
+    PlayedDisplay::tap(window.findChild<QWidget *>(QStringLiteral("tabGas")));
     QCOMPARE(stack->currentIndex(), 5); // week and gas
     auto *title = window.chartsPage()->findChild<QLabel *>(QStringLiteral("lblTitle"));
     QVERIFY2(!title->text().isEmpty(), qPrintable(title->text()));
@@ -196,9 +284,9 @@ void tst_DisplayWindow::energyKeepsThePeriodThatWasChosen()
 
 void tst_DisplayWindow::hiddenArrowsPaintNothing()
 {
-    DisplayWindow window(*source);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
+    QVERIFY(display.show());
     PaintCounter paints(&window);
     QTRY_VERIFY(paints.count > 5);
 
@@ -217,9 +305,9 @@ void tst_DisplayWindow::hiddenArrowsPaintNothing()
 void tst_DisplayWindow::stoppedFlowsPaintNothing()
 {
     source->report = PowerReport {0.0, 0.0, {}};
-    DisplayWindow window(*source);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
+    QVERIFY(display.show());
     QTest::qWait(100);
     PaintCounter paints(&window);
     QTest::qWait(400);
@@ -230,9 +318,8 @@ void tst_DisplayWindow::idleDisplayTakesNoProcessorTime()
 {
     source->report = PowerReport {0.0, 0.0, {}};
     source->count(Quantity::GridImport, 3);
-    DisplayWindow window(*source);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
     QTest::qWait(200);
 
     // QTest's own waiting wakes up a hundred times a second; an event loop sleeps.
@@ -247,9 +334,9 @@ void tst_DisplayWindow::idleDisplayTakesNoProcessorTime()
 
 void tst_DisplayWindow::lostMeterShowsAQuestionMark()
 {
-    DisplayWindow window(*source);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
+    QVERIFY(display.show());
     const auto questionMarks = [&] {
         int count = 0;
         for (const QLabel *label : window.currentWidget()->findChildren<QLabel *>()) {

@@ -29,11 +29,11 @@ void addSeries(std::vector<EnergySeries> &series, const QString &name, ZEMStyle:
 }
 
 /** Import as one series, or with two tariffs the sum of both and the low one in front of it. */
-void addImport(std::vector<EnergySeries> &series, const Household &household)
+void addImport(std::vector<EnergySeries> &series, const Household &household, bool showTariffs)
 {
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
-    const bool twoTariffs = meters.size() > 1 && low != household.meters.end();
+    const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
     addSeries(series, twoTariffs ? tr("Normaal tarief") : tr("Verbruik"), ZEMStyle::Amber,
               household, Quantity::GridImport);
     if (twoTariffs) {
@@ -41,11 +41,11 @@ void addImport(std::vector<EnergySeries> &series, const Household &household)
     }
 }
 
-Energy electricity(const Household &household)
+Energy electricity(const Household &household, bool showTariffs)
 {
     Energy energy {
         QStringLiteral("electricity"), ZEM::TabElectricity, QStringLiteral("kWh"), {}, {}};
-    addImport(energy.consumption, household);
+    addImport(energy.consumption, household, showTariffs);
     addSeries(energy.yield, tr("Opwekking"), ZEMStyle::Yellow, household,
               Quantity::SolarProduction);
     addSeries(energy.yield, tr("Teruglevering"), ZEMStyle::Green, household, Quantity::GridExport);
@@ -63,11 +63,11 @@ Energy single(const QString &key, ZEM::ZEMTab tab, const QString &unit, const QS
 
 } // namespace
 
-std::vector<Energy> energiesOf(const Household &household)
+std::vector<Energy> energiesOf(const Household &household, bool showTariffs)
 {
     const QString cubicMetres = QStringLiteral("m³");
     std::vector<Energy> all {
-        electricity(household),
+        electricity(household, showTariffs),
         single(QStringLiteral("gas"), ZEM::TabGas, cubicMetres, tr("Gas"), ZEMStyle::Orange,
                household, Quantity::Gas),
         single(QStringLiteral("heating"), ZEM::TabHeating, QStringLiteral("GJ"), tr("Warmte"),

@@ -33,7 +33,10 @@ struct Energy
     std::vector<EnergySeries> yield; ///< the chart under it; none without series
 };
 
-/** The energies that @p household measures, in the order of their tabs. It must outlive them. */
-std::vector<Energy> energiesOf(const Readings::Household &household);
+/**
+ * The energies that @p household measures, in the order of their tabs. It must outlive them. A low
+ * tariff has bars of its own if @p showTariffs is true.
+ */
+std::vector<Energy> energiesOf(const Readings::Household &household, bool showTariffs = true);
 
 #endif

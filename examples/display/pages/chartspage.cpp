@@ -4,6 +4,7 @@
 #include "chartspage.h"
 
 #include "daterange.h"
+#include "displaysettings.h"
 #include "energysource.h"
 
 #include <QVBoxLayout>
@@ -13,7 +14,7 @@
 
 namespace {
 
-constexpr PlotHeights plotHeights {240, 168, 104};
+constexpr PlotHeights plotHeights {222, 156, 94};
 
 /** Whether two lists need the same charts: a meter that is heard for the first time adds one. */
 bool sameSeries(const std::vector<Energy> &left, const std::vector<Energy> &right)
@@ -27,11 +28,14 @@ bool sameSeries(const std::vector<Energy> &left, const std::vector<Energy> &righ
 
 } // namespace
 
-ChartsPage::ChartsPage(const EnergySource &source, QWidget *parent)
-    : DisplayPage(tr("Grafieken"), source, parent), energies(energiesOf(source.household()))
+ChartsPage::ChartsPage(const EnergySource &source, const DisplaySettings *theSettings,
+                       QWidget *parent)
+    : DisplayPage(tr("Grafieken"), source, parent), settings(theSettings)
 {
+    energies = measuredEnergies();
     makeCharts();
     connect(&source, &EnergySource::historyChanged, this, &ChartsPage::handleHistory);
+    connect(settings, &DisplaySettings::changed, this, &ChartsPage::handleHistory);
 }
 
 void ChartsPage::showChart(ZEM::ZEMTab energy, Period period)
@@ -50,6 +54,12 @@ void ChartsPage::showEvent(QShowEvent *event)
 {
     DisplayPage::showEvent(event);
     feedCurrentChart();
+}
+
+std::vector<Energy> ChartsPage::measuredEnergies() const
+{
+    return energiesOf(energySource().household(),
+                      settings->contract() == ContractType::DayAndNight);
 }
 
 void ChartsPage::makeCharts()
@@ -113,7 +123,7 @@ void ChartsPage::handleButton(ZEMHistogramWidget::ButtonType button)
 
 void ChartsPage::handleHistory()
 {
-    std::vector<Energy> measured = energiesOf(energySource().household());
+    std::vector<Energy> measured = measuredEnergies();
     if (!sameSeries(measured, energies)) {
         energies = std::move(measured);
         makeCharts();

@@ -12,6 +12,8 @@
 #include <memory>
 #include <vector>
 
+class DisplaySettings;
+
 /**
  * The page of charts: each energy that the house measures by day, week, month and year. A chart is
  * fed when it comes into view, and again when a slot of it is complete.
@@ -21,7 +23,9 @@ class ChartsPage : public DisplayPage
     Q_OBJECT
 
 public:
-    explicit ChartsPage(const EnergySource &source, QWidget *parent = nullptr);
+    /** Both must outlive the page. */
+    ChartsPage(const EnergySource &source, const DisplaySettings *settings,
+               QWidget *parent = nullptr);
 
     /** The energies in the order of their tabs. */
     const std::vector<Energy> &allEnergies() const { return energies; }
@@ -42,12 +46,14 @@ private:
         bool isFed = false;
     };
 
+    std::vector<Energy> measuredEnergies() const;
     void makeCharts();
     void handleButton(ZEMHistogramWidget::ButtonType button);
     void handleHistory();
     void feedCurrentChart();
     Entry *currentEntry();
 
+    const DisplaySettings *settings;
     std::vector<Energy> energies;
     std::vector<Entry> entries;
     ZEM::ZEMTab currentEnergy = ZEM::TabElectricity;

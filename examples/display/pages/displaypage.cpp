@@ -4,85 +4,153 @@
 #include "displaypage.h"
 
 #include "energysource.h"
+#include "pageicons.h"
 #include "pagelook.h"
 
-#include <QHBoxLayout>
+#include <QLocale>
+#include <QStackedWidget>
+#include <QVBoxLayout>
 #include <ZEMButton>
 #include <ZEMLabel>
+#include <ZEMNotificationButton>
+#include <ZEMPageHeader>
 #include <ZEMTextLabel>
 #include <ZEMUtils>
 #include <cmath>
 
 namespace {
 
-constexpr int headerHeight = 52; // pixels
 constexpr int margin = 16; // pixels at both sides
-constexpr QSize backSize(44, 44);
+constexpr int tileSize = 54; // pixels, of the square tiles in the header
+constexpr int secondsPerMinute = 60;
+constexpr int millisecondsPerSecond = 1000;
+
+ZEMButton *makeTileButton(const QPixmap &icon, const char *name)
+{
+    auto *button = new ZEMButton;
+    button->setObjectName(QLatin1String(name));
+    button->setIcon(QIcon(icon));
+    button->setIconSize(icon.size());
+    button->setFixedSize(tileSize, tileSize);
+    return button;
+}
 
 } // namespace
 
 DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidget *parent)
-    : ZEMPageBackground(parent), shownSource(source)
+    : ZEMPageBackground(parent), shownSource(source), header(new ZEMPageHeader)
 {
     setBackground(PageLook::background());
 
+    auto *actions = new QStackedWidget;
+    auto *menu = makeTileButton(PageIcons::menu(), "menu");
+    actions->addWidget(menu);
+    header->setActionButton(actions);
+    connect(menu, &ZEMButton::clicked, this, &DisplayPage::menuClicked);
+
+    QWidget *powerTile = makePowerTile();
+    header->addButton(powerTile);
+    // A tile may otherwise shrink to its picture.
+    powerTile->parentWidget()->setMinimumWidth(powerTile->width());
+    messages = new ZEMNotificationButton;
+    messages->setIcon(PageIcons::bell());
+    messages->setFixedSize(tileSize, tileSize);
+    header->addButton(messages);
+    connect(messages, &ZEMNotificationButton::clicked, this, &DisplayPage::messagesClicked);
+
+    PageLook::makeWhite(header->getTitleWidget());
+    header->setNrOfPages(0);
+    setTitle(title);
+
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(margin, 0, margin, 6);
+    rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(makeHeader(title));
+    rows->addWidget(header);
     contentLayout = new QVBoxLayout;
-    contentLayout->setContentsMargins(0, 0, 0, 0);
+    contentLayout->setContentsMargins(margin, 0, margin, 6);
     contentLayout->setSpacing(0);
     rows->addLayout(contentLayout, 1);
 
+    minuteTimer.setSingleShot(true);
+    connect(&minuteTimer, &QTimer::timeout, this, &DisplayPage::showNow);
     connect(&source, &EnergySource::powerChanged, this, &DisplayPage::showGridPower);
     connect(&source, &EnergySource::meteringChanged, this, &DisplayPage::showGridPower);
     showGridPower();
 }
 
-void DisplayPage::setBackVisible(bool visible)
+void DisplayPage::setTitle(const QString &title)
 {
-    back->setVisible(visible);
+    header->setTitle(title);
 }
 
-QWidget *DisplayPage::makeHeader(const QString &title)
+void DisplayPage::setPlace(int index, int count)
 {
-    back = new ZEMButton;
-    back->setIcon(QIcon(QStringLiteral(":/zem/graphics/icons/arrow_left.png")));
-    back->setFixedSize(backSize);
+    header->setNrOfPages(count);
+    header->setCurrentPage(index);
+}
+
+void DisplayPage::addBackButton()
+{
+    auto *back = makeTileButton(PageIcons::back(), "back");
+    header->setActionButton2(back);
     connect(back, &ZEMButton::clicked, this, &DisplayPage::backClicked);
+}
 
-    auto *heading = new ZEMTextLabel;
-    heading->setFont(PageLook::titleFont());
-    heading->setShadow(true);
-    heading->setText(title);
+void DisplayPage::setMessageCount(int count)
+{
+    messages->setNotifyCount(count);
+}
 
-    powerCaption = new ZEMTextLabel;
-    powerCaption->setFont(PageLook::textFont(12));
+void DisplayPage::showEvent(QShowEvent *event)
+{
+    ZEMPageBackground::showEvent(event);
+    showGridPower();
+    showNow();
+}
+
+void DisplayPage::hideEvent(QHideEvent *event)
+{
+    minuteTimer.stop();
+    ZEMPageBackground::hideEvent(event);
+}
+
+QWidget *DisplayPage::makePowerTile()
+{
+    powerCaption = PageLook::makeLabel(QString(), 10);
+    powerCaption->setAlignment(Qt::AlignCenter);
 
     power = new ZEMLabel;
-    power->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/main/text_bg_medium.png")));
-    power->setFont(PageLook::textFont(14));
+    power->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/main/text_bg_small_medium.png")));
+    power->setFont(PageLook::textFont(13));
 
-    auto *header = new QWidget;
-    header->setFixedHeight(headerHeight);
-    auto *row = new QHBoxLayout(header);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    row->addWidget(back);
-    row->addWidget(heading, 1);
-    row->addWidget(powerCaption);
-    row->addWidget(power);
-    return header;
+    auto *tile = new QWidget;
+    tile->setFixedSize(92, tileSize);
+    auto *rows = new QVBoxLayout(tile);
+    rows->setContentsMargins(0, 3, 0, 3);
+    rows->setSpacing(0);
+    rows->addWidget(powerCaption);
+    rows->addWidget(power, 0, Qt::AlignCenter);
+    return tile;
+}
+
+void DisplayPage::showNow()
+{
+    const QDateTime now = shownSource.now();
+    header->setSubtitle(QLocale().toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")));
+    minuteTimer.start((secondsPerMinute - now.time().second()) * millisecondsPerSecond);
 }
 
 void DisplayPage::showGridPower()
 {
+    // A page that is not in view is brought up to date when it comes into view.
+    if (!isVisible()) {
+        return;
+    }
     const std::optional<PowerReport> report = shownSource.power();
     const bool known = report && shownSource.isMetering();
-    power->setVisible(report.has_value() || !shownSource.isMetering());
-    powerCaption->setVisible(known);
+    messages->setWarning(!shownSource.isMetering());
     if (!known) {
+        powerCaption->setText(QString());
         power->setText(QStringLiteral("?"));
         return;
     }

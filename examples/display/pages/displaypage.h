@@ -5,17 +5,20 @@
 #define DISPLAYPAGE_H
 
 #include <QString>
+#include <QTimer>
 #include <ZEMPageBackground>
 
 class EnergySource;
 class QVBoxLayout;
-class ZEMButton;
 class ZEMLabel;
+class ZEMNotificationButton;
+class ZEMPageHeader;
 class ZEMTextLabel;
 
 /**
- * The base of all pages of the display: the dark ground, and a header strip with a way back, the
- * title of the page and the power of the grid. A page is 640 by 480 pixels.
+ * The base of all pages of the display: the dark ground, and a header with the menu, a way back,
+ * the title and place of the page, date and time, the power of the grid and the messages. A page is
+ * 640 by 480 pixels, of which the header takes 74.
  */
 class DisplayPage : public ZEMPageBackground
 {
@@ -25,26 +28,39 @@ public:
     /** @p source must outlive the page. */
     DisplayPage(const QString &title, const EnergySource &source, QWidget *parent = nullptr);
 
-    /** The start page has no way back. */
-    void setBackVisible(bool visible);
+    void setTitle(const QString &title);
+    /** Tells that this is page @p index, counted from 0, of @p count. */
+    void setPlace(int index, int count);
+    /** All pages but the start page have a way back. */
+    void addBackButton();
+    /** How many messages have not been seen. */
+    void setMessageCount(int count);
 
 Q_SIGNALS:
+    void menuClicked();
     void backClicked();
+    void messagesClicked();
 
 protected:
     const EnergySource &energySource() const { return shownSource; }
-    /** The room beneath the header strip. */
+    /** The room beneath the header. */
     QVBoxLayout *content() const { return contentLayout; }
 
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
 private:
-    QWidget *makeHeader(const QString &title);
+    QWidget *makePowerTile();
+    void showNow();
     void showGridPower();
 
     const EnergySource &shownSource;
+    QTimer minuteTimer;
+    ZEMPageHeader *header;
     QVBoxLayout *contentLayout = nullptr;
-    ZEMButton *back = nullptr;
     ZEMTextLabel *powerCaption = nullptr;
     ZEMLabel *power = nullptr;
+    ZEMNotificationButton *messages = nullptr;
 };
 
 #endif

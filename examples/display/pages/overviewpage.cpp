@@ -27,16 +27,6 @@ namespace {
 
 constexpr int weekPlotHeight = 132; // pixels, of the 152 of the button
 
-ZEMButton *makePageButton(const QString &text)
-{
-    auto *button = new ZEMButton;
-    button->setBackground(
-        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_small.png")));
-    button->setFont(PageLook::textFont(14));
-    button->setText(text);
-    return button;
-}
-
 /** The dates of the newest window of a chart. */
 DateRange newestOnly(Period period, const QDate &last)
 {
@@ -48,7 +38,6 @@ DateRange newestOnly(Period period, const QDate &last)
 OverviewPage::OverviewPage(const EnergySource &source, QWidget *parent)
     : DisplayPage(tr("Overzicht"), source, parent), status(new ZEMCurrentStatusWidget)
 {
-    setBackVisible(false);
     status->setMaxProduction(source.mostProduction());
     connect(status, &ZEMCurrentStatusWidget::clicked, this, &OverviewPage::devicesClicked);
 
@@ -110,17 +99,19 @@ QWidget *OverviewPage::makeWeekButton()
 
 QWidget *OverviewPage::makePageButtons()
 {
-    auto *charts = makePageButton(tr("Grafieken"));
-    connect(charts, &ZEMButton::clicked, this, &OverviewPage::chartsClicked);
-    auto *devices = makePageButton(tr("Apparaten"));
-    connect(devices, &ZEMButton::clicked, this, &OverviewPage::devicesClicked);
+    ZEMButton *analysis = PageLook::makeTextButton(tr("Analyse"));
+    analysis->setObjectName(QStringLiteral("analysis"));
+    connect(analysis, &ZEMButton::clicked, this, &OverviewPage::analysisClicked);
+    ZEMButton *goals = PageLook::makeTextButton(tr("Doelen"));
+    goals->setObjectName(QStringLiteral("goals"));
+    connect(goals, &ZEMButton::clicked, this, &OverviewPage::goalsClicked);
 
     auto *buttons = new QWidget;
     auto *rows = new QVBoxLayout(buttons);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(2);
-    rows->addWidget(charts);
-    rows->addWidget(devices);
+    rows->addWidget(analysis);
+    rows->addWidget(goals);
     return buttons;
 }
 

@@ -29,6 +29,8 @@ public:
 Q_SIGNALS:
     void chartsClicked();
     void devicesClicked();
+    void analysisClicked();
+    void goalsClicked();
 
 protected:
     void showEvent(QShowEvent *event) override;

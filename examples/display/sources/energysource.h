@@ -6,7 +6,9 @@
 
 #include "household.h"
 
+#include <QDateTime>
 #include <QObject>
+#include <QString>
 #include <QVector>
 
 /** What power goes into. The panel of devices has room for these four. */
@@ -39,8 +41,20 @@ class EnergySource : public QObject
 public:
     using QObject::QObject;
 
+    /**
+     * Works out what there is to show at first, which may take seconds. Called once before all
+     * else; may run in a thread of its own while nobody else uses the source.
+     */
+    virtual void prepare() { }
+
     /** Begins to tell of changes. Called once, when somebody listens. */
     virtual void start() { }
+
+    /** The time of the household, on its clock. */
+    virtual QDateTime now() const
+    {
+        return QDateTime::currentDateTime().toTimeZone(household().timeZone);
+    }
 
     /** What the meters counted. It is the same object as long as the source lives. */
     virtual const Readings::Household &household() const = 0;
@@ -56,6 +70,8 @@ Q_SIGNALS:
     /** The meters counted on: the charts have more to show. */
     void historyChanged();
     void meteringChanged(bool metering);
+    /** Something is wrong, told in one line. */
+    void problem(const QString &line);
 };
 
 #endif

@@ -25,11 +25,20 @@ HouseSource::HouseSource(double speed, QObject *parent)
     : EnergySource(parent), clock(QDateTime::currentMSecsSinceEpoch(), speed),
       house(seed, utrecht, QTimeZone("Europe/Amsterdam"),
             startOfHistory(QDateTime::currentSecsSinceEpoch())),
-      recorder(&house, &readings), now(QDateTime::currentSecsSinceEpoch()), recorded(now)
+      recorder(&house, &readings), instant(QDateTime::currentSecsSinceEpoch()), recorded(instant)
 {
-    recorder.recordUntil(now);
     timer.setInterval(tick);
     connect(&timer, &QTimer::timeout, this, &HouseSource::followClock);
+}
+
+void HouseSource::prepare()
+{
+    recorder.recordUntil(instant);
+}
+
+QDateTime HouseSource::now() const
+{
+    return QDateTime::fromSecsSinceEpoch(instant, house.timeZone());
 }
 
 void HouseSource::start()
@@ -39,7 +48,7 @@ void HouseSource::start()
 
 std::optional<PowerReport> HouseSource::power() const
 {
-    const PowerNow flow = house.powerAt(now);
+    const PowerNow flow = house.powerAt(instant);
     PowerReport report;
     report.consumption = flow.consumption();
     report.production = flow.production;
@@ -55,17 +64,22 @@ double HouseSource::mostProduction() const
     return SimulatedHouse::mostProduction;
 }
 
+PowerDay HouseSource::powerDay(const QDate &date) const
+{
+    return ::powerDay(house, date, instant);
+}
+
 void HouseSource::followClock()
 {
-    const qint64 before = now;
-    now = clock.instantAt(QDateTime::currentMSecsSinceEpoch());
+    const qint64 before = instant;
+    instant = clock.instantAt(QDateTime::currentMSecsSinceEpoch());
     // Power changes with the minute only.
-    if (now / secondsPerMinute != before / secondsPerMinute) {
+    if (instant / secondsPerMinute != before / secondsPerMinute) {
         Q_EMIT powerChanged();
     }
-    if (now - recorded >= recordInterval) {
-        recorder.recordUntil(now);
-        recorded = now;
+    if (instant - recorded >= recordInterval) {
+        recorder.recordUntil(instant);
+        recorded = instant;
         Q_EMIT historyChanged();
     }
 }

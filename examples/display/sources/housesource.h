@@ -7,12 +7,13 @@
 #include "energysource.h"
 #include "houseclock.h"
 #include "houserecorder.h"
+#include "powerday.h"
 #include "simulatedhouse.h"
 
 #include <QTimer>
 
 /** A simulated house with two years of history, which lives on from now. */
-class HouseSource : public EnergySource
+class HouseSource : public EnergySource, public MinutePower
 {
     Q_OBJECT
 
@@ -20,10 +21,14 @@ public:
     /** @p speed is how much faster than the clock on the wall the house lives. */
     explicit HouseSource(double speed, QObject *parent = nullptr);
 
+    /** Counts the history. */
+    void prepare() override;
     void start() override;
+    QDateTime now() const override;
     const Readings::Household &household() const override { return readings; }
     std::optional<PowerReport> power() const override;
     double mostProduction() const override;
+    PowerDay powerDay(const QDate &date) const override;
 
 private:
     void followClock();
@@ -32,7 +37,7 @@ private:
     SimulatedHouse house;
     Readings::Household readings;
     HouseRecorder recorder;
-    qint64 now;
+    qint64 instant;
     qint64 recorded;
     QTimer timer;
 };

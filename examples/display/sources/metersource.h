@@ -24,8 +24,6 @@ public:
     bool isMetering() const override;
 
 Q_SIGNALS:
-    /** What is wrong with the link or a telegram, one line. */
-    void problem(const QString &line);
     /** A file is at its end. */
     void ended();
 

@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "goalspage.h"
+
+#include "budget.h"
+#include "daterange.h"
+#include "energysource.h"
+#include "inputdialogs.h"
+#include "pagelook.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QIntValidator>
+#include <QLocale>
+#include <QVBoxLayout>
+#include <ZEMBarIndicator>
+#include <ZEMLineEditButton>
+#include <ZEMProfileButton>
+#include <ZEMStyle>
+#include <ZEMTextLabel>
+#include <ZEMThreeStars>
+
+namespace {
+
+constexpr int cardWidth = 330; // pixels
+constexpr int barHeight = 18;
+constexpr int barLine = 3;
+constexpr QSize starsSize(100, 84);
+constexpr double millisecondsPerDay = 24.0 * 60.0 * 60.0 * 1000.0;
+
+/** A dark card with a caption; its rows are added to @p rows. */
+QWidget *makeCard(const QString &caption, QVBoxLayout **rows)
+{
+    auto *card = new QWidget;
+    QPalette palette = card->palette();
+    palette.setColor(QPalette::Window, QColor(0, 0, 0, 90));
+    card->setPalette(palette);
+    card->setAutoFillBackground(true);
+    card->setFixedWidth(cardWidth);
+    *rows = new QVBoxLayout(card);
+    (*rows)->setContentsMargins(14, 10, 14, 12);
+    (*rows)->setSpacing(8);
+    (*rows)->addWidget(PageLook::makeLabel(caption, 12));
+    return card;
+}
+
+QString ofBudget(const std::optional<double> &used, double budget)
+{
+    const QLocale locale;
+    const QString amount = used ? locale.toString(*used, 'f', 1) : QStringLiteral("–");
+    return GoalsPage::tr("%1 van %2 kWh").arg(amount, locale.toString(budget, 'f', 1));
+}
+
+QString nameOf(Profile profile)
+{
+    switch (profile) {
+    case Profile::Away:
+        return GoalsPage::tr("Overdag weg");
+    case Profile::Holiday:
+        return GoalsPage::tr("Vakantie");
+    case Profile::Home:
+        break;
+    }
+    return GoalsPage::tr("Thuis");
+}
+
+} // namespace
+
+GoalsPage::GoalsPage(const EnergySource &source, DisplaySettings *theSettings,
+                     InputDialogs *theDialogs, QWidget *parent)
+    : DisplayPage(tr("Doelen"), source, parent), settings(theSettings), dialogs(theDialogs)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(14);
+    grid->setAlignment(Qt::AlignCenter);
+    grid->addWidget(makeToday(), 0, 0);
+    grid->addWidget(makeYesterday(), 1, 0);
+    grid->addWidget(makeProfiles(), 0, 1, Qt::AlignTop);
+    grid->addWidget(makeYearGoal(), 1, 1, Qt::AlignTop);
+    content()->addLayout(grid, 1);
+
+    connect(&source, &EnergySource::historyChanged, this, &GoalsPage::refresh);
+    connect(settings, &DisplaySettings::changed, this, &GoalsPage::refresh);
+}
+
+void GoalsPage::showEvent(QShowEvent *event)
+{
+    DisplayPage::showEvent(event);
+    refresh();
+}
+
+QWidget *GoalsPage::makeToday()
+{
+    const ZEMStyle style(nullptr);
+    QVBoxLayout *rows = nullptr;
+    QWidget *card = makeCard(tr("budget van vandaag"), &rows);
+    todayText = PageLook::makeLabel(QString(), 20);
+    rows->addWidget(todayText);
+
+    budgetBar = new ZEMBarIndicator;
+    budgetBar->setFixedSize(cardWidth - 28, barHeight);
+    budgetBar->setMaxValuePen(QPen(style.color(ZEMStyle::WhiteAlpha50), barLine));
+    // How much of the day is over.
+    budgetBar->setEnableMidValue(true);
+    budgetBar->setMidValuePen(QPen(Qt::white, barLine));
+    rows->addWidget(budgetBar);
+
+    todayCosts = PageLook::makeLabel(QString(), 13);
+    rows->addWidget(todayCosts);
+    return card;
+}
+
+QWidget *GoalsPage::makeYesterday()
+{
+    QVBoxLayout *rows = nullptr;
+    QWidget *card = makeCard(tr("gisteren"), &rows);
+    yesterdayText = PageLook::makeLabel(QString(), 13);
+    stars = new ZEMThreeStars;
+    stars->setFixedSize(starsSize);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(yesterdayText, 1);
+    row->addWidget(stars);
+    rows->addLayout(row);
+    return card;
+}
+
+QWidget *GoalsPage::makeProfiles()
+{
+    auto *group = new QButtonGroup(this);
+    auto *column = new QWidget;
+    auto *rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(4);
+    for (const Profile profile : {Profile::Home, Profile::Away, Profile::Holiday}) {
+        auto *button = new ZEMProfileButton;
+        button->setTitle(nameOf(profile));
+        group->addButton(button);
+        rows->addWidget(button);
+        profiles[profile] = button;
+        connect(button, &ZEMProfileButton::clicked, this,
+                [this, profile] { settings->setProfile(profile); });
+    }
+    return column;
+}
+
+QWidget *GoalsPage::makeYearGoal()
+{
+    yearGoal = PageLook::makeField();
+    yearGoal->setObjectName(QStringLiteral("yearGoal"));
+    connect(yearGoal, &ZEMLineEditButton::clicked, this, &GoalsPage::askForYearGoal);
+
+    auto *column = new QWidget;
+    auto *rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(2);
+    rows->addWidget(PageLook::makeLabel(tr("doel van een jaar"), 12));
+    rows->addWidget(yearGoal);
+    return column;
+}
+
+void GoalsPage::askForYearGoal()
+{
+    auto *validator = new QIntValidator(1, DisplaySettings::mostYearGoal);
+    dialogs->askNumber(tr("Stroom in een jaar, in kWh"), QString::number(settings->yearGoal()),
+                       validator,
+                       [this](const QString &text) { settings->setYearGoal(text.toInt()); });
+}
+
+void GoalsPage::refresh()
+{
+    if (!isVisible()) {
+        return;
+    }
+    showToday();
+    showYesterday();
+    yearGoal->setText(tr("%L1 kWh").arg(settings->yearGoal()));
+    for (const auto &[profile, button] : profiles) {
+        const bool isInUse = profile == settings->profile();
+        button->setChecked(isInUse);
+        button->setActivated(isInUse);
+    }
+}
+
+void GoalsPage::showToday()
+{
+    const Readings::Household &household = energySource().household();
+    const QDate today = datesOf(household).last;
+    const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
+    const std::optional<double> used = Budget::takenOn(household, today);
+    todayText->setText(ofBudget(used, budget));
+    todayCosts->setText(
+        used ? tr("tot nu toe € %1").arg(QLocale().toString(*used * settings->price(), 'f', 2))
+             : QString());
+
+    budgetBar->setMaxValue(budget);
+    budgetBar->setValue(used.value_or(0.0));
+    const bool isOver = used.value_or(0.0) > budget;
+    const ZEMStyle style(nullptr);
+    budgetBar->setValuePen(
+        QPen(style.color(isOver ? ZEMStyle::SoftRed : ZEMStyle::Green), barLine));
+    const QTime known =
+        QDateTime::fromSecsSinceEpoch(household.lastInstant().value_or(0), household.timeZone)
+            .time();
+    budgetBar->setMidValue(budget * known.msecsSinceStartOfDay() / millisecondsPerDay);
+}
+
+void GoalsPage::showYesterday()
+{
+    const QDate yesterday = datesOf(energySource().household()).last.addDays(-1);
+    const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
+    const std::optional<double> used = Budget::takenOn(energySource().household(), yesterday);
+    yesterdayText->setText(ofBudget(used, budget));
+    stars->setStars(used ? Budget::starsFor(*used, budget) : 0);
+}

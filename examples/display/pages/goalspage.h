@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef GOALSPAGE_H
+#define GOALSPAGE_H
+
+#include "displaypage.h"
+#include "displaysettings.h"
+
+#include <map>
+
+class InputDialogs;
+class ZEMBarIndicator;
+class ZEMLineEditButton;
+class ZEMProfileButton;
+class ZEMTextLabel;
+class ZEMThreeStars;
+
+/** What the house means to use: today's budget, yesterday's stars, the profile and the goal. */
+class GoalsPage : public DisplayPage
+{
+    Q_OBJECT
+
+public:
+    /** All of them must outlive the page. */
+    GoalsPage(const EnergySource &source, DisplaySettings *settings, InputDialogs *dialogs,
+              QWidget *parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *makeToday();
+    QWidget *makeYesterday();
+    QWidget *makeProfiles();
+    QWidget *makeYearGoal();
+    void askForYearGoal();
+    void refresh();
+    void showToday();
+    void showYesterday();
+
+    DisplaySettings *settings;
+    InputDialogs *dialogs;
+    ZEMTextLabel *todayText = nullptr;
+    ZEMTextLabel *todayCosts = nullptr;
+    ZEMBarIndicator *budgetBar = nullptr;
+    ZEMTextLabel *yesterdayText = nullptr;
+    ZEMThreeStars *stars = nullptr;
+    ZEMLineEditButton *yearGoal = nullptr;
+    std::map<Profile, ZEMProfileButton *> profiles;
+};
+
+#endif

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "monthspage.h"
+
+#include "energysource.h"
+#include "pagelook.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QTableView>
+#include <ZEMButton>
+#include <ZEMStyle>
+#include <ZEMTableViewLogic>
+
+namespace {
+
+constexpr int rowsOfPage = 10;
+constexpr int rowHeight = 32; // pixels
+constexpr int headingHeight = 48; // pixels, for two lines
+constexpr int monthWidth = 92; // pixels
+constexpr int buttonGap = 12; // pixels
+
+} // namespace
+
+MonthsPage::MonthsPage(const EnergySource &source, QWidget *parent)
+    : DisplayPage(tr("Maanden"), source, parent)
+{
+    makeTable();
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 6, 0, 0);
+    row->setSpacing(buttonGap);
+    row->addWidget(view, 1, Qt::AlignTop);
+    row->addWidget(makeButtons());
+    content()->addLayout(row);
+    connect(&source, &EnergySource::historyChanged, this, &MonthsPage::handleHistory);
+}
+
+void MonthsPage::showEvent(QShowEvent *event)
+{
+    DisplayPage::showEvent(event);
+    feed();
+}
+
+void MonthsPage::makeTable()
+{
+    view = new QTableView;
+    view->setFont(PageLook::textFont(13));
+    view->setFixedHeight(headingHeight + rowsOfPage * rowHeight);
+    view->setFrameShape(QFrame::NoFrame);
+    view->setShowGrid(false);
+    view->setSelectionMode(QAbstractItemView::NoSelection);
+    view->setFocusPolicy(Qt::NoFocus);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->verticalHeader()->hide();
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view->verticalHeader()->setDefaultSectionSize(rowHeight);
+    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    view->horizontalHeader()->setSectionsClickable(false);
+    view->horizontalHeader()->setFixedHeight(headingHeight);
+    PageLook::makeTransparent(view);
+    // The heading has the colours of a button.
+    QPalette palette = view->palette();
+    const ZEMStyle style(nullptr);
+    palette.setColor(QPalette::Button, style.color(ZEMStyle::SlateBlue));
+    view->horizontalHeader()->setPalette(palette);
+
+    pages = new ZEMTableViewLogic(view);
+    pages->setNrPageItems(rowsOfPage);
+    pages->setModel(&months);
+    view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
+    view->horizontalHeader()->resizeSection(0, monthWidth);
+}
+
+QWidget *MonthsPage::makeButtons()
+{
+    ZEMButton *up = PageLook::makeIconButton(QStringLiteral("go-up"));
+    ZEMButton *down = PageLook::makeIconButton(QStringLiteral("go-down"));
+    connect(up, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_previous);
+    connect(down, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_next);
+    connect(pages, &ZEMTableViewLogic::has_page, this, [up, down](bool before, bool after) {
+        up->setEnabled(before);
+        down->setEnabled(after);
+    });
+
+    auto *buttons = new QWidget;
+    auto *column = new QVBoxLayout(buttons);
+    column->setContentsMargins(0, headingHeight, 0, 0);
+    column->addWidget(up);
+    column->addStretch();
+    column->addWidget(down);
+    return buttons;
+}
+
+void MonthsPage::handleHistory()
+{
+    isFed = false;
+    if (isVisible()) {
+        feed();
+    }
+}
+
+void MonthsPage::feed()
+{
+    if (isFed) {
+        return;
+    }
+    isFed = true;
+    // The page in view stays, as the table chooses its row again.
+    const int row = view->currentIndex().row();
+    months.show(energySource().household());
+    pages->setIndex(row > 0 ? row : 0);
+}

@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "settingspage.h"
+
+#include "displaysettings.h"
+#include "inputdialogs.h"
+#include "pagelook.h"
+#include "towns.h"
+
+#include <QDoubleValidator>
+#include <QGridLayout>
+#include <QLocale>
+#include <QVBoxLayout>
+#include <ZEMButton>
+#include <ZEMLineEditButton>
+#include <ZEMTextLabel>
+
+namespace {
+
+constexpr int columns = 2;
+constexpr int priceDecimals = 4;
+constexpr int longestShown = 24; // characters of a field
+
+QStringList contractNames()
+{
+    return {SettingsPage::tr("Enkel tarief"), SettingsPage::tr("Dag en nacht")};
+}
+
+QString languageName(const QString &language)
+{
+    // Of these two QLocale names the country as well.
+    if (language == QLatin1String("en")) {
+        return QStringLiteral("English");
+    }
+    if (language == QLatin1String("es")) {
+        return QStringLiteral("Español");
+    }
+    const QString name = QLocale(language).nativeLanguageName();
+    return name.isEmpty() ? language : name.at(0).toUpper() + name.mid(1);
+}
+
+/** The first line, cut to what fits a field. */
+QString shortened(const QString &text)
+{
+    const QString line = text.section(QLatin1Char('\n'), 0, 0);
+    return line.size() > longestShown ? line.left(longestShown) + QStringLiteral("…") : line;
+}
+
+QString privacyText()
+{
+    return SettingsPage::tr(
+        "<p>Dit scherm leest de meters in huis en bewaart wat het leest alleen in zijn eigen "
+        "geheugen. Het stuurt niets naar buiten en heeft geen account nodig.</p>"
+        "<p>De naam van het huis, de plaats, de prijs, het doel en de notitie staan in een bestand "
+        "op dit scherm. Het wachtwoord van de wifi wordt niet opgeslagen; na het uitzetten van "
+        "het scherm moet het opnieuw worden ingevoerd.</p>"
+        "<p>Met <b>Alles wissen</b> op de pagina met instellingen verdwijnt alles wat hier is "
+        "ingevoerd. De standen van de meters blijven in de meters zelf staan: zij zijn van het "
+        "huis en niet van dit scherm.</p>"
+        "<p>Wie het scherm verkoopt of weggeeft, wist eerst alle gegevens en zet het daarna uit. "
+        "Een nieuwe bewoner begint dan met een leeg scherm, dat de meters vanaf dat moment "
+        "volgt.</p>");
+}
+
+} // namespace
+
+SettingsPage::SettingsPage(const EnergySource &source, DisplaySettings *theSettings,
+                           InputDialogs *theDialogs, QWidget *parent)
+    : DisplayPage(tr("Instellingen"), source, parent), settings(theSettings), dialogs(theDialogs)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(32);
+    grid->setVerticalSpacing(10);
+    grid->setAlignment(Qt::AlignCenter);
+    houseName = addField(grid, tr("naam van het huis"), "houseName", &SettingsPage::askHouseName);
+    town = addField(grid, tr("plaats"), "town", &SettingsPage::askTown);
+    price = addField(grid, tr("prijs van een kWh"), "price", &SettingsPage::askPrice);
+    contract = addField(grid, tr("tarief"), "contract", &SettingsPage::chooseContract);
+    password = addField(grid, tr("wachtwoord van de wifi"), "password", &SettingsPage::askPassword);
+    keyboard = addField(grid, tr("toetsenbord"), "keyboard", &SettingsPage::chooseKeyboard);
+    note = addField(grid, tr("notitie"), "note", &SettingsPage::askNote);
+    addField(grid, tr("uitleg"), "privacy", &SettingsPage::readPrivacy)
+        ->setText(tr("Wat bewaart dit scherm?"));
+
+    ZEMLineEditButton *clearButton = addField(grid, QString(), "clear", &SettingsPage::clear);
+    clearButton->setText(tr("Alles wissen"));
+    clearButton->setAlignment(Qt::AlignCenter);
+    content()->addLayout(grid, 1);
+
+    connect(settings, &DisplaySettings::changed, this, &SettingsPage::refresh);
+    refresh();
+}
+
+ZEMLineEditButton *SettingsPage::addField(QGridLayout *grid, const QString &caption,
+                                          const char *name, void (SettingsPage::*ask)())
+{
+    ZEMLineEditButton *field = PageLook::makeField();
+    field->setObjectName(QLatin1String(name));
+    connect(field, &ZEMLineEditButton::clicked, this, ask);
+
+    auto *cell = new QVBoxLayout;
+    cell->setSpacing(1);
+    if (!caption.isEmpty()) {
+        cell->addWidget(PageLook::makeLabel(caption, 11));
+    }
+    cell->addWidget(field);
+    const int index = grid->count();
+    grid->addLayout(cell, index / columns, index % columns);
+    return field;
+}
+
+void SettingsPage::askHouseName()
+{
+    dialogs->askLine(tr("Naam van het huis"), settings->houseName(),
+                     [this](const QString &name) { settings->setHouseName(name.trimmed()); });
+}
+
+void SettingsPage::askPrice()
+{
+    auto *validator = new QDoubleValidator(0.0, DisplaySettings::mostPrice, priceDecimals);
+    validator->setNotation(QDoubleValidator::StandardNotation);
+    dialogs->askNumber(
+        tr("Prijs van een kWh in euro"), QLocale().toString(settings->price(), 'f', priceDecimals),
+        validator, [this](const QString &text) { settings->setPrice(QLocale().toDouble(text)); });
+}
+
+void SettingsPage::askPassword()
+{
+    dialogs->askPassword(tr("Wachtwoord van de wifi"), settings->wifiPassword(),
+                         [this](const QString &text) { settings->setWifiPassword(text); });
+}
+
+void SettingsPage::askTown()
+{
+    dialogs->askSearch(tr("Plaats"), settings->town(), townNames(),
+                       [this](const QString &text) { settings->setTown(text.trimmed()); });
+}
+
+void SettingsPage::askNote()
+{
+    dialogs->askLines(tr("Notitie"), settings->note(),
+                      [this](const QString &text) { settings->setNote(text); });
+}
+
+void SettingsPage::chooseContract()
+{
+    dialogs->choose(tr("Tarief"), contractNames(), int(settings->contract()),
+                    [this](int row) { settings->setContract(ContractType(row)); });
+}
+
+void SettingsPage::chooseKeyboard()
+{
+    const QStringList languages = dialogs->languages();
+    QStringList names;
+    for (const QString &language : languages) {
+        names << languageName(language);
+    }
+    const int current = std::max(0, int(languages.indexOf(settings->keyboardLanguage())));
+    dialogs->choose(tr("Toetsenbord"), names, current, [this, languages](int row) {
+        settings->setKeyboardLanguage(languages.at(row));
+    });
+}
+
+void SettingsPage::readPrivacy()
+{
+    dialogs->read(tr("Wat bewaart dit scherm?"), privacyText());
+}
+
+void SettingsPage::clear()
+{
+    if (dialogs->confirm(tr("Alles wissen?"), tr("Alle instellingen gaan weg."))) {
+        settings->clear();
+    }
+}
+
+void SettingsPage::refresh()
+{
+    const auto orDash = [](const QString &text) {
+        return text.isEmpty() ? QStringLiteral("–") : shortened(text);
+    };
+    houseName->setText(orDash(settings->houseName()));
+    town->setText(orDash(settings->town()));
+    price->setText(
+        QStringLiteral("€ %1").arg(QLocale().toString(settings->price(), 'f', priceDecimals)));
+    contract->setText(contractNames().at(int(settings->contract())));
+    password->setText(orDash(QString(settings->wifiPassword().size(), QChar(0x2022))));
+    keyboard->setText(languageName(settings->keyboardLanguage()));
+    note->setText(orDash(settings->note()));
+}

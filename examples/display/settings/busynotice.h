@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef BUSYNOTICE_H
+#define BUSYNOTICE_H
+
+#include <QString>
+#include <functional>
+
+/**
+ * Does @p job in a thread of its own and returns when it is done. Until then the display shows
+ * @p text and a spinner; it is a window of 640 by 480 pixels by itself. The job must not touch
+ * widgets.
+ */
+void doWithNotice(const QString &text, const std::function<void()> &job);
+
+#endif

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef DISPLAYSETTINGS_H
+#define DISPLAYSETTINGS_H
+
+#include <QObject>
+#include <QSettings>
+#include <QString>
+
+/** How the people of a house live now; it decides how much energy a day is meant to take. */
+enum class Profile { Home, Away, Holiday };
+
+/** How electricity is paid. */
+enum class ContractType {
+    Single, ///< one price
+    DayAndNight ///< the meter's low tariff has a price of its own, and bars of its own
+};
+
+/**
+ * What the people of a house have entered, kept in a file. A value that the file does not have, or
+ * that is out of range there, is the default.
+ */
+class DisplaySettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr double mostPrice = 9.9999; ///< € per kWh
+    static constexpr int mostYearGoal = 99999; ///< kWh
+
+    /** Of the file at @p path; an empty path stands for the user's own. */
+    explicit DisplaySettings(const QString &path = QString(), QObject *parent = nullptr);
+
+    QString houseName() const;
+    void setHouseName(const QString &name);
+
+    /** € per kWh, 0 to mostPrice; 0.30 by default. */
+    double price() const;
+    void setPrice(double price);
+
+    /** Of the Wi-Fi; kept in memory alone. */
+    QString wifiPassword() const { return password; }
+    void setWifiPassword(const QString &newPassword);
+
+    QString town() const;
+    void setTown(const QString &town);
+
+    QString note() const;
+    void setNote(const QString &note);
+
+    ContractType contract() const;
+    void setContract(ContractType contract);
+
+    /** The language of the on-screen keyboard, "nl" by default. */
+    QString keyboardLanguage() const;
+    void setKeyboardLanguage(const QString &language);
+
+    /** Electricity for a year in kWh, 1 to mostYearGoal; 3500 by default. */
+    int yearGoal() const;
+    void setYearGoal(int kilowattHours);
+
+    Profile profile() const;
+    void setProfile(Profile profile);
+
+public Q_SLOTS:
+    /** Forgets all that was entered. */
+    void clear();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void set(const QString &key, const QVariant &value);
+
+    QSettings file;
+    QString password;
+};
+
+#endif

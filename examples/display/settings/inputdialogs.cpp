@@ -1,0 +1,268 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "inputdialogs.h"
+
+#include "displaysettings.h"
+#include "pagelook.h"
+
+#include <KeyboardFactoryDefault>
+#include <QDir>
+#include <QListView>
+#include <QStringListModel>
+#include <QStyledItemDelegate>
+#include <QValidator>
+#include <ZEMDialogPopup>
+#include <ZEMDialogShowText>
+#include <ZEMKeyboardInputHandler>
+#include <ZEMLineEditDialog>
+#include <ZEMLineEditSearchDialog>
+#include <ZEMListView>
+#include <ZEMMultiLineDialog>
+#include <ZEMNumericKeypad>
+#include <ZEMPasswordDialog>
+#include <ZEMSimpleListView>
+
+namespace {
+
+constexpr int textSize = 14; // points
+constexpr int itemsOfList = 7;
+constexpr int itemHeight = 40; // pixels, for a finger
+constexpr int listWidth = 360; // pixels
+constexpr int longestLine = 60;
+
+const QString filePrefix = QStringLiteral("keyboard_");
+const QString fileSuffix = QStringLiteral(".xml");
+
+QStringList matches(const QStringList &entries, const QString &text)
+{
+    return entries.filter(text.trimmed(), Qt::CaseInsensitive);
+}
+
+/** Items that are high enough for a finger. */
+class HighItems : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, itemHeight});
+    }
+};
+
+/** Makes the texts of a list white on the page. */
+void styleList(QWidget *page)
+{
+    auto *list = page->findChild<QListView *>();
+    list->setFont(PageLook::textFont(textSize));
+    PageLook::makeTransparent(list);
+}
+
+} // namespace
+
+InputDialogs::InputDialogs(const QString &keyboardDirectory, const DisplaySettings *theSettings,
+                           QWidget *theWindow)
+    : QObject(theWindow), directory(keyboardDirectory), settings(theSettings), window(theWindow)
+{
+}
+
+InputDialogs::~InputDialogs() = default;
+
+QStringList InputDialogs::languagesIn(const QString &keyboardDirectory)
+{
+    const QStringList files =
+        QDir(keyboardDirectory).entryList({filePrefix + QStringLiteral("??") + fileSuffix});
+    QStringList languages;
+    for (const QString &file : files) {
+        languages << file.mid(filePrefix.size(), 2);
+    }
+    return languages;
+}
+
+void InputDialogs::askLine(const QString &title, const QString &text, const Answer &answer)
+{
+    auto *dialog = new ZEMLineEditDialog(
+        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupAbove), window);
+    dialog->setTitle(title);
+    dialog->setStringLengthLimit(longestLine);
+    dialog->setText(text);
+    run(dialog, &ZEMLineEditDialog::text, answer);
+}
+
+void InputDialogs::askNumber(const QString &title, const QString &value, QValidator *validator,
+                             const Answer &answer)
+{
+    auto *dialog = new ZEMNumericKeypad(keyboards().createNumericKeypad(), window);
+    dialog->setTitle(title);
+    dialog->setValue(value);
+    validator->setParent(dialog);
+    dialog->setValidator(validator);
+    // The field keeps letters out, but an empty text or a 0 can still stand in it.
+    run(dialog, &ZEMNumericKeypad::value, [validator, answer](const QString &text) {
+        QString number = text;
+        int position = 0;
+        if (validator->validate(number, position) == QValidator::Acceptable) {
+            answer(number);
+        }
+    });
+}
+
+void InputDialogs::askPassword(const QString &title, const QString &text, const Answer &answer)
+{
+    auto *dialog = new ZEMPasswordDialog(
+        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupAbove), window);
+    dialog->setTitle(title);
+    dialog->setText(text);
+    dialog->slotHidePassword(true, false);
+    run(dialog, &ZEMPasswordDialog::text, answer);
+}
+
+void InputDialogs::askLines(const QString &title, const QString &text, const Answer &answer)
+{
+    auto *dialog = new ZEMMultiLineDialog(
+        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupFlip), window);
+    dialog->setTitle(title);
+    dialog->setText(text);
+    run(dialog, &ZEMMultiLineDialog::text, answer);
+}
+
+void InputDialogs::askSearch(const QString &title, const QString &text, const QStringList &entries,
+                             const Answer &answer)
+{
+    auto *dialog = new ZEMLineEditSearchDialog(
+        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupFlip), window);
+    dialog->setTitle(title);
+    dialog->setText(text);
+    const auto count = [dialog, entries] {
+        dialog->setSearchCount(int(matches(entries, dialog->text()).size()));
+    };
+    count();
+    connect(dialog, &ZEMLineEditSearchDialog::sigTextEdited, dialog, count);
+    connect(
+        dialog, &ZEMLineEditSearchDialog::sigSearch, this, [this, dialog, title, entries, answer] {
+            const QStringList found = matches(entries, dialog->text());
+            if (found.isEmpty()) {
+                return;
+            }
+            choose(title, found, 0, [dialog = QPointer<QWidget>(dialog), found, answer](int row) {
+                if (dialog) {
+                    dialog->hide();
+                    dialog->deleteLater();
+                }
+                answer(found.at(row));
+            });
+        });
+    run(dialog, &ZEMLineEditSearchDialog::text, answer);
+}
+
+void InputDialogs::choose(const QString &title, const QStringList &choices, int current,
+                          const std::function<void(int)> &chosen)
+{
+    auto *model = new QStringListModel(choices, this);
+    choose(title, model, current, chosen);
+    connect(window->findChildren<ZEMListView *>().constLast(), &QObject::destroyed, model,
+            &QObject::deleteLater);
+}
+
+void InputDialogs::choose(const QString &title, QAbstractItemModel *choices, int current,
+                          const std::function<void(int)> &chosen)
+{
+    auto *page = new ZEMListView(window);
+    styleList(page);
+    page->setItemDelegate(new HighItems(page));
+    page->findChild<QListView *>()->setMinimumWidth(listWidth);
+    page->setHeader(title);
+    page->setModel(choices);
+    page->setNrPageItems(itemsOfList);
+    page->setIndex(current);
+    connect(page, &ZEMListView::sigSelect, this, [page, choices, chosen](int row) {
+        page->hide();
+        page->deleteLater();
+        if (choices->hasIndex(row, 0)) {
+            chosen(row);
+        }
+    });
+    connect(page, &ZEMListView::sigCancel, page, &QObject::deleteLater);
+    cover(page);
+}
+
+void InputDialogs::chooseByPicture(QAbstractItemModel *choices,
+                                   const std::function<void(int)> &chosen)
+{
+    auto *page = new ZEMSimpleListView(window);
+    styleList(page);
+    page->setModel(choices);
+    page->fitContents(choices->rowCount());
+    connect(page, &ZEMSimpleListView::sigSelect, this, [page, choices, chosen](int row) {
+        page->hide();
+        page->deleteLater();
+        if (choices->hasIndex(row, 0)) {
+            chosen(row);
+        }
+    });
+    connect(page, &ZEMSimpleListView::sigCancel, page, &QObject::deleteLater);
+    cover(page);
+}
+
+void InputDialogs::read(const QString &title, const QString &text)
+{
+    ZEMDialogShowText dialog(window);
+    dialog.setTitle(title);
+    dialog.setTextFontSize(textSize);
+    dialog.setText(text);
+    dialog.raise();
+    dialog.exec();
+}
+
+void InputDialogs::inform(const QString &text)
+{
+    ZEMDialogPopup dialog(window);
+    dialog.clearText();
+    dialog.setTextLine1(text);
+    dialog.raise();
+    dialog.info();
+}
+
+bool InputDialogs::confirm(const QString &question, const QString &explanation)
+{
+    ZEMDialogPopup dialog(window);
+    dialog.clearText();
+    dialog.setTextLine1(question);
+    dialog.setTextLine2(explanation);
+    dialog.raise();
+    return dialog.exec();
+}
+
+KeyboardFactoryDefault &InputDialogs::keyboards()
+{
+    const QString language = settings->keyboardLanguage();
+    auto &factory = factories[language];
+    if (!factory) {
+        factory = std::make_unique<KeyboardFactoryDefault>(directory, language);
+    }
+    return *factory;
+}
+
+template <class Dialog>
+void InputDialogs::run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer)
+{
+    auto *handler = new ZEMKeyboardInputHandler(dialog);
+    connect(handler, &ZEMKeyboardInputHandler::sigSelect, this, [dialog, text, answer] {
+        const QString entered = (dialog->*text)();
+        dialog->hide();
+        dialog->deleteLater();
+        answer(entered);
+    });
+    connect(handler, &ZEMKeyboardInputHandler::sigCancel, dialog, &QWidget::hide);
+    connect(handler, &ZEMKeyboardInputHandler::sigCancel, dialog, &QObject::deleteLater);
+    dialog->setActiveInputHandler(handler);
+    cover(dialog);
+}
+
+void InputDialogs::cover(QWidget *dialog)
+{
+    dialog->setGeometry(window->rect());
+    dialog->show();
+    dialog->raise();
+}

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef INPUTDIALOGS_H
+#define INPUTDIALOGS_H
+
+#include <QAbstractItemModel>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+
+class DisplaySettings;
+class KeyboardFactoryDefault;
+class QValidator;
+
+/**
+ * Asks people things, over all of the display. Each dialog has the keyboard of the language that is
+ * set, and goes away when it is answered or cancelled; only an answer calls the function.
+ */
+class InputDialogs : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Answer = std::function<void(const QString &)>;
+
+    /** The keyboards of @p keyboardDirectory; the dialogs cover @p window. Settings are kept. */
+    InputDialogs(const QString &keyboardDirectory, const DisplaySettings *settings,
+                 QWidget *window);
+    ~InputDialogs() override;
+
+    /** The languages of which there is a keyboard, as "nl". */
+    static QStringList languagesIn(const QString &keyboardDirectory);
+    QStringList languages() const { return languagesIn(directory); }
+
+    void askLine(const QString &title, const QString &text, const Answer &answer);
+    /** Takes ownership of @p validator. */
+    void askNumber(const QString &title, const QString &value, QValidator *validator,
+                   const Answer &answer);
+    void askPassword(const QString &title, const QString &text, const Answer &answer);
+    void askLines(const QString &title, const QString &text, const Answer &answer);
+    /** Asks for one of @p entries, of which those that have the text in them can be listed. */
+    void askSearch(const QString &title, const QString &text, const QStringList &entries,
+                   const Answer &answer);
+
+    /** Lets one of @p choices be chosen. */
+    void choose(const QString &title, const QStringList &choices, int current,
+                const std::function<void(int)> &chosen);
+    /** The same of a model, which must outlive the list. */
+    void choose(const QString &title, QAbstractItemModel *choices, int current,
+                const std::function<void(int)> &chosen);
+    /** A list to pick from by pictures. Takes no notice of a press beside it. */
+    void chooseByPicture(QAbstractItemModel *choices, const std::function<void(int)> &chosen);
+
+    /** Shows a long text until it is closed; other widgets live on. */
+    void read(const QString &title, const QString &text);
+    /** Shows a short text until it is closed; other widgets live on. */
+    void inform(const QString &text);
+    /** Whether @p question is answered with yes. Other widgets live on. */
+    bool confirm(const QString &question, const QString &explanation);
+
+private:
+    KeyboardFactoryDefault &keyboards();
+    template <class Dialog>
+    void run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer);
+    void cover(QWidget *dialog);
+
+    const QString directory;
+    const DisplaySettings *settings;
+    QWidget *window;
+    /** A keyboard may outlive a change of the language, and a factory its keyboards. */
+    std::map<QString, std::unique_ptr<KeyboardFactoryDefault>> factories;
+};
+
+#endif

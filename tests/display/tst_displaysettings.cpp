@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "displaysettings.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+class tst_DisplaySettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults();
+    void valuesAreKept();
+    void passwordIsNotWritten();
+    void clear();
+    void strangeValuesAreDefaults_data();
+    void strangeValuesAreDefaults();
+};
+
+void tst_DisplaySettings::defaults()
+{
+    const QTemporaryDir directory;
+    const DisplaySettings settings(directory.filePath(QStringLiteral("new.ini")));
+    QVERIFY(settings.houseName().isEmpty());
+    QCOMPARE(settings.price(), 0.30);
+    QVERIFY(settings.wifiPassword().isEmpty());
+    QVERIFY(settings.town().isEmpty());
+    QVERIFY(settings.note().isEmpty());
+    QCOMPARE(settings.contract(), ContractType::DayAndNight);
+    QCOMPARE(settings.keyboardLanguage(), QStringLiteral("nl"));
+    QCOMPARE(settings.yearGoal(), 3500);
+    QCOMPARE(settings.profile(), Profile::Home);
+}
+
+void tst_DisplaySettings::valuesAreKept()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("display.ini"));
+    {
+        DisplaySettings settings(path);
+        QSignalSpy changes(&settings, &DisplaySettings::changed);
+        settings.setHouseName(QStringLiteral("Café \"De Zon\", 2e"));
+        settings.setPrice(0.4212);
+        settings.setTown(QStringLiteral("Sneek"));
+        settings.setNote(QStringLiteral("een\ntwee"));
+        settings.setContract(ContractType::Single);
+        settings.setKeyboardLanguage(QStringLiteral("de"));
+        settings.setYearGoal(1800);
+        settings.setProfile(Profile::Holiday);
+        QCOMPARE(changes.count(), 8);
+    }
+    const DisplaySettings settings(path);
+    QCOMPARE(settings.houseName(), QStringLiteral("Café \"De Zon\", 2e"));
+    QCOMPARE(settings.price(), 0.4212);
+    QCOMPARE(settings.town(), QStringLiteral("Sneek"));
+    QCOMPARE(settings.note(), QStringLiteral("een\ntwee"));
+    QCOMPARE(settings.contract(), ContractType::Single);
+    QCOMPARE(settings.keyboardLanguage(), QStringLiteral("de"));
+    QCOMPARE(settings.yearGoal(), 1800);
+    QCOMPARE(settings.profile(), Profile::Holiday);
+}
+
+void tst_DisplaySettings::passwordIsNotWritten()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("display.ini"));
+    {
+        DisplaySettings settings(path);
+        settings.setHouseName(QStringLiteral("huis"));
+        settings.setWifiPassword(QStringLiteral("geheim"));
+        QCOMPARE(settings.wifiPassword(), QStringLiteral("geheim"));
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray written = file.readAll();
+    QVERIFY(written.contains("huis"));
+    QVERIFY(!written.contains("geheim"));
+}
+
+void tst_DisplaySettings::clear()
+{
+    const QTemporaryDir directory;
+    DisplaySettings settings(directory.filePath(QStringLiteral("display.ini")));
+    settings.setHouseName(QStringLiteral("huis"));
+    settings.setWifiPassword(QStringLiteral("geheim"));
+    settings.setYearGoal(1);
+    const QSignalSpy changes(&settings, &DisplaySettings::changed);
+    settings.clear();
+    QCOMPARE(changes.count(), 1);
+    QVERIFY(settings.houseName().isEmpty());
+    QVERIFY(settings.wifiPassword().isEmpty());
+    QCOMPARE(settings.yearGoal(), 3500);
+}
+
+void tst_DisplaySettings::strangeValuesAreDefaults_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("price, a word") << QByteArray("[energy]\nprice=cheap\n");
+    QTest::newRow("price, below") << QByteArray("[energy]\nprice=-1\n");
+    QTest::newRow("price, above") << QByteArray("[energy]\nprice=10\n");
+    QTest::newRow("price, no number") << QByteArray("[energy]\nprice=nan\n");
+    QTest::newRow("goal, 0") << QByteArray("[energy]\nyearGoal=0\n");
+    QTest::newRow("goal, above") << QByteArray("[energy]\nyearGoal=100000\n");
+    QTest::newRow("profile, above") << QByteArray("[house]\nprofile=3\n");
+    QTest::newRow("profile, below") << QByteArray("[house]\nprofile=-1\n");
+}
+
+void tst_DisplaySettings::strangeValuesAreDefaults()
+{
+    QFETCH(QByteArray, line);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("display.ini"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(line);
+    file.close();
+    const DisplaySettings settings(path);
+    QCOMPARE(settings.price(), 0.30);
+    QCOMPARE(settings.yearGoal(), 3500);
+    QCOMPARE(settings.profile(), Profile::Home);
+}
+
+QTEST_GUILESS_MAIN(tst_DisplaySettings)
+#include "tst_displaysettings.moc"

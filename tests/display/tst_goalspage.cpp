@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "playedsource.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QTest>
+#include <ZEMBarIndicator>
+#include <ZEMLineEditButton>
+#include <ZEMNumericKeypad>
+#include <ZEMProfileButton>
+#include <ZEMThreeStars>
+
+using Readings::Quantity;
+
+class tst_GoalsPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void barAndStars();
+    void profileIsChosenByATap();
+    void yearGoalIsTyped();
+    void yearGoalOfNothingIsRefused();
+
+private:
+    QList<ZEMProfileButton *> profiles() const;
+
+    PlayedSource source;
+    std::unique_ptr<PlayedDisplay> display;
+};
+
+void tst_GoalsPage::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    source.count(Quantity::GridImport, 3); // 12 kWh a day until a midnight
+}
+
+void tst_GoalsPage::init()
+{
+    display.reset();
+    display = std::make_unique<PlayedDisplay>(source);
+    display->window.openPage(QStringLiteral("goals"));
+    QVERIFY(display->show());
+}
+
+QList<ZEMProfileButton *> tst_GoalsPage::profiles() const
+{
+    return display->window.currentWidget()->findChildren<ZEMProfileButton *>();
+}
+
+void tst_GoalsPage::barAndStars()
+{
+    auto *bar = display->window.currentWidget()->findChild<ZEMBarIndicator *>();
+    auto *stars = display->window.currentWidget()->findChild<ZEMThreeStars *>();
+    QCOMPARE(bar->getMaxValue(), 3500 / 365.25);
+    QCOMPARE(stars->getStars(), 0); // 12 of 9.58 kWh
+    display->settings.setYearGoal(3600);
+    QCOMPARE(stars->getStars(), 1);
+    display->settings.setYearGoal(4383); // 12 kWh a day
+    QCOMPARE(bar->getMaxValue(), 12.0);
+    QCOMPARE(stars->getStars(), 2);
+    display->settings.setYearGoal(6000);
+    QCOMPARE(stars->getStars(), 3);
+}
+
+void tst_GoalsPage::profileIsChosenByATap()
+{
+    QCOMPARE(profiles().size(), 3);
+    QVERIFY(profiles().at(0)->isActivated());
+    PlayedDisplay::tap(profiles().at(2));
+    QCOMPARE(display->settings.profile(), Profile::Holiday);
+    QVERIFY(!profiles().at(0)->isActivated());
+    QVERIFY(!profiles().at(0)->isChecked());
+    QVERIFY(profiles().at(2)->isActivated());
+    QVERIFY(profiles().at(2)->isChecked());
+    auto *bar = display->window.currentWidget()->findChild<ZEMBarIndicator *>();
+    QCOMPARE(bar->getMaxValue(), 0.25 * 3500 / 365.25);
+}
+
+void tst_GoalsPage::yearGoalIsTyped()
+{
+    auto *field = display->onPage<ZEMLineEditButton>("yearGoal");
+    QCOMPARE(field->text(), QStringLiteral("3.500 kWh"));
+    PlayedDisplay::tap(field);
+    auto *keypad = display->overlay<ZEMNumericKeypad>();
+    QVERIFY(keypad);
+    for (const char *key : {"2", "4", "0", "0"}) {
+        PlayedDisplay::tapKey(keypad, QLatin1String(key));
+    }
+    QCOMPARE(keypad->value(), QStringLiteral("2400"));
+    PlayedDisplay::tap(keypad->findChild<ZEMButton *>(QStringLiteral("btnOK")));
+    QCOMPARE(display->settings.yearGoal(), 2400);
+    QCOMPARE(field->text(), QStringLiteral("2.400 kWh"));
+    QVERIFY(!display->overlay<ZEMNumericKeypad>());
+}
+
+void tst_GoalsPage::yearGoalOfNothingIsRefused()
+{
+    PlayedDisplay::tap(display->onPage<ZEMLineEditButton>("yearGoal"));
+    auto *keypad = display->overlay<ZEMNumericKeypad>();
+    QVERIFY(keypad);
+    PlayedDisplay::tapKey(keypad, QStringLiteral("DELETE"));
+    QCOMPARE(keypad->value(), QString());
+    PlayedDisplay::tap(keypad->findChild<ZEMButton *>(QStringLiteral("btnOK")));
+    QCOMPARE(display->settings.yearGoal(), 3500);
+}
+
+QTEST_MAIN(tst_GoalsPage)
+#include "tst_goalspage.moc"

@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "playedsource.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QTest>
+#include <ZEMDialogPopup>
+#include <ZEMDialogShowText>
+#include <ZEMLineEditButton>
+#include <ZEMLineEditDialog>
+#include <ZEMLineEditSearchDialog>
+#include <ZEMListView>
+#include <ZEMMultiLineDialog>
+#include <ZEMNumericKeypad>
+#include <ZEMPasswordDialog>
+
+class tst_SettingsPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void houseNameIsTyped();
+    void cancelChangesNothing();
+    void priceIsANumber();
+    void passwordIsMasked();
+    void townIsFoundWhileTyping();
+    void noteHasLines();
+    void contractIsChosen();
+    void keyboardFollowsTheLanguage();
+    void longTextIsRead();
+    void allIsForgottenAfterAQuestion_data();
+    void allIsForgottenAfterAQuestion();
+    void dialogsCoverTheDisplay_data();
+    void dialogsCoverTheDisplay();
+
+private:
+    ZEMLineEditButton *field(const char *name) const
+    {
+        return display->onPage<ZEMLineEditButton>(name);
+    }
+    template <class Dialog>
+    Dialog *open(const char *name) const
+    {
+        PlayedDisplay::tap(field(name));
+        return display->overlay<Dialog>();
+    }
+    static void type(const QWidget *dialog, const QString &keys);
+    static void tapButton(const QWidget *dialog, const char *name);
+    void choose(int row) const;
+
+    PlayedSource source;
+    std::unique_ptr<PlayedDisplay> display;
+};
+
+void tst_SettingsPage::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+}
+
+void tst_SettingsPage::init()
+{
+    display.reset();
+    display = std::make_unique<PlayedDisplay>(source);
+    display->window.openPage(QStringLiteral("settings"));
+    QVERIFY(display->show());
+}
+
+void tst_SettingsPage::type(const QWidget *dialog, const QString &keys)
+{
+    for (const QChar key : keys) {
+        PlayedDisplay::tapKey(dialog,
+                              key == QLatin1Char(' ') ? QStringLiteral("SPACE") : QString(key));
+    }
+}
+
+void tst_SettingsPage::tapButton(const QWidget *dialog, const char *name)
+{
+    PlayedDisplay::tap(dialog->findChild<ZEMButton *>(QLatin1String(name)));
+}
+
+void tst_SettingsPage::choose(int row) const
+{
+    auto *page = display->overlay<ZEMListView>();
+    QVERIFY(page);
+    auto *list = page->findChild<QListView *>();
+    const QPoint item = list->visualRect(list->model()->index(row, 0)).center();
+    ZemTest::press(list->viewport(), item);
+    ZemTest::release(list->viewport(), item);
+    tapButton(page, "btnSelect");
+}
+
+void tst_SettingsPage::houseNameIsTyped()
+{
+    QCOMPARE(field("houseName")->text(), QStringLiteral("–"));
+    auto *dialog = open<ZEMLineEditDialog>("houseName");
+    QVERIFY(dialog);
+    PlayedDisplay::tapKey(dialog, QStringLiteral("CAPS"));
+    type(dialog, QStringLiteral("dijk huis "));
+    QCOMPARE(dialog->text(), QStringLiteral("Dijk huis "));
+    tapButton(dialog, "btnOK");
+    QVERIFY(!display->overlay<ZEMLineEditDialog>());
+    QCOMPARE(display->settings.houseName(), QStringLiteral("Dijk huis"));
+    QCOMPARE(field("houseName")->text(), QStringLiteral("Dijk huis"));
+}
+
+void tst_SettingsPage::cancelChangesNothing()
+{
+    auto *dialog = open<ZEMLineEditDialog>("houseName");
+    type(dialog, QStringLiteral("x"));
+    tapButton(dialog, "btnCancel");
+    QVERIFY(!display->overlay<ZEMLineEditDialog>());
+    QVERIFY(display->settings.houseName().isEmpty());
+}
+
+void tst_SettingsPage::priceIsANumber()
+{
+    QCOMPARE(field("price")->text(), QStringLiteral("€ 0,3000"));
+    auto *dialog = open<ZEMNumericKeypad>("price");
+    QVERIFY(dialog);
+    QCOMPARE(dialog->value(), QStringLiteral("0,3000"));
+    // The first key replaces what is selected; a second comma and a fifth digit are kept out.
+    type(dialog, QStringLiteral("0,,21985"));
+    QCOMPARE(dialog->value(), QStringLiteral("0,2198"));
+    tapButton(dialog, "btnOK");
+    QCOMPARE(display->settings.price(), 0.2198);
+    QCOMPARE(field("price")->text(), QStringLiteral("€ 0,2198"));
+}
+
+void tst_SettingsPage::passwordIsMasked()
+{
+    auto *dialog = open<ZEMPasswordDialog>("password");
+    QVERIFY(dialog);
+    type(dialog, QStringLiteral("geheim"));
+    QCOMPARE(dialog->text(), QStringLiteral("geheim"));
+    QCOMPARE(dialog->findChild<QLineEdit *>()->echoMode(), QLineEdit::Password);
+    tapButton(dialog, "btnOK");
+    QCOMPARE(display->settings.wifiPassword(), QStringLiteral("geheim"));
+    QCOMPARE(field("password")->text(), QStringLiteral("••••••"));
+}
+
+void tst_SettingsPage::townIsFoundWhileTyping()
+{
+    auto *dialog = open<ZEMLineEditSearchDialog>("town");
+    QVERIFY(dialog);
+    const auto *count = dialog->findChild<QLabel *>(QStringLiteral("lblSearchCount"));
+    const auto hits = [&] {
+        return count ? count->text()
+                     : dialog->findChild<ZEMButton *>(QStringLiteral("btnSearch"))->text();
+    };
+    QCOMPARE(hits(), QStringLiteral("70"));
+    type(dialog, QStringLiteral("den h"));
+    QCOMPARE(hits(), QStringLiteral("2")); // Den Haag, Den Helder
+    tapButton(dialog, "btnSearch");
+    QCOMPARE(display->overlay<ZEMListView>()->data(1).toString(), QStringLiteral("Den Helder"));
+    choose(1);
+    QCOMPARE(display->settings.town(), QStringLiteral("Den Helder"));
+    QVERIFY(!display->overlay<ZEMListView>());
+    QVERIFY(!display->overlay<ZEMLineEditSearchDialog>());
+}
+
+void tst_SettingsPage::noteHasLines()
+{
+    auto *dialog = open<ZEMMultiLineDialog>("note");
+    QVERIFY(dialog);
+    type(dialog, QStringLiteral("een"));
+    PlayedDisplay::tapKey(dialog, QStringLiteral("ENTER"));
+    type(dialog, QStringLiteral("twee"));
+    tapButton(dialog, "btnOK");
+    QCOMPARE(display->settings.note(), QStringLiteral("een\ntwee"));
+    QCOMPARE(field("note")->text(), QStringLiteral("een"));
+}
+
+void tst_SettingsPage::contractIsChosen()
+{
+    source.count(Readings::Quantity::GridImport, 3);
+    QCOMPARE(field("contract")->text(), QStringLiteral("Dag en nacht"));
+    QVERIFY(open<ZEMListView>("contract"));
+    choose(0);
+    QCOMPARE(display->settings.contract(), ContractType::Single);
+    QCOMPARE(field("contract")->text(), QStringLiteral("Enkel tarief"));
+    QVERIFY(!display->overlay<ZEMListView>());
+}
+
+void tst_SettingsPage::keyboardFollowsTheLanguage()
+{
+    QCOMPARE(field("keyboard")->text(), QStringLiteral("Nederlands"));
+    auto *page = open<ZEMListView>("keyboard");
+    QVERIFY(page);
+    int row = 0;
+    while (page->data(row).toString() != QStringLiteral("Deutsch")) {
+        QVERIFY(page->data(row).isValid());
+        ++row;
+    }
+    choose(row);
+    QCOMPARE(field("keyboard")->text(), QStringLiteral("Deutsch"));
+    QCOMPARE(display->settings.keyboardLanguage(), QStringLiteral("de"));
+    auto *dialog = open<ZEMLineEditDialog>("houseName");
+    type(dialog, QStringLiteral("ü")); // which has a key of its own there
+    QCOMPARE(dialog->text(), QStringLiteral("ü"));
+}
+
+void tst_SettingsPage::longTextIsRead()
+{
+    bool isLong = false;
+    bool isRead = false;
+    display->whenOpen<ZEMDialogShowText>([&](ZEMDialogShowText *text) {
+        auto *down = text->findChild<ZEMButton *>(QStringLiteral("btnPgDown"));
+        isLong = down->isEnabled();
+        while (down->isEnabled()) {
+            PlayedDisplay::tap(down);
+        }
+        tapButton(text, "btnAccepted");
+        isRead = true;
+    });
+    PlayedDisplay::tap(field("privacy"));
+    QVERIFY(isRead);
+    QVERIFY(isLong);
+    QVERIFY(!display->overlay<ZEMDialogShowText>());
+}
+
+void tst_SettingsPage::allIsForgottenAfterAQuestion_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("yes") << "btnAccepted"
+                         << "";
+    QTest::newRow("no") << "btnRejected"
+                        << "huis";
+}
+
+void tst_SettingsPage::allIsForgottenAfterAQuestion()
+{
+    QFETCH(QString, button);
+    display->settings.setHouseName(QStringLiteral("huis"));
+    bool isAnswered = false;
+    display->whenOpen<ZEMDialogPopup>([&](ZEMDialogPopup *question) {
+        tapButton(question, qPrintable(button));
+        isAnswered = true;
+    });
+    PlayedDisplay::tap(field("clear"));
+    QVERIFY(isAnswered);
+    QTEST(display->settings.houseName(), "name");
+}
+
+void tst_SettingsPage::dialogsCoverTheDisplay_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"houseName", "price", "password", "town", "note", "contract"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void tst_SettingsPage::dialogsCoverTheDisplay()
+{
+    QFETCH(QString, name);
+    auto *dialog = open<ZEMPageBackground>(qPrintable(name));
+    QVERIFY(dialog);
+    QCoreApplication::processEvents();
+    QCOMPARE(dialog->geometry(), display->window.rect());
+    const QRect page = dialog->rect();
+    for (const QWidget *child : dialog->findChildren<QWidget *>()) {
+        const QRect place(child->mapTo(dialog, QPoint(0, 0)), child->size());
+        if (child->isVisible() && qobject_cast<const ZEMButton *>(child)) {
+            QVERIFY2(page.contains(place), qPrintable(child->objectName()));
+        }
+    }
+}
+
+QTEST_MAIN(tst_SettingsPage)
+#include "tst_settingspage.moc"
