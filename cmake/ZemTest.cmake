@@ -18,6 +18,12 @@ set(ZEM_UNEXPECTED_WARNING
 function(zem_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "SUBSYSTEM" "SOURCES;LIBRARIES")
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    # A test is one file with its classes in it: moc alone is half the work of AUTOMOC.
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    set(moc_directory "${CMAKE_CURRENT_BINARY_DIR}/moc")
+    qt5_generate_moc(${name}.cpp "${moc_directory}/${name}.moc")
+    target_sources(${name} PRIVATE "${moc_directory}/${name}.moc")
+    target_include_directories(${name} PRIVATE "${moc_directory}")
     target_link_libraries(${name} PRIVATE zem_test_support Zemkit::Zemkit Qt5::Test ${arg_LIBRARIES})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
