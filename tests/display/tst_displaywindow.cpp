@@ -323,13 +323,13 @@ void tst_DisplayWindow::idleDisplayTakesNoProcessorTime()
     QTest::qWait(200);
 
     // QTest's own waiting wakes up a hundred times a second; an event loop sleeps.
-    constexpr int idleTime = 3000; // milliseconds
+    constexpr int idleTime = 10000; // milliseconds
     QEventLoop loop;
     QTimer::singleShot(idleTime, &loop, &QEventLoop::quit);
     const std::clock_t before = std::clock();
     loop.exec();
     const double busy = double(std::clock() - before) / CLOCKS_PER_SEC;
-    QVERIFY2(busy < 0.005, qPrintable(QString::number(busy)));
+    QVERIFY2(busy < 0.01, qPrintable(QString::number(busy)));
 }
 
 void tst_DisplayWindow::lostMeterShowsAQuestionMark()
