@@ -3,6 +3,7 @@
 
 #include "calendar.h"
 #include "houserecorder.h"
+#include "housetest.h"
 #include "simulatedhouse.h"
 
 #include <QDateTime>
@@ -10,26 +11,16 @@
 #include <QTest>
 #include <QVector>
 
-#include <cmath>
 #include <ctime>
 
+using namespace HouseTest;
 using namespace Readings;
 
 namespace {
 
-constexpr Place utrecht {52.09, 5.12};
-constexpr qint64 minute = 60;
-constexpr qint64 hour = 3600;
-constexpr qint64 day = 24 * hour;
 constexpr double joulesPerKilowattHour = 3.6e6;
 
 const QTimeZone dutchZone("Europe/Amsterdam");
-
-qint64 utc(const char *iso)
-{
-    return QDateTime::fromString(QLatin1String(iso) + QLatin1Char('Z'), Qt::ISODate)
-        .toSecsSinceEpoch();
-}
 
 qint64 midnight(const QDate &date, const QTimeZone &zone = dutchZone)
 {
@@ -56,11 +47,6 @@ bool isSame(const PowerNow &left, const PowerNow &right)
         && left.rest == right.rest;
 }
 
-bool isNear(double left, double right, double tolerance)
-{
-    return std::abs(left - right) <= tolerance;
-}
-
 } // namespace
 
 class tst_SimulatedHouse : public QObject
@@ -68,13 +54,6 @@ class tst_SimulatedHouse : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sunStandsWhereItShould_data();
-    void sunStandsWhereItShould();
-    void sunRisesInTheEast();
-    void sunlight_data();
-    void sunlight();
-    void weatherIsSmooth();
-    void seasonsFollowThePlace();
     void sameSeedIsTheSameHouse();
     void orderOfQuestionsDoesNotMatter();
     void otherSeedIsAnotherHouse();
@@ -100,128 +79,6 @@ private Q_SLOTS:
     void invalidZoneIsUtc();
     void twoYearsAreQuick();
 };
-
-void tst_SimulatedHouse::sunStandsWhereItShould_data()
-{
-    QTest::addColumn<double>("latitude");
-    QTest::addColumn<double>("longitude");
-    QTest::addColumn<qint64>("instant");
-    QTest::addColumn<double>("elevation");
-    QTest::addColumn<double>("tolerance");
-    QTest::newRow("Amsterdam, noon of midsummer")
-        << 52.37 << 4.90 << utc("2024-06-21T11:42:00") << 61.07 << 0.1;
-    QTest::newRow("Amsterdam, noon of midwinter")
-        << 52.37 << 4.90 << utc("2024-12-21T11:39:00") << 14.19 << 0.1;
-    QTest::newRow("Amsterdam, sunrise")
-        << 52.37 << 4.90 << utc("2024-06-21T03:18:00") << -0.83 << 0.3;
-    QTest::newRow("Amsterdam, sunset")
-        << 52.37 << 4.90 << utc("2024-06-21T20:06:00") << -0.83 << 0.3;
-    QTest::newRow("Amsterdam, midnight of midsummer")
-        << 52.37 << 4.90 << utc("2024-06-20T23:42:00") << -14.2 << 0.1;
-    QTest::newRow("equator, noon of the equinox")
-        << 0.0 << 0.0 << utc("2024-03-20T12:07:00") << 89.85 << 0.2;
-    QTest::newRow("Sydney, noon of its midsummer")
-        << -33.87 << 151.21 << utc("2024-12-21T01:53:00") << 79.57 << 0.1;
-    QTest::newRow("north pole, midsummer")
-        << 90.0 << 0.0 << utc("2024-06-21T05:00:00") << 23.44 << 0.05;
-}
-
-void tst_SimulatedHouse::sunStandsWhereItShould()
-{
-    QFETCH(double, latitude);
-    QFETCH(double, longitude);
-    QFETCH(qint64, instant);
-    QFETCH(double, elevation);
-    QFETCH(double, tolerance);
-    const double found = sunElevation({latitude, longitude}, instant);
-    QVERIFY2(isNear(found, elevation, tolerance), qPrintable(QString::number(found)));
-}
-
-void tst_SimulatedHouse::sunRisesInTheEast()
-{
-    const SunDirection morning = sunDirection(utrecht, utc("2024-03-20T06:00:00"));
-    const SunDirection noon = sunDirection(utrecht, utc("2024-03-20T11:47:00"));
-    const SunDirection evening = sunDirection(utrecht, utc("2024-03-20T17:30:00"));
-    QVERIFY(morning.east > 0.98);
-    QVERIFY(evening.east < -0.98);
-    QVERIFY(noon.north < -0.7 && isNear(noon.east, 0.0, 0.02));
-    for (const SunDirection &sun : {morning, noon, evening}) {
-        const double length = std::hypot(sun.east, sun.north, sun.up);
-        QVERIFY(isNear(length, 1.0, 1e-9));
-    }
-}
-
-void tst_SimulatedHouse::sunlight_data()
-{
-    QTest::addColumn<double>("latitude");
-    QTest::addColumn<double>("height");
-    QTest::addColumn<double>("cloudiness");
-    QTest::addColumn<double>("least");
-    QTest::addColumn<double>("most");
-    QTest::newRow("night") << 52.0 << -1.0 << 0.0 << 0.0 << 0.0;
-    QTest::newRow("horizon") << 52.0 << 0.0 << 0.0 << 0.0 << 0.0;
-    QTest::newRow("just risen") << 52.0 << 0.5 << 0.0 << 1.0 << 60.0;
-    QTest::newRow("summer noon") << 52.0 << 61.0 << 0.0 << 900.0 << 1100.0;
-    QTest::newRow("winter noon") << 52.0 << 14.5 << 0.0 << 350.0 << 650.0;
-    QTest::newRow("summer noon under clouds") << 52.0 << 61.0 << 1.0 << 120.0 << 250.0;
-    QTest::newRow("winter noon under clouds") << 52.0 << 14.5 << 1.0 << 20.0 << 60.0;
-}
-
-void tst_SimulatedHouse::sunlight()
-{
-    QFETCH(double, latitude);
-    QFETCH(double, height);
-    QFETCH(double, cloudiness);
-    QFETCH(double, least);
-    QFETCH(double, most);
-    const double radians = height * M_PI / 180.0;
-    const SunDirection south = {0.0, -std::cos(radians), std::sin(radians)};
-    const double light = ::sunlight({latitude, 0.0}, south, 35.0, cloudiness);
-    QVERIFY2(light >= least && light <= most, qPrintable(QString::number(light)));
-    // On the other half of the earth panels look north.
-    const SunDirection north = {0.0, std::cos(radians), std::sin(radians)};
-    QCOMPARE(::sunlight({-latitude, 0.0}, north, 35.0, cloudiness), light);
-}
-
-void tst_SimulatedHouse::weatherIsSmooth()
-{
-    const Weather weather(7, utrecht.latitude);
-    const qint64 start = utc("2023-01-01T00:00:00");
-    double cloudsBefore = weather.cloudiness(start);
-    double warmthBefore = weather.meanTemperature(start);
-    double cloudSum = 0.0;
-    constexpr int days = 90;
-    for (qint64 at = start + minute; at < start + days * day; at += minute) {
-        const double clouds = weather.cloudiness(at);
-        const double warmth = weather.meanTemperature(at);
-        QVERIFY(clouds >= 0.0 && clouds <= 1.0);
-        QVERIFY2(std::abs(clouds - cloudsBefore) < 0.1, qPrintable(QString::number(clouds)));
-        QVERIFY2(std::abs(warmth - warmthBefore) < 0.02, qPrintable(QString::number(warmth)));
-        cloudsBefore = clouds;
-        warmthBefore = warmth;
-        cloudSum += clouds;
-    }
-    const double mean = cloudSum / (days * 1440);
-    QVERIFY2(mean > 0.55 && mean < 0.9, qPrintable(QString::number(mean)));
-}
-
-void tst_SimulatedHouse::seasonsFollowThePlace()
-{
-    const Weather north(7, 52.0);
-    const Weather south(7, -34.0);
-    double northern = 0.0;
-    double southern = 0.0;
-    for (int i = 0; i < 31; ++i) {
-        const qint64 winter = utc("2024-01-05T12:00:00") + i * day;
-        const qint64 summer = utc("2024-07-05T12:00:00") + i * day;
-        northern += (north.meanTemperature(summer) - north.meanTemperature(winter)) / 31.0;
-        southern += (south.meanTemperature(summer) - south.meanTemperature(winter)) / 31.0;
-    }
-    QVERIFY2(northern > 9.0 && northern < 21.0, qPrintable(QString::number(northern)));
-    QVERIFY2(southern < -9.0 && southern > -21.0, qPrintable(QString::number(southern)));
-    const qint64 at = utc("2024-05-05T12:00:00");
-    QVERIFY(north.temperature(at, 15 * 3600) > north.temperature(at, 3 * 3600) + 2.0);
-}
 
 void tst_SimulatedHouse::sameSeedIsTheSameHouse()
 {

@@ -14,6 +14,8 @@
 
 #include <QEvent>
 #include <QMouseEvent>
+#include <QPixmap>
+#include <QStackedWidget>
 #include <QStringList>
 #include <QTest>
 #include <QVector>
@@ -24,7 +26,7 @@ namespace InputDialogTest {
 
 using FormTest::part;
 
-/** Makes keyboards of one row: a, b, DELETE, SPACE and ENTER. */
+/** Makes keyboards of one row: a, b, DELETE, SPACE, ENTER and CAPS. */
 class Keyboards
 {
 public:
@@ -33,7 +35,8 @@ public:
         auto *keyboard = new ZEMVirtualKeyboard;
         keyboard->setFactory(&factory);
         const QByteArray row = "<row><key value=\"a\"/><key value=\"b\"/><key value=\"DELETE\"/>"
-                               "<key value=\"SPACE\"/><key value=\"ENTER\"/></row>";
+                               "<key value=\"SPACE\"/><key value=\"ENTER\"/>"
+                               "<key value=\"CAPS\"/></row>";
         if (!keyboard->load(files.write(KeyboardTest::keyboardFile(row)))) {
             qFatal("cannot load a test keyboard");
         }
@@ -73,6 +76,22 @@ inline void touchKeys(const QWidget &dialog, std::initializer_list<const char *>
     for (const char *name : names) {
         touch(keyOf(dialog, name));
     }
+}
+
+/** The place of a key among the keys of @p keyboard, which its slots are called with. */
+inline int indexOf(const ZEMVirtualKeyboard &keyboard, const char *name)
+{
+    const auto *pages = keyboard.findChild<QStackedWidget *>();
+    return pages->findChildren<ZEMVirtualKey *>().indexOf(keyOf(*pages, name));
+}
+
+/** A touch on a key of @p keyboard, which may be hidden, and the arrival of what it sends. */
+inline void type(ZEMVirtualKeyboard *keyboard, const char *name)
+{
+    const int index = indexOf(*keyboard, name);
+    KeyboardTest::call(keyboard, "buttonPressed", index);
+    KeyboardTest::call(keyboard, "buttonReleased", index);
+    QCoreApplication::processEvents();
 }
 
 /** A dialog on an active page of 640 by 480 pixels; hidden until show(). */
@@ -139,23 +158,25 @@ inline QStringList tapOnLastPixel(const QWidget *widget)
 class Results : public QObject
 {
 public:
+    template <typename Sender, typename Signal>
+    void note(Sender *sender, Signal signal, const QByteArray &words)
+    {
+        connect(sender, signal, this, [this, words] { told.append(QString::fromLatin1(words)); });
+    }
+
     template <typename Dialog>
     void listen(Dialog *dialog)
     {
-        connect(dialog, &Dialog::sigSelect, this, [this] { note("select"); });
-        connect(dialog, &Dialog::sigCancel, this, [this] { note("cancel"); });
+        note(dialog, &Dialog::sigSelect, "select");
+        note(dialog, &Dialog::sigCancel, "cancel");
     }
     void listen(ZEMKeyboardInputHandler *handler, const char *name)
     {
         const QByteArray prefix = QByteArray(name) + ' ';
-        connect(handler, &ZEMKeyboardInputHandler::sigSelect, this,
-                [this, prefix] { note(prefix + "select"); });
-        connect(handler, &ZEMKeyboardInputHandler::sigCancel, this,
-                [this, prefix] { note(prefix + "cancel"); });
-        connect(handler, &ZEMKeyboardInputHandler::sigSearch, this,
-                [this, prefix] { note(prefix + "search"); });
-        connect(handler, &ZEMKeyboardInputHandler::sigTextEdited, this,
-                [this, prefix] { note(prefix + "edited"); });
+        note(handler, &ZEMKeyboardInputHandler::sigSelect, prefix + "select");
+        note(handler, &ZEMKeyboardInputHandler::sigCancel, prefix + "cancel");
+        note(handler, &ZEMKeyboardInputHandler::sigSearch, prefix + "search");
+        note(handler, &ZEMKeyboardInputHandler::sigTextEdited, prefix + "edited");
     }
 
     QStringList take()
@@ -166,8 +187,6 @@ public:
     }
 
 private:
-    void note(const QByteArray &what) { told.append(QString::fromLatin1(what)); }
-
     QStringList told;
 };
 
@@ -183,6 +202,12 @@ inline QPoint placeInGrid(QWidget *widget)
         grid->getItemPosition(grid->indexOf(widget), &row, &column, &rows, &columns);
     }
     return {row, column};
+}
+
+/** The picture of this resource. */
+inline QImage picture(const char *path)
+{
+    return QPixmap(QLatin1String(path)).toImage();
 }
 
 } // namespace InputDialogTest

@@ -1,21 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "inputdialogtest.h"
+#include "anydialog.h"
 
 #include <ZEMButton>
-#include <ZEMLineEditDialog>
-#include <ZEMLineEditSearchDialog>
-#include <ZEMMultiLineDialog>
-#include <ZEMNumericKeypad>
-#include <ZEMPasswordDialog>
+#include <ZEMTextLabel>
 
-#include <QLineEdit>
+#include <QApplication>
 #include <QPointer>
 #include <QTest>
-#include <QTextEdit>
 
-#include <functional>
+#include <memory>
 #include <type_traits>
 
 using namespace InputDialogTest;
@@ -74,253 +69,62 @@ QStringList operationsOf()
     return names;
 }
 
-void setAutoSelect(ZEMNumericKeypad *dialog, bool select)
-{
-    dialog->setAutoSelectInput(select);
-}
-template <typename Dialog>
-void setAutoSelect(Dialog *dialog, bool select)
-{
-    dialog->setAutoSelect(select);
-}
-void setAutoSelect(ZEMMultiLineDialog *, bool) { }
-
-void setText(ZEMNumericKeypad *dialog, const QString &text)
-{
-    dialog->setValue(text);
-}
-template <typename Dialog>
-void setText(Dialog *dialog, const QString &text)
-{
-    dialog->setText(text);
-}
-
-QString textOf(const ZEMNumericKeypad *dialog)
-{
-    return dialog->value();
-}
-template <typename Dialog>
-QString textOf(const Dialog *dialog)
-{
-    return dialog->text();
-}
-
-/** One of the dialogs, as if they had a class in common. */
-struct Kind
-{
-    std::function<ZEMPageBackground *(ZEMVirtualKeyboard *, QWidget *)> make;
-    std::function<void(ZEMPageBackground *, Results *)> listen;
-    std::function<void(ZEMPageBackground *, ZEMKeyboardInputHandler *)> setHandler;
-    std::function<void(ZEMPageBackground *, bool)> setAutoSelect;
-    std::function<void(ZEMPageBackground *, const QString &)> setText;
-    std::function<QString(ZEMPageBackground *)> text;
-    std::function<void(ZEMPageBackground *)> deleteOnSelect;
-    QStringList operations;
-};
-
-template <typename Dialog>
-Kind kind()
-{
-    const auto cast = [](ZEMPageBackground *dialog) { return qobject_cast<Dialog *>(dialog); };
-    return {
-        [](ZEMVirtualKeyboard *keyboard, QWidget *page) { return new Dialog(keyboard, page); },
-        [cast](ZEMPageBackground *dialog, Results *results) { results->listen(cast(dialog)); },
-        [cast](ZEMPageBackground *dialog, ZEMKeyboardInputHandler *handler) {
-            cast(dialog)->setActiveInputHandler(handler);
-        },
-        [cast](ZEMPageBackground *dialog, bool select) { ::setAutoSelect(cast(dialog), select); },
-        [cast](ZEMPageBackground *dialog, const QString &text) { ::setText(cast(dialog), text); },
-        [cast](ZEMPageBackground *dialog) { return textOf(cast(dialog)); },
-        [cast](ZEMPageBackground *dialog) {
-            QObject::connect(cast(dialog), &Dialog::sigSelect, dialog->parentWidget(),
-                             [dialog] { delete dialog; });
-        },
-        operationsOf<Dialog>()};
-}
-
-Kind kindOf(const QByteArray &name)
-{
-    if (name == "ZEMNumericKeypad") {
-        return kind<ZEMNumericKeypad>();
-    }
-    if (name == "ZEMLineEditDialog") {
-        return kind<ZEMLineEditDialog>();
-    }
-    if (name == "ZEMLineEditSearchDialog") {
-        return kind<ZEMLineEditSearchDialog>();
-    }
-    if (name == "ZEMPasswordDialog") {
-        return kind<ZEMPasswordDialog>();
-    }
-    return kind<ZEMMultiLineDialog>();
-}
-
-constexpr const char *names[] = {"ZEMNumericKeypad", "ZEMLineEditDialog", "ZEMLineEditSearchDialog",
-                                 "ZEMPasswordDialog", "ZEMMultiLineDialog"};
-
-/** The dialog of the present row on a page that is shown. */
-class AnyStage
-{
-public:
-    AnyStage() : kind(kindOf(QTest::currentDataTag()))
-    {
-        page.resize(900, 600);
-        page.show();
-        page.activateWindow();
-        isReady = QTest::qWaitForWindowActive(&page);
-        dialog = kind.make(keyboards.make(), &page);
-    }
-
-    void show() const
-    {
-        dialog->show();
-        QTest::qWait(1);
-    }
-
-    QString selectedText() const
-    {
-        const auto *line = part<QLineEdit>(*dialog, "lineEdit");
-        return line ? line->selectedText()
-                    : part<QTextEdit>(*dialog, "textEdit")->textCursor().selectedText();
-    }
-
-    Keyboards keyboards;
-    QWidget page;
-    Kind kind;
-    QPointer<ZEMPageBackground> dialog;
-    bool isReady = false;
-};
-
-constexpr int afterBothSelections = 700; // ms
+constexpr int secondSelection = 500; // ms
 const QString number = QStringLiteral("123");
+
+/** A row for each dialog: its name, and behind it @p end, which a comma begins; isLine or not. */
+void rows(const char *end = "")
+{
+    for (const char *name : names) {
+        QTest::newRow(QByteArray(name) + end) << (qstrcmp(name, "ZEMMultiLineDialog") != 0);
+    }
+}
+
+void dialogs()
+{
+    QTest::addColumn<bool>("isLine");
+    rows();
+}
 
 } // namespace
 
-/** What the five dialogs have in common, and where they differ. */
+/** How the five dialogs behave: what they have in common, and where they differ. */
 class tst_InputDialogs : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void field_data();
-    void field();
-    void enterKey_data();
-    void enterKey();
-    void selectionOnShow_data();
-    void selectionOnShow();
     void operations_data();
     void operations();
-    void backdrop_data();
-    void backdrop();
-    void confirmAndCancel_data();
+    void titleAndText_data() { dialogs(); }
+    void titleAndText();
+    void confirmAndCancel_data() { dialogs(); }
     void confirmAndCancel();
-    void keysReachTheField_data();
+    void enterKey_data();
+    void enterKey();
+    void handlerThatWasSetLastIsTold_data() { dialogs(); }
+    void handlerThatWasSetLastIsTold();
+    void deletedHandlerIsForgotten_data();
+    void deletedHandlerIsForgotten();
+    void keysReachTheField_data() { dialogs(); }
     void keysReachTheField();
-    void focusOfTheButtons_data();
+    void typingReplacesWhatIsSelected_data() { dialogs(); }
+    void typingReplacesWhatIsSelected();
+    void focusOfTheButtons_data() { dialogs(); }
     void focusOfTheButtons();
-    void deletedOnEnterKeyOrButton_data();
+    void showTakesTheFocus_data() { dialogs(); }
+    void showTakesTheFocus();
+    void showSelectsTwice_data() { dialogs(); }
+    void showSelectsTwice();
+    void showWithoutAutoSelect_data() { dialogs(); }
+    void showWithoutAutoSelect();
+    void hideSoonAfterShow_data() { dialogs(); }
+    void hideSoonAfterShow();
+    void dialogMayBeDeletedFromItsSignals_data();
+    void dialogMayBeDeletedFromItsSignals();
+    void deletedOnEnterKeyOrButton_data() { dialogs(); }
     void deletedOnEnterKeyOrButton();
-
-private:
-    static void rows()
-    {
-        QTest::addColumn<QString>("unused");
-        for (const char *name : names) {
-            QTest::newRow(name) << QString();
-        }
-    }
 };
-
-void tst_InputDialogs::field_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<int>("alignment");
-    const QString line = QStringLiteral("QLineEdit lineEdit");
-    const int left = Qt::AlignLeft | Qt::AlignVCenter;
-    QTest::newRow("ZEMNumericKeypad") << line << int(Qt::AlignHCenter | Qt::AlignVCenter);
-    QTest::newRow("ZEMLineEditDialog") << line << left;
-    QTest::newRow("ZEMLineEditSearchDialog") << line << left;
-    QTest::newRow("ZEMPasswordDialog") << line << left;
-    QTest::newRow("ZEMMultiLineDialog") << QStringLiteral("QTextEdit textEdit") << 0;
-}
-
-void tst_InputDialogs::field()
-{
-    QFETCH(QString, field);
-    QFETCH(int, alignment);
-    const AnyStage stage;
-    QStringList fields;
-    for (const QWidget *widget : stage.dialog->findChildren<QWidget *>()) {
-        const auto *line = qobject_cast<const QLineEdit *>(widget);
-        if (line || qobject_cast<const QTextEdit *>(widget)) {
-            fields.append(QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
-                          + widget->objectName());
-        }
-        if (line) {
-            QCOMPARE(int(line->alignment()), alignment);
-        }
-    }
-    QCOMPARE(fields, QStringList(field));
-}
-
-void tst_InputDialogs::enterKey_data()
-{
-    QTest::addColumn<bool>("confirms");
-    QTest::newRow("ZEMNumericKeypad") << false;
-    QTest::newRow("ZEMLineEditDialog") << true;
-    QTest::newRow("ZEMLineEditSearchDialog") << true;
-    QTest::newRow("ZEMPasswordDialog") << true;
-    QTest::newRow("ZEMMultiLineDialog") << false;
-}
-
-void tst_InputDialogs::enterKey()
-{
-    QFETCH(bool, confirms);
-    AnyStage stage;
-    QVERIFY(stage.isReady);
-    ZEMKeyboardInputHandler handler;
-    stage.kind.setHandler(stage.dialog, &handler);
-    Results results;
-    stage.kind.listen(stage.dialog, &results);
-    results.listen(&handler, "handler");
-    stage.show();
-    touchKeys(*stage.dialog, {"ENTER"});
-    QTest::qWait(1);
-    QCOMPARE(results.take(), confirms ? strings({"handler select", "select"}) : QStringList());
-    const bool isText = part<QTextEdit>(*stage.dialog, "textEdit");
-    QCOMPARE(stage.kind.text(stage.dialog), isText ? QStringLiteral("\n") : QString());
-}
-
-void tst_InputDialogs::selectionOnShow_data()
-{
-    QTest::addColumn<bool>("selects");
-    QTest::newRow("ZEMNumericKeypad") << true;
-    QTest::newRow("ZEMLineEditDialog") << true;
-    QTest::newRow("ZEMLineEditSearchDialog") << true;
-    QTest::newRow("ZEMPasswordDialog") << true;
-    QTest::newRow("ZEMMultiLineDialog") << false;
-}
-
-void tst_InputDialogs::selectionOnShow()
-{
-    QFETCH(bool, selects);
-    const AnyStage stage;
-    QVERIFY(stage.isReady);
-    stage.kind.setText(stage.dialog, number);
-    const QString selected = selects ? number : QString();
-    stage.show();
-    QCOMPARE(stage.selectedText(), selected);
-    QTest::qWait(afterBothSelections);
-    QCOMPARE(stage.selectedText(), selected);
-
-    stage.dialog->hide();
-    stage.kind.setAutoSelect(stage.dialog, false);
-    stage.show();
-    QTest::qWait(afterBothSelections);
-    QCOMPARE(stage.selectedText(), QString());
-    const auto *line = part<QLineEdit>(*stage.dialog, "lineEdit");
-    QVERIFY(!line || line->cursorPosition() == number.size());
-}
 
 void tst_InputDialogs::operations_data()
 {
@@ -338,8 +142,11 @@ void tst_InputDialogs::operations_data()
 void tst_InputDialogs::operations()
 {
     QFETCH(QStringList, operations);
-    const AnyStage stage;
-    QCOMPARE(stage.kind.operations, operations);
+    const AnyDialog stage;
+    QCOMPARE(
+        withClass(nameInRow(),
+                  [](auto *none) { return operationsOf<std::remove_pointer_t<decltype(none)>>(); }),
+        operations);
     // What is seen of it: the parts that only one of the dialogs has.
     const auto has = [&](const char *name) {
         return part<ZEMButton>(*stage.dialog, name) != nullptr;
@@ -350,32 +157,16 @@ void tst_InputDialogs::operations()
     QCOMPARE(has("btnDown"), operations.isEmpty());
 }
 
-void tst_InputDialogs::backdrop_data()
+void tst_InputDialogs::titleAndText()
 {
-    QTest::addColumn<int>("alpha");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("ZEMNumericKeypad") << 150 << QSize(876, 594);
-    QTest::newRow("ZEMLineEditDialog") << 255 << QSize(800, 480);
-    QTest::newRow("ZEMLineEditSearchDialog") << 255 << QSize(892, 531);
-    QTest::newRow("ZEMPasswordDialog") << 255 << QSize(724, 480);
-    QTest::newRow("ZEMMultiLineDialog") << 255 << QSize(800, 480);
-}
-
-void tst_InputDialogs::backdrop()
-{
-    QFETCH(int, alpha);
-    QFETCH(QSize, size);
-    const AnyStage stage;
-    QCOMPARE(stage.dialog->size(), size);
-    QCOMPARE(stage.dialog->getBackgroundColor(), QColor(0, 0, 0, alpha));
-    const QImage image = ZemTest::render(stage.dialog, Qt::white);
-    const int seen = image.pixelColor(2, 2).red();
-    QVERIFY2(qAbs(seen - (255 - alpha)) <= 1, qPrintable(QString::number(seen)));
-}
-
-void tst_InputDialogs::confirmAndCancel_data()
-{
-    rows();
+    const AnyDialog any;
+    any.kind.setTitle(any.dialog, QStringLiteral("Opmerking"));
+    QCOMPARE(part<ZEMTextLabel>(*any.dialog, "lblTitle")->text(), QStringLiteral("Opmerking"));
+    for (const QString &text : {QStringLiteral("<b>zonnig</b>"), number, QString()}) {
+        any.kind.setText(any.dialog, text);
+        QCOMPARE(any.kind.text(any.dialog), text);
+        QCOMPARE(any.line() ? any.line()->text() : any.text()->toPlainText(), text);
+    }
 }
 
 void tst_InputDialogs::confirmAndCancel()
@@ -384,31 +175,123 @@ void tst_InputDialogs::confirmAndCancel()
     QVERIFY(stage.isReady);
     Results results;
     stage.kind.listen(stage.dialog, &results);
+    stage.kind.setText(stage.dialog, number);
     stage.show();
     touch(*stage.dialog, "btnOK");
     touch(*stage.dialog, "btnCancel");
     QCOMPARE(results.take(), strings({"select", "cancel"}));
 
-    // The same dialog serves one caller after the other.
+    // The same dialog serves one caller after the other, and each of them more than once.
     for (const char *caller : {"first", "second"}) {
         ZEMKeyboardInputHandler handler;
         results.listen(&handler, caller);
         stage.kind.setHandler(stage.dialog, &handler);
-        touch(*stage.dialog, "btnCancel");
-        touch(*stage.dialog, "btnOK");
         const QString who = QLatin1String(caller);
-        QCOMPARE(results.take(),
-                 QStringList({who + QStringLiteral(" cancel"), QStringLiteral("cancel"),
-                              who + QStringLiteral(" select"), QStringLiteral("select")}));
+        for (int round = 0; round < 2; ++round) {
+            touch(*stage.dialog, "btnCancel");
+            touch(*stage.dialog, "btnOK");
+            QCOMPARE(results.take(),
+                     QStringList({who + QStringLiteral(" cancel"), QStringLiteral("cancel"),
+                                  who + QStringLiteral(" select"), QStringLiteral("select")}));
+        }
+        // To close it is the host's business.
         QVERIFY(stage.dialog->isVisible());
+        QCOMPARE(stage.kind.text(stage.dialog), number);
     }
     touch(*stage.dialog, "btnOK"); // the second caller is gone
-    QCOMPARE(results.take(), strings({"select"}));
+    touch(*stage.dialog, "btnCancel");
+    QCOMPARE(results.take(), strings({"select", "cancel"}));
+    QVERIFY(stage.dialog->isVisible());
 }
 
-void tst_InputDialogs::keysReachTheField_data()
+void tst_InputDialogs::enterKey_data()
 {
-    rows();
+    QTest::addColumn<bool>("confirms");
+    QTest::newRow("ZEMNumericKeypad") << false;
+    QTest::newRow("ZEMLineEditDialog") << true;
+    QTest::newRow("ZEMLineEditSearchDialog") << true;
+    QTest::newRow("ZEMPasswordDialog") << true;
+    QTest::newRow("ZEMMultiLineDialog") << false;
+}
+
+void tst_InputDialogs::enterKey()
+{
+    QFETCH(bool, confirms);
+    const bool reportsEdits = nameInRow() == "ZEMLineEditSearchDialog";
+    AnyStage stage;
+    QVERIFY(stage.isReady);
+    ZEMKeyboardInputHandler handler;
+    stage.kind.setHandler(stage.dialog, &handler);
+    Results results;
+    stage.kind.listen(stage.dialog, &results);
+    results.listen(&handler, "handler");
+    stage.show();
+    touchKeys(*stage.dialog, {"a"});
+    QTest::qWait(1);
+    QCOMPARE(results.take(), reportsEdits ? strings({"handler edited"}) : QStringList());
+    touchKeys(*stage.dialog, {"ENTER"});
+    QTest::qWait(1);
+    QCOMPARE(results.take(), confirms ? strings({"handler select", "select"}) : QStringList());
+    QCOMPARE(stage.kind.text(stage.dialog),
+             stage.line() ? QStringLiteral("a") : QStringLiteral("a\n"));
+    QVERIFY(stage.dialog->isVisible());
+
+    stage.kind.setHandler(stage.dialog, nullptr);
+    touchKeys(*stage.dialog, {"ENTER"});
+    QTest::qWait(1);
+    QCOMPARE(results.take(), confirms ? strings({"select"}) : QStringList());
+}
+
+void tst_InputDialogs::handlerThatWasSetLastIsTold()
+{
+    const AnyDialog any;
+    auto first = std::make_unique<ZEMKeyboardInputHandler>();
+    ZEMKeyboardInputHandler second;
+    Results results;
+    results.listen(first.get(), "first");
+    results.listen(&second, "second");
+    any.kind.setHandler(any.dialog, first.get());
+    any.kind.setHandler(any.dialog, &second);
+    auto *ok = part<ZEMButton>(*any.dialog, "btnOK");
+    part<ZEMButton>(*any.dialog, "btnCancel")->click();
+    ok->click();
+    QCOMPARE(results.take(), strings({"second cancel", "second select"}));
+
+    any.kind.setHandler(any.dialog, first.get());
+    first.reset(); // a stray handler is no longer told
+    ok->click();
+    any.kind.setHandler(any.dialog, nullptr);
+    ok->click();
+    QCOMPARE(results.take(), QStringList());
+}
+
+void tst_InputDialogs::deletedHandlerIsForgotten_data()
+{
+    QTest::addColumn<bool>("isLine");
+    rows(", btnOK");
+    rows(", btnCancel");
+}
+
+void tst_InputDialogs::deletedHandlerIsForgotten()
+{
+    const AnyDialog any;
+    Results results;
+    any.kind.listen(any.dialog, &results);
+    auto *handler = new ZEMKeyboardInputHandler;
+    any.kind.setHandler(any.dialog, handler);
+    const bool bySelect = caseInRow() == "btnOK";
+    connect(handler,
+            bySelect ? &ZEMKeyboardInputHandler::sigSelect : &ZEMKeyboardInputHandler::sigCancel,
+            &any.page, [handler] { delete handler; });
+    const QPointer<ZEMKeyboardInputHandler> watched(handler);
+    auto *ending = part<ZEMButton>(*any.dialog, bySelect ? "btnOK" : "btnCancel");
+    ending->click();
+    QVERIFY(watched.isNull());
+    ending->click();
+    part<ZEMButton>(*any.dialog, bySelect ? "btnCancel" : "btnOK")->click();
+    QCOMPARE(results.take(),
+             bySelect ? strings({"select", "select", "cancel"})
+                      : strings({"cancel", "cancel", "select"}));
 }
 
 void tst_InputDialogs::keysReachTheField()
@@ -421,26 +304,160 @@ void tst_InputDialogs::keysReachTheField()
     QCOMPARE(stage.kind.text(stage.dialog), QStringLiteral("a b"));
 }
 
-void tst_InputDialogs::focusOfTheButtons_data()
+void tst_InputDialogs::typingReplacesWhatIsSelected()
 {
-    QTest::addColumn<bool>("takesFocus");
-    for (const char *name : names) {
-        QTest::newRow(name) << (qstrcmp(name, "ZEMMultiLineDialog") != 0);
-    }
+    QFETCH(bool, isLine);
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    stage.kind.setText(stage.dialog, number);
+    stage.show();
+    QCOMPARE(stage.selectedText(), isLine ? number : QString());
+    touchKeys(*stage.dialog, {"a", "a"});
+    QTest::qWait(1);
+    QCOMPARE(stage.kind.text(stage.dialog), QStringLiteral("aa") + (isLine ? QString() : number));
 }
 
 void tst_InputDialogs::focusOfTheButtons()
 {
-    QFETCH(bool, takesFocus);
-    const AnyStage stage;
+    QFETCH(bool, isLine);
+    const AnyDialog stage;
     for (const char *name : {"btnOK", "btnCancel"}) {
-        QCOMPARE(part<ZEMButton>(*stage.dialog, name)->focusPolicy() != Qt::NoFocus, takesFocus);
+        QCOMPARE(part<ZEMButton>(*stage.dialog, name)->focusPolicy() != Qt::NoFocus, isLine);
     }
 }
 
-void tst_InputDialogs::deletedOnEnterKeyOrButton_data()
+void tst_InputDialogs::showTakesTheFocus()
 {
-    rows();
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    QWidget *field = stage.field();
+    const MouseLog log(field);
+    int shown = 0;
+    stage.kind.setText(stage.dialog, number);
+    stage.kind.when(stage.dialog, Told::Shown, [&] {
+        ++shown;
+        QCOMPARE(QApplication::focusWidget(), field);
+        QCOMPARE(stage.dialog->focusWidget(), field);
+        QCOMPARE(stage.selectedText(), QString());
+        QCOMPARE(log.events.size(), shown - 1); // posted, not sent
+    });
+    stage.dialog->show();
+    QCOMPARE(shown, 1);
+    QVERIFY(log.events.isEmpty());
+    QCoreApplication::sendPostedEvents(field, QEvent::MouseButtonPress);
+    QCOMPARE(log.events, tapOnLastPixel(field));
+
+    stage.dialog->hide();
+    stage.deselect();
+    stage.dialog->show();
+    QCOMPARE(shown, 2);
+    QTest::qWait(1);
+    QCOMPARE(log.events, tapOnLastPixel(field) + tapOnLastPixel(field));
+}
+
+void tst_InputDialogs::showSelectsTwice()
+{
+    QFETCH(bool, isLine);
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    const MouseLog log(stage.field());
+    const QString selected = isLine ? number : QString();
+    stage.kind.setText(stage.dialog, number);
+    stage.dialog->show();
+    QCOMPARE(stage.selectedText(), QString());
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(stage.selectedText(), selected);
+    QVERIFY(!isLine || stage.line()->cursorPosition() == number.size());
+
+    stage.deselect();
+    QTest::qWait(secondSelection / 2);
+    QCOMPARE(stage.selectedText(), QString());
+    QTest::qWait(secondSelection / 2 + secondSelection / 5);
+    QCOMPARE(stage.selectedText(), selected);
+    stage.deselect();
+    QCOMPARE(log.events.size(), 1);
+
+    // There is no third time, and none at all when it is switched off.
+    stage.dialog->hide();
+    stage.kind.setAutoSelect(stage.dialog, false);
+    stage.show();
+    QTest::qWait(secondSelection + secondSelection / 5);
+    QCOMPARE(stage.selectedText(), QString());
+    QVERIFY(!isLine || stage.line()->cursorPosition() == number.size());
+    QCOMPARE(log.events.size(), 2);
+}
+
+void tst_InputDialogs::showWithoutAutoSelect()
+{
+    QFETCH(bool, isLine);
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    const MouseLog log(stage.field());
+    stage.kind.setAutoSelect(stage.dialog, false);
+    stage.kind.setText(stage.dialog, number);
+    if (isLine) {
+        stage.line()->setCursorPosition(1);
+    }
+    stage.dialog->show();
+    QTest::qWait(secondSelection + secondSelection / 5);
+    QCOMPARE(stage.selectedText(), QString());
+    QVERIFY(!isLine || stage.line()->cursorPosition() == number.size());
+    QCOMPARE(log.events, tapOnLastPixel(stage.field()));
+
+    stage.kind.setAutoSelect(stage.dialog, true);
+    stage.dialog->hide();
+    stage.show();
+    QCOMPARE(stage.selectedText(), isLine ? number : QString());
+}
+
+void tst_InputDialogs::hideSoonAfterShow()
+{
+    QFETCH(bool, isLine);
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    const QString selected = isLine ? number : QString();
+    stage.kind.setText(stage.dialog, number);
+    stage.dialog->show();
+    stage.dialog->hide();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(stage.selectedText(), selected);
+    stage.deselect();
+    QTest::qWait(secondSelection + secondSelection / 5);
+    QCOMPARE(stage.selectedText(), selected);
+
+    stage.dialog->show();
+    delete stage.dialog; // the second selection finds nothing
+    QTest::qWait(secondSelection + secondSelection / 5);
+}
+
+void tst_InputDialogs::dialogMayBeDeletedFromItsSignals_data()
+{
+    QTest::addColumn<bool>("isLine");
+    for (const char *end :
+         {", btnOK", ", btnCancel", ", btnOK by the handler", ", btnCancel by the handler"}) {
+        rows(end);
+    }
+}
+
+void tst_InputDialogs::dialogMayBeDeletedFromItsSignals()
+{
+    const QList<QByteArray> words = caseInRow().split(' ');
+    const AnyStage stage;
+    QVERIFY(stage.isReady);
+    const QPointer<ZEMPageBackground> dialog = stage.dialog;
+    ZEMKeyboardInputHandler handler;
+    const auto end = [dialog] { delete dialog; };
+    if (words.size() > 1) {
+        stage.kind.setHandler(dialog, &handler);
+        connect(&handler, &ZEMKeyboardInputHandler::sigSelect, this, end);
+        connect(&handler, &ZEMKeyboardInputHandler::sigCancel, this, end);
+    } else {
+        stage.kind.when(dialog, Told::Select, end);
+        stage.kind.when(dialog, Told::Cancel, end);
+    }
+    stage.show();
+    touch(*dialog, words.constFirst().constData());
+    QVERIFY(dialog.isNull());
 }
 
 void tst_InputDialogs::deletedOnEnterKeyOrButton()
@@ -448,7 +465,7 @@ void tst_InputDialogs::deletedOnEnterKeyOrButton()
     for (const bool byKey : {true, false}) {
         AnyStage stage;
         QVERIFY(stage.isReady);
-        stage.kind.deleteOnSelect(stage.dialog);
+        stage.kind.when(stage.dialog, Told::Select, [dialog = stage.dialog] { delete dialog; });
         stage.show();
         if (byKey) {
             touchKeys(*stage.dialog, {"ENTER"});

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "../widgets/dialogtest.h"
-#include "inputdialogtest.h"
 
 #include <ZEMButton>
 #include <ZEMDialogShowText>
 
-#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QScrollBar>
@@ -17,19 +15,15 @@
 
 #include <memory>
 
+using DialogTest::buttonOf;
 using DialogTest::inTheLoop;
 using DialogTest::Page;
+using DialogTest::touch;
 using DialogTest::Watchdog;
 using FormTest::part;
 using FormTest::strings;
-using InputDialogTest::touch;
 
 namespace {
-
-ZEMButton *buttonOf(const ZEMDialogShowText &dialog, const char *name)
-{
-    return part<ZEMButton>(dialog, name);
-}
 
 QScrollBar *barOf(const ZEMDialogShowText &dialog)
 {
@@ -56,6 +50,7 @@ QStringList usable(const ZEMDialogShowText &dialog)
 
 } // namespace
 
+/** How the text is shown and answered; what the loop does is tested with the loop. */
 class tst_ZEMDialogShowTextLoops : public QObject
 {
     Q_OBJECT
@@ -66,26 +61,14 @@ private Q_SLOTS:
 
     void acceptButtonEndsExec();
     void editButtonEndsExecAndTells();
-    void resetEndsExec();
     void resetAfterATouchLeavesTheAnswer();
-    void everyExecBeginsAnew();
     void execShowsAModalDialog();
     void execShowsTheStartOfTheText();
     void textThatFitsHasNoPages();
     void pagesAreTurned();
-    void displayLivesOnMeanwhile();
-    void hidingDoesNotEndTheLoop();
     void buttonsWithoutALoopHide();
-    void resetWithoutALoopHides();
     void looksStayForTheNextUse();
-    void outerDialogEndsAfterTheInner();
-    void nestedCallsOfOneDialogEndTheInnerOnly();
-    void deletedDialogEndsItsLoop_data();
-    void deletedDialogEndsItsLoop();
-    void deletedPageEndsTheLoopOfItsDialog();
-    void deletedDialogEndsAllOfItsLoops();
     void dialogMayBeDeletedByThePencil();
-    void quitOfTheHostEndsTheLoop();
 
 private:
     std::unique_ptr<Watchdog> watchdog;
@@ -122,25 +105,6 @@ void tst_ZEMDialogShowTextLoops::editButtonEndsExecAndTells()
     QCOMPARE(order, strings({"hidden", "accepted"}));
 }
 
-void tst_ZEMDialogShowTextLoops::resetEndsExec()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &dialog, &ZEMDialogShowText::reset);
-    timer.start(10);
-    QVERIFY(!dialog.exec());
-    QVERIFY(dialog.isHidden());
-    timer.stop();
-
-    // From a slot of the host, which is told by another widget.
-    ZEMButton other(&page);
-    connect(&other, &ZEMButton::clicked, &dialog, &ZEMDialogShowText::reset);
-    inTheLoop([&] { other.click(); });
-    QVERIFY(!dialog.exec());
-    QVERIFY(dialog.isHidden());
-}
-
 void tst_ZEMDialogShowTextLoops::resetAfterATouchLeavesTheAnswer()
 {
     Page page;
@@ -150,18 +114,6 @@ void tst_ZEMDialogShowTextLoops::resetAfterATouchLeavesTheAnswer()
         dialog.reset();
     });
     QVERIFY(dialog.exec());
-}
-
-void tst_ZEMDialogShowTextLoops::everyExecBeginsAnew()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    for (int round = 0; round < 2; ++round) {
-        inTheLoop([&] { touch(dialog, "btnAccepted"); });
-        QVERIFY(dialog.exec());
-        inTheLoop([&] { dialog.reset(); });
-        QVERIFY(!dialog.exec());
-    }
 }
 
 void tst_ZEMDialogShowTextLoops::execShowsAModalDialog()
@@ -262,38 +214,6 @@ void tst_ZEMDialogShowTextLoops::pagesAreTurned()
     QVERIFY(done);
 }
 
-void tst_ZEMDialogShowTextLoops::displayLivesOnMeanwhile()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    int ticks = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &dialog, [&] {
-        if (++ticks == 5) {
-            dialog.reset();
-        }
-    });
-    timer.start(1);
-    QVERIFY(!dialog.exec());
-    QCOMPARE(ticks, 5);
-}
-
-void tst_ZEMDialogShowTextLoops::hidingDoesNotEndTheLoop()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    bool stillRunning = false;
-    inTheLoop([&] {
-        dialog.setVisible(false);
-        QTimer::singleShot(20, &dialog, [&] {
-            stillRunning = true;
-            dialog.reset();
-        });
-    });
-    QVERIFY(!dialog.exec());
-    QVERIFY(stillRunning);
-}
-
 void tst_ZEMDialogShowTextLoops::buttonsWithoutALoopHide()
 {
     Page page;
@@ -311,24 +231,6 @@ void tst_ZEMDialogShowTextLoops::buttonsWithoutALoopHide()
     // An old answer is none to a new question.
     inTheLoop([&] { dialog.reset(); });
     QVERIFY(!dialog.exec());
-}
-
-void tst_ZEMDialogShowTextLoops::resetWithoutALoopHides()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    dialog.reset();
-    QVERIFY(!dialog.isVisible());
-    dialog.show();
-    dialog.reset();
-    QVERIFY(dialog.isHidden());
-
-    // A loop that has ended is not touched again, and a later one is not ended by an old reset.
-    for (int round = 0; round < 2; ++round) {
-        inTheLoop([&] { touch(dialog, "btnAccepted"); });
-        QVERIFY(dialog.exec());
-        dialog.reset();
-    }
 }
 
 void tst_ZEMDialogShowTextLoops::looksStayForTheNextUse()
@@ -362,87 +264,6 @@ void tst_ZEMDialogShowTextLoops::looksStayForTheNextUse()
     QCOMPARE(rounds, 2);
 }
 
-void tst_ZEMDialogShowTextLoops::outerDialogEndsAfterTheInner()
-{
-    Page page;
-    ZEMDialogShowText outer(&page);
-    ZEMDialogShowText inner(&page);
-    QStringList order;
-    inTheLoop([&] {
-        inTheLoop([&] {
-            outer.reset(); // its loop waits for the inner one
-            order.append(QStringLiteral("outer reset"));
-            QTimer::singleShot(10, &inner, [&] { touch(inner, "btnAccepted"); });
-        });
-        order.append(inner.exec() ? QStringLiteral("inner accepted") : QStringLiteral("inner"));
-    });
-    order.append(outer.exec() ? QStringLiteral("outer accepted") : QStringLiteral("outer"));
-    QCOMPARE(order, strings({"outer reset", "inner accepted", "outer"}));
-}
-
-void tst_ZEMDialogShowTextLoops::nestedCallsOfOneDialogEndTheInnerOnly()
-{
-    Page page;
-    auto *dialog = new ZEMDialogShowText(&page);
-    QStringList order;
-    inTheLoop([&] {
-        inTheLoop([&] { touch(*dialog, "btnAccepted"); });
-        order.append(dialog->exec() ? QStringLiteral("inner accepted") : QStringLiteral("inner"));
-        dialog->reset(); // finds no loop any more
-        QTimer::singleShot(20, &page, [&] {
-            order.append(QStringLiteral("outer still runs"));
-            delete dialog;
-        });
-    });
-    order.append(dialog->exec() ? QStringLiteral("outer accepted") : QStringLiteral("outer"));
-    QCOMPARE(order, strings({"inner accepted", "outer still runs", "outer"}));
-}
-
-void tst_ZEMDialogShowTextLoops::deletedDialogEndsItsLoop_data()
-{
-    QTest::addColumn<bool>("later");
-    QTest::newRow("at once") << false;
-    QTest::newRow("later") << true;
-}
-
-void tst_ZEMDialogShowTextLoops::deletedDialogEndsItsLoop()
-{
-    QFETCH(bool, later);
-    Page page;
-    const QPointer<ZEMDialogShowText> dialog = new ZEMDialogShowText(&page);
-    inTheLoop([&] {
-        if (later) {
-            dialog->deleteLater();
-        } else {
-            delete dialog;
-        }
-    });
-    QVERIFY(!dialog->exec());
-    QVERIFY(dialog.isNull());
-}
-
-void tst_ZEMDialogShowTextLoops::deletedPageEndsTheLoopOfItsDialog()
-{
-    auto *page = new Page;
-    const QPointer<ZEMDialogShowText> dialog = new ZEMDialogShowText(page);
-    inTheLoop([&] { delete page; });
-    QVERIFY(!dialog->exec());
-    QVERIFY(dialog.isNull());
-}
-
-void tst_ZEMDialogShowTextLoops::deletedDialogEndsAllOfItsLoops()
-{
-    Page page;
-    auto *dialog = new ZEMDialogShowText(&page);
-    QStringList order;
-    inTheLoop([&] {
-        inTheLoop([&] { delete dialog; });
-        order.append(dialog->exec() ? QStringLiteral("inner accepted") : QStringLiteral("inner"));
-    });
-    order.append(dialog->exec() ? QStringLiteral("outer accepted") : QStringLiteral("outer"));
-    QCOMPARE(order, strings({"inner", "outer"}));
-}
-
 void tst_ZEMDialogShowTextLoops::dialogMayBeDeletedByThePencil()
 {
     Page page;
@@ -452,28 +273,6 @@ void tst_ZEMDialogShowTextLoops::dialogMayBeDeletedByThePencil()
     inTheLoop([&] { touch(*dialog, "btnEdit"); });
     QVERIFY(!dialog->exec()); // the answer is gone with the dialog
     QVERIFY(dialog.isNull());
-}
-
-void tst_ZEMDialogShowTextLoops::quitOfTheHostEndsTheLoop()
-{
-    Page page;
-    ZEMDialogShowText dialog(&page);
-    bool answer = true;
-    bool returned = false;
-    inTheLoop([&] {
-        inTheLoop([] { QCoreApplication::exit(3); });
-        answer = dialog.exec();
-        returned = true;
-    });
-    QCOMPARE(QApplication::exec(), 3);
-    QVERIFY(returned);
-    QVERIFY(!answer);
-
-    // The loop is gone, so a late reset does no harm, and the dialog can be used again.
-    dialog.reset();
-    QVERIFY(dialog.isHidden());
-    inTheLoop([&] { touch(dialog, "btnAccepted"); });
-    QVERIFY(dialog.exec());
 }
 
 QTEST_MAIN(tst_ZEMDialogShowTextLoops)

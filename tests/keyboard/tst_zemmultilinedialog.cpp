@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../widgets/widgettest.h"
 #include "inputdialogtest.h"
 
 #include <ZEMButton>
@@ -9,12 +8,9 @@
 #include <ZEMTextLabel>
 
 #include <QApplication>
-#include <QGridLayout>
-#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
-#include <QVBoxLayout>
 
 using namespace InputDialogTest;
 using FormTest::strings;
@@ -34,11 +30,6 @@ QString manyLines()
         lines.append(QString::number(i));
     }
     return lines.join(QLatin1Char('\n'));
-}
-
-QImage picture(const char *path)
-{
-    return QPixmap(QLatin1String(path)).toImage();
 }
 
 /** "up", "down", both or none: the buttons that move the text and can be used. */
@@ -61,111 +52,36 @@ QScrollBar *barOf(const ZEMMultiLineDialog &dialog)
 
 } // namespace
 
+/** What only this one of the input dialogs has: many lines, and buttons that scroll. */
 class tst_ZEMMultiLineDialog : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void newDialog();
-    void formOfThePage();
-    void formOfTheRows();
     void formOfTheTitle();
     void formOfTheField();
-    void formOfTheButtons_data();
-    void formOfTheButtons();
+    void formOfTheScrollButtons_data();
+    void formOfTheScrollButtons();
     void formOfTheKeyboardPlace_data();
     void formOfTheKeyboardPlace();
-    void textsAreTranslated();
-    void declaresItsSignalsAndSlots();
-    void takesTheKeyboard();
-    void titleAndPlainText();
+    void textOfLines();
     void keysTypeLines();
-    void tellsTheResult_data();
-    void tellsTheResult();
-    void tellsTheHandlerThatWasSetLast();
-    void deletedHandlerIsForgotten();
-    void showTakesTheFocusAndSelectsNothing();
+    void touchesLeaveTheFocus();
+    void showPutsTheCursorWhereItWas();
     void showChecksTheButtonsBeforeItTells();
     void typingPastTheFieldTurnsOnTheUpButton();
     void changesAreCheckedLater();
     void cursorMovesAreChecked();
     void buttonsMoveByASingleStep();
-    void dialogMayBeDeletedFromItsSignals_data();
-    void dialogMayBeDeletedFromItsSignals();
     void dialogMayBeDeletedBeforeTheCheck();
 };
-
-void tst_ZEMMultiLineDialog::newDialog()
-{
-    Keyboards keyboards;
-    QWidget host;
-    ZEMMultiLineDialog dialog(keyboards.make(), &host);
-    QCOMPARE(dialog.parentWidget(), &host);
-    QCOMPARE(dialog.objectName(), QStringLiteral("ZEMMultiLineDialog"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Form"));
-    QCOMPARE(dialog.size(), QSize(800, 480));
-    QCOMPARE(dialog.getBackgroundColor(), QColor(0, 0, 0, 255));
-    QVERIFY(dialog.getBackground().isNull());
-    QVERIFY(dialog.text().isEmpty());
-    QCOMPARE(usable(dialog), QStringList());
-}
-
-void tst_ZEMMultiLineDialog::formOfThePage()
-{
-    Keyboards keyboards;
-    const ZEMMultiLineDialog dialog(keyboards.make());
-    const auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
-    QVERIFY(grid);
-    QCOMPARE(grid->objectName(), QStringLiteral("gridLayout_2"));
-    QCOMPARE(grid->contentsMargins(), QMargins(10, 0, 10, 0));
-    QCOMPARE(
-        FormTest::items(grid),
-        strings({"0,0: spacer 15x20 Preferred Minimum", "0,1: ZEMPageBackground zemPageBackground",
-                 "0,2: spacer 15x20 Preferred Minimum"}));
-    const auto *page = part<ZEMPageBackground>(dialog, "zemPageBackground");
-    QCOMPARE(page->minimumSize(), QSize(0, 0));
-    QCOMPARE(page->getBackgroundColor(), QColor(0, 0, 0, 255));
-    const auto *column = qobject_cast<QVBoxLayout *>(page->layout());
-    QVERIFY(column);
-    QCOMPARE(column->objectName(), QStringLiteral("verticalLayout"));
-    QCOMPARE(column->spacing(), 0);
-    QCOMPARE(column->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(FormTest::items(column),
-             strings({"QHBoxLayout horizontalLayout_2", "QHBoxLayout horizontalLayout"}));
-}
-
-void tst_ZEMMultiLineDialog::formOfTheRows()
-{
-    Keyboards keyboards;
-    const ZEMMultiLineDialog dialog(keyboards.make());
-    const auto itemsOf = [&](const char *name) {
-        return FormTest::items(part<QLayout>(dialog, name));
-    };
-    const char *const gap = "spacer 15x20 Preferred Minimum";
-    const char *const side = "spacer 20x40 Minimum Preferred";
-    const char *const between = "spacer 20x20 Minimum Fixed";
-    const char *const edge = "spacer 40x20 Preferred Minimum";
-    QCOMPARE(itemsOf("horizontalLayout_2"),
-             strings({gap, "QVBoxLayout verticalLayout_4", gap, "QVBoxLayout verticalLayout_2", gap,
-                      "QVBoxLayout verticalLayout_3", gap}));
-    QCOMPARE(itemsOf("verticalLayout_4"),
-             strings({side, "ZEMButton btnUp", between, "ZEMButton btnDown", side}));
-    QCOMPARE(itemsOf("verticalLayout_2"), strings({"ZEMTextLabel lblTitle", "QTextEdit textEdit"}));
-    QCOMPARE(part<QLayout>(dialog, "verticalLayout_2")->spacing(), 6);
-    QCOMPARE(itemsOf("verticalLayout_3"),
-             strings({side, "ZEMButton btnOK", between, "ZEMButton btnCancel", side}));
-    QCOMPARE(itemsOf("horizontalLayout"), strings({edge, "QWidget widget", edge}));
-}
 
 void tst_ZEMMultiLineDialog::formOfTheTitle()
 {
     Keyboards keyboards;
     const ZEMMultiLineDialog dialog(keyboards.make());
     const auto *title = part<ZEMTextLabel>(dialog, "lblTitle");
-    QCOMPARE(title->text(), QStringLiteral("Select Farm"));
     QCOMPARE(title->sizePolicy(), FormTest::policy(QSizePolicy::Expanding, QSizePolicy::Preferred));
-    QCOMPARE(title->font().pointSize(), 18);
-    QCOMPARE(title->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
 }
 
 void tst_ZEMMultiLineDialog::formOfTheField()
@@ -175,7 +91,6 @@ void tst_ZEMMultiLineDialog::formOfTheField()
     const auto *field = part<QTextEdit>(dialog, "textEdit");
     QCOMPARE(field->sizePolicy(), FormTest::policy(QSizePolicy::Expanding, QSizePolicy::Fixed));
     QCOMPARE(field->minimumSize(), QSize(0, 158));
-    QCOMPARE(field->font().pointSize(), 16);
     QVERIFY(!field->acceptDrops());
     QVERIFY(!field->isReadOnly());
     QCOMPARE(field->frameShape(), QFrame::NoFrame);
@@ -192,36 +107,31 @@ void tst_ZEMMultiLineDialog::formOfTheField()
     }
 }
 
-void tst_ZEMMultiLineDialog::formOfTheButtons_data()
+void tst_ZEMMultiLineDialog::formOfTheScrollButtons_data()
 {
-    QTest::addColumn<QString>("icon");
-    QTest::addColumn<bool>("hasOff");
-    const QString actions = QStringLiteral(":/tango/graphics/tango/actions/");
-    QTest::newRow("btnUp") << actions + QStringLiteral("go-up-icon.png") << true;
-    QTest::newRow("btnDown") << actions + QStringLiteral("go-down-icon.png") << true;
-    QTest::newRow("btnOK") << QStringLiteral(":/zem/graphics/icons/green-ok-icon_small.png")
-                           << false;
-    QTest::newRow("btnCancel") << actions + QStringLiteral("process-stop-icon.png") << false;
+    QTest::addColumn<QByteArray>("icon");
+    const QByteArray actions = ":/tango/graphics/tango/actions/";
+    QTest::newRow("btnUp") << actions + "go-up-icon.png";
+    QTest::newRow("btnDown") << actions + "go-down-icon.png";
 }
 
-void tst_ZEMMultiLineDialog::formOfTheButtons()
+void tst_ZEMMultiLineDialog::formOfTheScrollButtons()
 {
-    QFETCH(QString, icon);
-    QFETCH(bool, hasOff);
+    QFETCH(QByteArray, icon);
     Keyboards keyboards;
-    ZEMMultiLineDialog dialog(keyboards.make());
+    const ZEMMultiLineDialog dialog(keyboards.make());
     auto *button = part<ZEMButton>(dialog, QTest::currentDataTag());
     QVERIFY(button);
+    QVERIFY(!button->isEnabled()); // there is nothing to scroll yet
     button->setEnabled(true);
-    const QImage iconPicture = picture(icon.toLatin1().constData());
+    const QImage iconPicture = picture(icon.constData());
     QVERIFY(!iconPicture.isNull());
     QCOMPARE(button->icon().pixmap(iconPicture.size()).toImage(), iconPicture);
     QCOMPARE(button->focusPolicy(), Qt::NoFocus);
     QCOMPARE(button->getBackground().toImage(),
              picture(":/zem/graphics/main/buttons/btn_square_small.png"));
     QCOMPARE(button->getBackgroundOff().toImage(),
-             hasOff ? picture(":/zem/graphics/main/buttons/btn_square_small_disabled.png")
-                    : QImage());
+             picture(":/zem/graphics/main/buttons/btn_square_small_disabled.png"));
     QVERIFY(!button->isCheckable());
 }
 
@@ -263,52 +173,13 @@ void tst_ZEMMultiLineDialog::formOfTheKeyboardPlace()
     }
 }
 
-void tst_ZEMMultiLineDialog::textsAreTranslated()
-{
-    const WidgetTest::ContextTranslator translator;
-    Keyboards keyboards;
-    const ZEMMultiLineDialog dialog(keyboards.make());
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("ZEMMultiLineDialog/Form"));
-    QCOMPARE(part<ZEMTextLabel>(dialog, "lblTitle")->text(),
-             QStringLiteral("ZEMMultiLineDialog/Select Farm"));
-}
-
-void tst_ZEMMultiLineDialog::declaresItsSignalsAndSlots()
-{
-    QCOMPARE(
-        KeyboardTest::ownMethods(ZEMMultiLineDialog::staticMetaObject),
-        strings({"signal sigShown()", "signal sigSelect()", "signal sigCancel()",
-                 "private slotInputHandlerSelect()", "private slotInputHandlerCancel()",
-                 "private checkScrollAvialibility()", "private pageUp()", "private pageDown()"}));
-    QVERIFY(WidgetTest::ownProperties(ZEMMultiLineDialog::staticMetaObject).isEmpty());
-}
-
-void tst_ZEMMultiLineDialog::takesTheKeyboard()
-{
-    Keyboards keyboards;
-    const QPointer<ZEMVirtualKeyboard> keyboard = keyboards.make();
-    {
-        const ZEMMultiLineDialog dialog(keyboard);
-        const auto *place = part<QWidget>(dialog, "widget");
-        QCOMPARE(keyboard->parentWidget(), place);
-        QCOMPARE(placeInGrid(keyboard), QPoint(1, 1));
-        QCOMPARE(keyboards.factory.preview->parentWidget(), place);
-        QCOMPARE(keyboards.factory.background->parentWidget(), place);
-    }
-    QVERIFY(keyboard.isNull());
-}
-
-void tst_ZEMMultiLineDialog::titleAndPlainText()
+void tst_ZEMMultiLineDialog::textOfLines()
 {
     Keyboards keyboards;
     ZEMMultiLineDialog dialog(keyboards.make());
-    dialog.setTitle(QStringLiteral("Opmerking"));
-    QCOMPARE(part<ZEMTextLabel>(dialog, "lblTitle")->text(), QStringLiteral("Opmerking"));
-    for (const QString &text : {fewLines, QStringLiteral("<b>geen</b> opmaak"), QString()}) {
-        dialog.setText(text);
-        QCOMPARE(part<QTextEdit>(dialog, "textEdit")->toPlainText(), text);
-        QCOMPARE(dialog.text(), text);
-    }
+    dialog.setText(fewLines);
+    QCOMPARE(part<QTextEdit>(dialog, "textEdit")->toPlainText(), fewLines);
+    QCOMPARE(dialog.text(), fewLines);
 }
 
 void tst_ZEMMultiLineDialog::keysTypeLines()
@@ -328,97 +199,32 @@ void tst_ZEMMultiLineDialog::keysTypeLines()
     QCOMPARE(results.take(), QStringList());
 }
 
-void tst_ZEMMultiLineDialog::tellsTheResult_data()
+void tst_ZEMMultiLineDialog::touchesLeaveTheFocus()
 {
-    QTest::addColumn<QStringList>("told");
-    QTest::newRow("btnOK") << strings({"handler select", "select"});
-    QTest::newRow("btnCancel") << strings({"handler cancel", "cancel"});
-}
-
-void tst_ZEMMultiLineDialog::tellsTheResult()
-{
-    QFETCH(QStringList, told);
     MultiLineStage stage;
     QVERIFY(stage.isReady);
-    ZEMKeyboardInputHandler handler;
-    stage.dialog->setActiveInputHandler(&handler);
-    Results results;
-    results.listen(stage.dialog);
-    results.listen(&handler, "handler");
-    stage.dialog->setText(fewLines);
     stage.dialog->show();
     QCoreApplication::processEvents();
-    touch(*stage.dialog, QTest::currentDataTag());
-    QCOMPARE(results.take(), told);
-    touch(*stage.dialog, QTest::currentDataTag());
-    QCOMPARE(results.take(), told);
-    QVERIFY(stage.dialog->isVisible());
-    QCOMPARE(stage.dialog->text(), fewLines);
-    QCOMPARE(QApplication::focusWidget(), stage.get<QTextEdit>("textEdit"));
-
-    stage.dialog->setActiveInputHandler(nullptr);
-    touch(*stage.dialog, QTest::currentDataTag());
-    QCOMPARE(results.take(), told.mid(1));
+    for (const char *name : {"btnOK", "btnCancel"}) {
+        touch(*stage.dialog, name);
+        QCOMPARE(QApplication::focusWidget(), stage.get<QTextEdit>("textEdit"));
+    }
 }
 
-void tst_ZEMMultiLineDialog::tellsTheHandlerThatWasSetLast()
-{
-    Keyboards keyboards;
-    ZEMMultiLineDialog dialog(keyboards.make());
-    ZEMKeyboardInputHandler first;
-    ZEMKeyboardInputHandler second;
-    Results results;
-    results.listen(&first, "first");
-    results.listen(&second, "second");
-    dialog.setActiveInputHandler(&first);
-    dialog.setActiveInputHandler(&second);
-    part<ZEMButton>(dialog, "btnCancel")->click();
-    part<ZEMButton>(dialog, "btnOK")->click();
-    QCOMPARE(results.take(), strings({"second cancel", "second select"}));
-}
-
-void tst_ZEMMultiLineDialog::deletedHandlerIsForgotten()
-{
-    Keyboards keyboards;
-    ZEMMultiLineDialog dialog(keyboards.make());
-    Results results;
-    results.listen(&dialog);
-    auto *handler = new ZEMKeyboardInputHandler;
-    dialog.setActiveInputHandler(handler);
-    connect(handler, &ZEMKeyboardInputHandler::sigCancel, &dialog, [handler] { delete handler; });
-    part<ZEMButton>(dialog, "btnCancel")->click();
-    part<ZEMButton>(dialog, "btnCancel")->click();
-    part<ZEMButton>(dialog, "btnOK")->click();
-    QCOMPARE(results.take(), strings({"cancel", "cancel", "select"}));
-}
-
-void tst_ZEMMultiLineDialog::showTakesTheFocusAndSelectsNothing()
+void tst_ZEMMultiLineDialog::showPutsTheCursorWhereItWas()
 {
     MultiLineStage stage;
     QVERIFY(stage.isReady);
     auto *field = stage.get<QTextEdit>("textEdit");
-    MouseLog log(field);
-    bool focusIsThere = false;
-    int shown = 0;
-    connect(stage.dialog, &ZEMMultiLineDialog::sigShown, stage.dialog, [&] {
-        ++shown;
-        focusIsThere = QApplication::focusWidget() == field;
-    });
     stage.dialog->setText(fewLines);
     stage.dialog->show();
-    QCOMPARE(shown, 1);
-    QVERIFY(focusIsThere);
-    QVERIFY(log.events.isEmpty()); // posted, not sent
-    QCoreApplication::sendPostedEvents(field, QEvent::MouseButtonPress);
-    QCOMPARE(log.events, tapOnLastPixel(field));
-    QTest::qWait(600); // no late selection either
+    QTest::qWait(600); // longer than a late selection would take
     QVERIFY(!field->textCursor().hasSelection());
     QCOMPARE(field->textCursor().position(), 0);
 
     field->moveCursor(QTextCursor::End);
     stage.dialog->hide();
     stage.dialog->show();
-    QCOMPARE(shown, 2);
     QTest::qWait(1);
     QCOMPARE(field->textCursor().position(), fewLines.size());
 }
@@ -538,33 +344,6 @@ void tst_ZEMMultiLineDialog::buttonsMoveByASingleStep()
     QCOMPARE(bar->value(), bar->maximum() - step);
     QCOMPARE(usable(*stage.dialog), strings({"up", "down"}));
     QCOMPARE(QApplication::focusWidget(), stage.get<QTextEdit>("textEdit"));
-}
-
-void tst_ZEMMultiLineDialog::dialogMayBeDeletedFromItsSignals_data()
-{
-    QTest::addColumn<bool>("byHandler");
-    QTest::newRow("btnOK") << false;
-    QTest::newRow("btnCancel") << true;
-}
-
-void tst_ZEMMultiLineDialog::dialogMayBeDeletedFromItsSignals()
-{
-    QFETCH(bool, byHandler);
-    MultiLineStage stage;
-    QVERIFY(stage.isReady);
-    const QPointer<ZEMMultiLineDialog> dialog = stage.dialog;
-    ZEMKeyboardInputHandler handler;
-    const auto end = [dialog] { delete dialog; };
-    if (byHandler) {
-        dialog->setActiveInputHandler(&handler);
-        connect(&handler, &ZEMKeyboardInputHandler::sigCancel, this, end);
-    } else {
-        connect(dialog, &ZEMMultiLineDialog::sigSelect, this, end);
-    }
-    dialog->show();
-    QCoreApplication::processEvents();
-    touch(*dialog, QTest::currentDataTag());
-    QVERIFY(dialog.isNull());
 }
 
 void tst_ZEMMultiLineDialog::dialogMayBeDeletedBeforeTheCheck()

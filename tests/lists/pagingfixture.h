@@ -9,6 +9,7 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTest>
 
 namespace ListTest {
 
@@ -64,6 +65,111 @@ struct PagingFixture
     QVector<Pages> told;
     QStringList events;
 };
+
+inline void addChoosingColumns()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("pageSize");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("chosen"); // 3 was chosen before
+    QTest::addColumn<int>("scrolled"); // -1 for not at all
+    QTest::addColumn<bool>("previous");
+    QTest::addColumn<bool>("next");
+}
+
+/** Chooses a row, with row 3 chosen before, and compares with the columns of the present row. */
+template <typename Paged>
+void checkChoosing()
+{
+    QFETCH(int, rows);
+    Paged paged(rows);
+    paged.logic->setIndex(3);
+    paged.told.clear();
+    paged.view.scrolls.clear();
+    QFETCH(int, pageSize);
+    paged.logic->setNrPageItems(pageSize);
+
+    QFETCH(int, row);
+    paged.logic->setIndex(row);
+    QFETCH(int, chosen);
+    QCOMPARE(paged.logic->index(), chosen);
+    QCOMPARE(paged.currentRow(), chosen);
+    QCOMPARE(selectedRows(paged.view), QSet<int> {chosen});
+    QFETCH(bool, previous);
+    QFETCH(bool, next);
+    QCOMPARE(paged.told, QVector<Pages>({{previous, next}}));
+    QFETCH(int, scrolled);
+    QCOMPARE(paged.view.scrolls.count(), scrolled < 0 ? 0 : 1);
+    if (scrolled >= 0) {
+        QCOMPARE(paged.view.scrolls.constFirst().row, scrolled);
+        QCOMPARE(paged.view.scrolls.constFirst().hint, QAbstractItemView::PositionAtTop);
+    }
+}
+
+inline void addPageMoveColumns()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("pageSize");
+    QTest::addColumn<QByteArray>("move");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("scrolled");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<bool>("previous");
+    QTest::addColumn<bool>("next");
+}
+
+/** Moves by a page and compares with the columns of the present row. */
+template <typename Paged>
+void checkPageMove()
+{
+    QFETCH(int, rows);
+    Paged paged(rows);
+    QFETCH(int, pageSize);
+    paged.logic->setNrPageItems(pageSize);
+    QFETCH(int, before);
+    paged.makeCurrent(before);
+    paged.view.scrolls.clear();
+
+    QFETCH(QByteArray, move);
+    QVERIFY(QMetaObject::invokeMethod(paged.logic, move.constData()));
+    QFETCH(int, after);
+    QCOMPARE(paged.currentRow(), after);
+    QFETCH(bool, previous);
+    QFETCH(bool, next);
+    QCOMPARE(paged.told, QVector<Pages>({{previous, next}}));
+    QCOMPARE(paged.view.scrolls.count(), 1);
+    QTEST(paged.view.scrolls.constFirst().row, "scrolled");
+}
+
+inline void addResetColumns()
+{
+    QTest::addColumn<int>("chosen");
+    QTest::addColumn<int>("rows"); // 20 before
+    QTest::addColumn<int>("kept");
+    QTest::addColumn<bool>("previous");
+    QTest::addColumn<bool>("next");
+}
+
+/** Resets a model of 20 rows and compares with the columns of the present row. */
+template <typename Paged>
+void checkReset()
+{
+    Paged paged;
+    QFETCH(int, chosen);
+    paged.logic->setIndex(chosen);
+    paged.told.clear();
+    paged.view.scrolls.clear();
+    QFETCH(int, rows);
+    paged.model.resetTo(rows);
+    QFETCH(int, kept);
+    QCOMPARE(paged.logic->index(), kept);
+    QCOMPARE(paged.currentRow(), kept);
+    QCOMPARE(selectedRows(paged.view), kept < 0 ? QSet<int>() : QSet<int> {kept});
+    QFETCH(bool, previous);
+    QFETCH(bool, next);
+    QCOMPARE(paged.told, QVector<Pages>({{previous, next}}));
+    QVERIFY(paged.view.scrolls.isEmpty());
+}
 
 } // namespace ListTest
 

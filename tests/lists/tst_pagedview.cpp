@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "pagingfixture.h"
-
-#include <ZEMListViewLogic>
-#include <ZEMTableViewLogic>
+#include "pagingengines.h"
 
 #include <QTest>
 
@@ -38,24 +35,8 @@ private Q_SLOTS:
 
 namespace {
 
-struct List
-{
-    using View = QListView;
-    using Logic = ZEMListViewLogic;
-    static int pageSize(const Logic &logic) { return logic.nrPageItems(); }
-    static QVariant text(Logic &logic) { return logic.data(0); }
-};
-
-struct Table
-{
-    using View = QTableView;
-    using Logic = ZEMTableViewLogic;
-    static int pageSize(const Logic &logic) { return logic.getNrPageItems(); }
-    static QVariant text(Logic &logic) { return logic.data(0, 0); }
-};
-
 template <typename Engine>
-struct Fixture : PagingFixture<typename Engine::View, typename Engine::Logic>
+struct Fixture : EngineFixture<Engine>
 {
     /** Does @p action the next time the current row changes. */
     template <typename Action>
@@ -84,13 +65,6 @@ struct Fixture : PagingFixture<typename Engine::View, typename Engine::Logic>
 
     bool acted = false;
 };
-
-void addEngines()
-{
-    QTest::addColumn<bool>("isTable");
-    QTest::newRow("list") << false;
-    QTest::newRow("table") << true;
-}
 
 /** Calls everything on a view that has no rows. */
 template <typename Engine>
@@ -237,8 +211,7 @@ void tst_PagedView::selectionModeIsForChoicesOnly_data()
 
 void tst_PagedView::selectionModeIsForChoicesOnly()
 {
-    QFETCH(bool, isTable);
-    isTable ? checkSelection<Table>() : checkSelection<List>();
+    withEngine([](auto engine) { checkSelection<decltype(engine)>(); });
 }
 
 /** A page move back and a choice count the rows after it, a page move on and a reset before. */
@@ -262,8 +235,7 @@ void tst_PagedView::rowsThatGoInTheMiddle_data()
 
 void tst_PagedView::rowsThatGoInTheMiddle()
 {
-    QFETCH(bool, isTable);
-    isTable ? checkRowsThatGo<Table>() : checkRowsThatGo<List>();
+    withEngine([](auto engine) { checkRowsThatGo<decltype(engine)>(); });
 }
 
 /** A list has found the page before it moves; a table finds it when it scrolls. */
@@ -287,8 +259,7 @@ void tst_PagedView::pageSizeThatChangesInTheMiddle_data()
 
 void tst_PagedView::pageSizeThatChangesInTheMiddle()
 {
-    QFETCH(bool, isTable);
-    isTable ? checkPageSizeThatChanges<Table>() : checkPageSizeThatChanges<List>();
+    withEngine([](auto engine) { checkPageSizeThatChanges<decltype(engine)>(); });
 }
 
 void tst_PagedView::modelThatGoesInTheMiddle_data()
@@ -298,8 +269,7 @@ void tst_PagedView::modelThatGoesInTheMiddle_data()
 
 void tst_PagedView::modelThatGoesInTheMiddle()
 {
-    QFETCH(bool, isTable);
-    isTable ? checkModelThatGoes<Table>() : checkModelThatGoes<List>();
+    withEngine([](auto engine) { checkModelThatGoes<decltype(engine)>(); });
 }
 
 void tst_PagedView::viewWithoutModelIsEmpty_data()
@@ -333,8 +303,7 @@ void tst_PagedView::engineWithoutView_data()
 
 void tst_PagedView::engineWithoutView()
 {
-    QFETCH(bool, isTable);
-    isTable ? checkNoView<Table>() : checkNoView<List>();
+    withEngine([](auto engine) { checkNoView<decltype(engine)>(); });
 }
 
 QTEST_MAIN(tst_PagedView)

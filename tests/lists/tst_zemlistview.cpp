@@ -2,36 +2,27 @@
 // SPDX-License-Identifier: MIT
 
 #include "../widgets/widgettest.h"
-#include "listtest.h"
-#include "zemtest.h"
+#include "listpagefixture.h"
 
 #include <ZEMButton>
-#include <ZEMListView>
-#include <ZEMListViewLogic>
 #include <ZEMTextLabel>
 
 #include <QListView>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QStyledItemDelegate>
 #include <QTest>
-
-#include <limits>
-#include <memory>
 
 using namespace ListTest;
 using namespace WidgetTest;
 
+/** What this page has of its own. */
 class tst_ZEMListView : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void newPage();
     void operationsStandInOrder();
     void declaresItsSignalsAndSlots();
-    void ownsALogicInTheList();
-    void operationsReachTheLogic();
     void headerIsNotTheModels();
     void pageButtonsFollowThePages();
     void newPageButtonsDoNothing();
@@ -44,12 +35,10 @@ private Q_SLOTS:
     void cancelTellsCancel();
     void pressBesideTheListDoesNothing();
     void heightOfAPage();
-    void reservesThePageThatASubclassTellsOf();
     void emptyListKeepsItsHeight();
     void fitContents_data();
     void fitContents();
     void fitContentsOfAnEmptyList();
-    void hugePagesAreNoTrouble();
     void pageWithoutModel();
     void pageStaysWhenPickedOrCancelled();
     void pageCanGoWhenPicked();
@@ -58,50 +47,17 @@ private Q_SLOTS:
 namespace {
 
 /** A page of 20 items, each 120 by 24 pixels. */
-struct Fixture
+struct Fixture : PageFixture<ZEMListView>
 {
-    explicit Fixture(int rows = 20) : model(rows)
-    {
-        model.itemSize = QSize(120, 24);
-        page.setModel(&model);
-    }
+    explicit Fixture(int rows = 20) : PageFixture(rows, QSize(120, 24)) { }
 
     ZEMButton *button(const char *name) const
     {
         return page.findChild<ZEMButton *>(QLatin1String(name));
     }
-    QListView *list() const { return page.findChild<QListView *>(QStringLiteral("listView")); }
-    ZEMListViewLogic *logic() const { return page.findChild<ZEMListViewLogic *>(); }
-    int currentRow() const { return list()->currentIndex().row(); }
-
-    RowModel model;
-    ZEMListView page;
 };
 
-template <typename T>
-T *part(const QObject &page, const char *name)
-{
-    return page.findChild<T *>(QLatin1String(name));
-}
-
 } // namespace
-
-void tst_ZEMListView::newPage()
-{
-    ZEMListView page;
-    QCOMPARE(page.objectName(), QStringLiteral("ZEMListView"));
-    QCOMPARE(page.windowTitle(), QStringLiteral("Form"));
-    QCOMPARE(page.size(), QSize(640, 480));
-    QCOMPARE(page.getBackgroundColor(), QColor(0, 0, 0, 150));
-    QVERIFY(page.getBackground().isNull());
-    QCOMPARE(page.nrPageItems(), 8);
-    QCOMPARE(page.index(), 0);
-
-    QWidget host;
-    QCOMPARE((new ZEMListView(&host))->parentWidget(), &host);
-    QVERIFY((std::is_base_of_v<ZEMPageBackground, ZEMListView>));
-    QVERIFY((std::is_base_of_v<ZEMListViewInterface, ZEMListView>));
-}
 
 void tst_ZEMListView::operationsStandInOrder()
 {
@@ -130,40 +86,6 @@ void tst_ZEMListView::declaresItsSignalsAndSlots()
                                  QStringLiteral("signal sigSelect(int)")};
     QCOMPARE(ownMethods(ZEMListView::staticMetaObject), methods);
     QCOMPARE(ownProperties(ZEMListView::staticMetaObject), QStringList());
-}
-
-void tst_ZEMListView::ownsALogicInTheList()
-{
-    auto page = std::make_unique<ZEMListView>();
-    const QPointer<ZEMListViewLogic> logic = page->findChild<ZEMListViewLogic *>();
-    QVERIFY(logic);
-    QCOMPARE(page->findChildren<ZEMListViewLogic *>().count(), 1);
-    QCOMPARE(logic->parent(), part<QListView>(*page, "listView"));
-    page.reset();
-    QVERIFY(logic.isNull());
-}
-
-void tst_ZEMListView::operationsReachTheLogic()
-{
-    Fixture fixture;
-    ZEMListViewInterface *list = &fixture.page;
-    RowModel other(20);
-    QStyledItemDelegate delegate;
-    list->setModel(&other);
-    QCOMPARE(fixture.list()->model(), &other);
-    list->setItemDelegate(&delegate);
-    QCOMPARE(fixture.list()->itemDelegate(), &delegate);
-    list->setNrPageItems(5);
-    QCOMPARE(fixture.logic()->nrPageItems(), 5);
-    QCOMPARE(list->nrPageItems(), 5);
-    list->setIndex(3);
-    QCOMPARE(fixture.logic()->index(), 3);
-    QCOMPARE(list->index(), 3);
-    QCOMPARE(list->data(4), QVariant(QStringLiteral("4:0")));
-    list->setSelectionFlags(QItemSelectionModel::ClearAndSelect);
-    fixture.logic()->page_next();
-    QCOMPARE(selectedRows(*fixture.list()), QSet<int> {5});
-    list->setModel(nullptr);
 }
 
 /** The row at the top of @p list. */
@@ -364,24 +286,6 @@ void tst_ZEMListView::heightOfAPage()
     QCOMPARE(fixture.list()->maximumHeight(), QWIDGETSIZE_MAX);
 }
 
-void tst_ZEMListView::reservesThePageThatASubclassTellsOf()
-{
-    class Halved : public ZEMListView
-    {
-    public:
-        int nrPageItems() const override { return ZEMListView::nrPageItems() / 2; }
-    };
-    Halved page;
-    RowModel model(20);
-    model.itemSize = QSize(120, 24);
-    page.setModel(&model);
-    page.setNrPageItems(6);
-    QCOMPARE(part<QListView>(page, "listView")->minimumHeight(), 3 * 24);
-    page.setNrPageItems(8);
-    page.fitContents(0);
-    QCOMPARE(part<QListView>(page, "listView")->minimumHeight(), 4 * 24);
-}
-
 void tst_ZEMListView::emptyListKeepsItsHeight()
 {
     Fixture fixture;
@@ -428,15 +332,6 @@ void tst_ZEMListView::fitContentsOfAnEmptyList()
     fixture.page.setModel(nullptr);
     fixture.page.fitContents(3);
     QCOMPARE(fixture.list()->minimumSize(), QSize(0, 5 * 24));
-}
-
-void tst_ZEMListView::hugePagesAreNoTrouble()
-{
-    Fixture fixture;
-    fixture.page.setNrPageItems(std::numeric_limits<int>::max());
-    QCOMPARE(fixture.list()->minimumHeight(), QWIDGETSIZE_MAX - 1);
-    fixture.page.fitContents(std::numeric_limits<int>::max());
-    QCOMPARE(fixture.list()->minimumHeight(), QWIDGETSIZE_MAX - 1);
 }
 
 void tst_ZEMListView::pageWithoutModel()

@@ -1,21 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../widgets/widgettest.h"
-#include "zemtest.h"
+#include "listpagefixture.h"
 
 #include <ZEMButton>
-#include <ZEMListView>
-#include <ZEMTextLabel>
 
 #include <QGridLayout>
 #include <QListView>
 #include <QTest>
 #include <QVBoxLayout>
 
-using namespace WidgetTest;
+using namespace ListTest;
 
-/** The parts of a ZEMListView as they are on a new one. */
+/** The parts that only a ZEMListView has, as they are on a new one. */
 class tst_ZEMListViewForm : public QObject
 {
     Q_OBJECT
@@ -23,21 +20,12 @@ class tst_ZEMListViewForm : public QObject
 private Q_SLOTS:
     void formOfThePage();
     void formOfThePanel();
-    void formOfTheHeader();
     void formOfTheList();
     void formOfTheButtons_data();
     void formOfTheButtons();
-    void textsAreTranslated();
-    void listHasNoGround();
 };
 
 namespace {
-
-template <typename T>
-T *part(const QObject &page, const char *name)
-{
-    return page.findChild<T *>(QLatin1String(name));
-}
 
 QImage picture(const QString &path)
 {
@@ -89,57 +77,24 @@ void tst_ZEMListViewForm::formOfThePanel()
 {
     ZEMListView page;
     auto *panel = part<ZEMPageBackground>(page, "zemPageBackground");
-    QCOMPARE(panel->minimumSize(), QSize(0, 0));
-    QCOMPARE(panel->getBackgroundColor(), QColor(0, 0, 0, 200));
     auto *grid = qobject_cast<QGridLayout *>(panel->layout());
     QVERIFY(grid);
-    QCOMPARE(grid->objectName(), QStringLiteral("gridLayout"));
-    QCOMPARE(grid->horizontalSpacing(), 40);
     QCOMPARE(grid->contentsMargins(), QMargins(40, 20, 40, 20));
     QCOMPARE(grid->count(), 2);
-    auto *texts = part<QVBoxLayout>(page, "verticalLayout");
     auto *buttons = part<QVBoxLayout>(page, "verticalLayout_2");
-    QCOMPARE(grid->itemAtPosition(0, 0)->layout(), texts);
     QCOMPARE(grid->itemAtPosition(0, 1)->layout(), buttons);
-    QCOMPARE(texts->spacing(), 12);
-    QCOMPARE(texts->count(), 2);
-    QCOMPARE(texts->itemAt(0)->widget(), part<ZEMTextLabel>(page, "lblHeader"));
-    QCOMPARE(texts->itemAt(1)->widget(), part<QListView>(page, "listView"));
     QCOMPARE(buttons->spacing(), 10);
     QCOMPARE(buttons->count(), 4);
-}
-
-void tst_ZEMListViewForm::formOfTheHeader()
-{
-    ZEMListView page;
-    auto *label = part<ZEMTextLabel>(page, "lblHeader");
-    QCOMPARE(label->text(), QStringLiteral("Text label"));
-    QCOMPARE(label->font().family(), QStringLiteral("Cabin"));
-    QCOMPARE(label->font().pointSize(), 18);
-    QCOMPARE(label->alignment(), Qt::Alignment(Qt::AlignCenter));
-    QVERIFY(!label->getShadow());
 }
 
 void tst_ZEMListViewForm::formOfTheList()
 {
     ZEMListView page;
     auto *list = part<QListView>(page, "listView");
-    QCOMPARE(list->metaObject(), &QListView::staticMetaObject);
     QCOMPARE(list->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
-    QCOMPARE(list->font().family(), QStringLiteral("Cabin"));
-    QCOMPARE(list->font().pointSize(), 16);
-    QCOMPARE(list->frameShape(), QFrame::NoFrame);
-    QCOMPARE(list->frameShadow(), QFrame::Plain);
-    QCOMPARE(list->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QCOMPARE(list->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QVERIFY(!list->hasAutoScroll());
-    QCOMPARE(list->editTriggers(),
-             QAbstractItemView::EditTriggers(QAbstractItemView::NoEditTriggers));
-    QVERIFY(!list->showDropIndicator());
     QCOMPARE(list->selectionMode(), QAbstractItemView::SingleSelection);
     QCOMPARE(list->viewMode(), QListView::ListMode);
     QCOMPARE(list->flow(), QListView::TopToBottom);
-    QVERIFY(!list->uniformItemSizes());
     QCOMPARE(list->minimumSize(), QSize(0, 0));
 }
 
@@ -181,42 +136,6 @@ void tst_ZEMListViewForm::formOfTheButtons()
                  .toImage()
                  .convertToFormat(expected.format()),
              expected);
-}
-
-void tst_ZEMListViewForm::textsAreTranslated()
-{
-    const ContextTranslator translator;
-    ZEMListView page;
-    QCOMPARE(page.windowTitle(), QStringLiteral("ZEMListView/Form"));
-    QCOMPARE(part<ZEMTextLabel>(page, "lblHeader")->text(),
-             QStringLiteral("ZEMListView/Text label"));
-}
-
-void tst_ZEMListViewForm::listHasNoGround()
-{
-    QPalette colors;
-    colors.setColor(QPalette::Base, Qt::yellow);
-    colors.setColor(QPalette::Window, Qt::cyan);
-    QWidget host;
-    host.setPalette(colors);
-    ZEMListView page(&host);
-    auto *list = part<QListView>(page, "listView");
-    const QBrush clear(QColor(255, 255, 255, 0));
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        QCOMPARE(list->palette().brush(group, QPalette::Base), clear);
-        QCOMPARE(list->palette().brush(group, QPalette::Window), clear);
-    }
-    QCOMPARE(list->palette().brush(QPalette::Disabled, QPalette::Window), clear);
-    QCOMPARE(list->palette().color(QPalette::Disabled, QPalette::Base), QColor(Qt::yellow));
-
-    page.layout()->activate();
-    const QImage image = ZemTest::render(&page, Qt::white);
-    const QPoint inList = list->mapTo(&page, list->rect().center());
-    auto *panel = part<ZEMPageBackground>(page, "zemPageBackground");
-    const QPoint inPanel = panel->mapTo(&page, QPoint(5, 5));
-    QCOMPARE(image.pixelColor(inList), image.pixelColor(inPanel));
-    QVERIFY(image.pixelColor(inPanel) != image.pixelColor(2, 2));
-    QVERIFY(image.pixelColor(2, 2) != QColor(Qt::white));
 }
 
 QTEST_MAIN(tst_ZEMListViewForm)

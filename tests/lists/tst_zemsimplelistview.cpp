@@ -2,37 +2,27 @@
 // SPDX-License-Identifier: MIT
 
 #include "../widgets/widgettest.h"
-#include "listtest.h"
-#include "zemtest.h"
+#include "listpagefixture.h"
 
 #include <ZEMActionListModel>
-#include <ZEMListViewLogic>
-#include <ZEMPageBackground>
-#include <ZEMSimpleListView>
 #include <ZEMTextLabel>
 
 #include <QListView>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QStyledItemDelegate>
 #include <QTest>
-
-#include <limits>
-#include <memory>
 
 using namespace ListTest;
 using namespace WidgetTest;
 
+/** What this page has of its own. */
 class tst_ZEMSimpleListView : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void newPage();
     void operationsStandInOrder();
     void declaresItsSignalsAndSlots();
-    void ownsALogicInTheList();
-    void operationsReachTheLogic();
     void titleComesFromTheModel();
     void emptyHeaderLeavesTheTitle();
     void laterTitlesAreNotFollowed();
@@ -46,12 +36,10 @@ private Q_SLOTS:
     void pressIsNotPassedOn();
     void pageStaysWhenPickedOrCancelled();
     void heightOfAPage();
-    void reservesThePageThatASubclassTellsOf();
     void fitContents_data();
     void fitContents();
     void fitContentsWithoutGrid();
     void fittedGridHasTwoColumns();
-    void hugePagesAreNoTrouble();
     void pageWithoutModel();
     void pageCanGoWhenPicked();
 };
@@ -59,56 +47,23 @@ private Q_SLOTS:
 namespace {
 
 /** A page of six items, each asking for 120 by 90 pixels of its cell. */
-struct Fixture
+struct Fixture : PageFixture<ZEMSimpleListView>
 {
-    explicit Fixture(int rows = 6) : model(rows)
-    {
-        model.itemSize = QSize(120, 90);
-        page.setModel(&model);
-    }
+    explicit Fixture(int rows = 6) : PageFixture(rows, QSize(120, 90)) { }
 
-    QListView *list() const { return page.findChild<QListView *>(QStringLiteral("listView")); }
-    ZEMListViewLogic *logic() const { return page.findChild<ZEMListViewLogic *>(); }
     QString title() const
     {
         return page.findChild<ZEMTextLabel *>(QStringLiteral("lblTitle"))->text();
     }
-    int currentRow() const { return list()->currentIndex().row(); }
     void tap(const QPoint &position) const
     {
         ZemTest::press(list()->viewport(), position);
         ZemTest::release(list()->viewport(), position);
     }
     QPoint middleOf(int row) const { return list()->visualRect(model.index(row, 0)).center(); }
-
-    RowModel model;
-    ZEMSimpleListView page;
 };
 
-template <typename T>
-T *part(const QObject &page, const char *name)
-{
-    return page.findChild<T *>(QLatin1String(name));
-}
-
 } // namespace
-
-void tst_ZEMSimpleListView::newPage()
-{
-    ZEMSimpleListView page;
-    QCOMPARE(page.objectName(), QStringLiteral("ZEMSimpleListView"));
-    QCOMPARE(page.windowTitle(), QStringLiteral("Form"));
-    QCOMPARE(page.size(), QSize(640, 480));
-    QCOMPARE(page.getBackgroundColor(), QColor(0, 0, 0, 150));
-    QVERIFY(page.getBackground().isNull());
-    QCOMPARE(page.nrPageItems(), 8);
-    QCOMPARE(page.index(), 0);
-
-    QWidget host;
-    QCOMPARE((new ZEMSimpleListView(&host))->parentWidget(), &host);
-    QVERIFY((std::is_base_of_v<ZEMPageBackground, ZEMSimpleListView>));
-    QVERIFY((std::is_base_of_v<ZEMListViewInterface, ZEMSimpleListView>));
-}
 
 void tst_ZEMSimpleListView::operationsStandInOrder()
 {
@@ -134,40 +89,6 @@ void tst_ZEMSimpleListView::declaresItsSignalsAndSlots()
                                  QStringLiteral("signal sigSelect(int)")};
     QCOMPARE(ownMethods(ZEMSimpleListView::staticMetaObject), methods);
     QCOMPARE(ownProperties(ZEMSimpleListView::staticMetaObject), QStringList());
-}
-
-void tst_ZEMSimpleListView::ownsALogicInTheList()
-{
-    auto page = std::make_unique<ZEMSimpleListView>();
-    const QPointer<ZEMListViewLogic> logic = page->findChild<ZEMListViewLogic *>();
-    QVERIFY(logic);
-    QCOMPARE(page->findChildren<ZEMListViewLogic *>().count(), 1);
-    QCOMPARE(logic->parent(), part<QListView>(*page, "listView"));
-    page.reset();
-    QVERIFY(logic.isNull());
-}
-
-void tst_ZEMSimpleListView::operationsReachTheLogic()
-{
-    Fixture fixture;
-    ZEMListViewInterface *list = &fixture.page;
-    RowModel other(20);
-    QStyledItemDelegate delegate;
-    list->setModel(&other);
-    QCOMPARE(fixture.list()->model(), &other);
-    list->setItemDelegate(&delegate);
-    QCOMPARE(fixture.list()->itemDelegate(), &delegate);
-    list->setNrPageItems(5);
-    QCOMPARE(fixture.logic()->nrPageItems(), 5);
-    QCOMPARE(list->nrPageItems(), 5);
-    list->setIndex(3);
-    QCOMPARE(fixture.logic()->index(), 3);
-    QCOMPARE(list->index(), 3);
-    QCOMPARE(list->data(4), QVariant(QStringLiteral("4:0")));
-    list->setSelectionFlags(QItemSelectionModel::ClearAndSelect);
-    fixture.logic()->page_next();
-    QCOMPARE(selectedRows(*fixture.list()), QSet<int> {5});
-    list->setModel(nullptr);
 }
 
 void tst_ZEMSimpleListView::titleComesFromTheModel()
@@ -361,24 +282,6 @@ void tst_ZEMSimpleListView::heightOfAPage()
     QCOMPARE(fixture.list()->maximumHeight(), QWIDGETSIZE_MAX);
 }
 
-void tst_ZEMSimpleListView::reservesThePageThatASubclassTellsOf()
-{
-    class Halved : public ZEMSimpleListView
-    {
-    public:
-        int nrPageItems() const override { return ZEMSimpleListView::nrPageItems() / 2; }
-    };
-    Halved page;
-    RowModel model(20);
-    model.itemSize = QSize(120, 24);
-    page.setModel(&model);
-    page.setNrPageItems(6);
-    QCOMPARE(part<QListView>(page, "listView")->minimumHeight(), 3 * 24);
-    page.setNrPageItems(8);
-    page.fitContents(0);
-    QCOMPARE(part<QListView>(page, "listView")->minimumHeight(), 2 * 100);
-}
-
 void tst_ZEMSimpleListView::fitContents_data()
 {
     QTest::addColumn<int>("count");
@@ -432,15 +335,6 @@ void tst_ZEMSimpleListView::fittedGridHasTwoColumns()
         QVERIFY2(cell.contains(fixture.middleOf(row)), QByteArray::number(row));
     }
     QVERIFY(fixture.list()->viewport()->rect().contains(fixture.middleOf(4)));
-}
-
-void tst_ZEMSimpleListView::hugePagesAreNoTrouble()
-{
-    Fixture fixture;
-    fixture.page.setNrPageItems(std::numeric_limits<int>::max());
-    QCOMPARE(fixture.list()->minimumHeight(), QWIDGETSIZE_MAX - 1);
-    fixture.page.fitContents(0);
-    QCOMPARE(fixture.list()->minimumHeight(), QWIDGETSIZE_MAX - 1);
 }
 
 void tst_ZEMSimpleListView::pageWithoutModel()

@@ -8,22 +8,21 @@
 #include "zemtest.h"
 
 #include <ZEMButton>
-#include <ZEMDialogPopup>
 
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
 
-/** What the tests of the popup dialog share. */
+/** What the tests of the dialogs that wait for their answer share. */
 namespace DialogTest {
 
-inline ZEMButton *buttonOf(const ZEMDialogPopup &dialog, const char *name)
+inline ZEMButton *buttonOf(const QWidget &dialog, const char *name)
 {
     return FormTest::part<ZEMButton>(dialog, name);
 }
 
 /** A touch on the button of this name, through the window. */
-inline void touch(const ZEMDialogPopup &dialog, const char *name)
+inline void touch(const QWidget &dialog, const char *name)
 {
     ZEMButton *button = buttonOf(dialog, name);
     ZemTest::press(button, button->rect().center());

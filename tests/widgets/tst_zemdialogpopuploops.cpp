@@ -16,6 +16,7 @@
 
 using namespace DialogTest;
 
+/** What the popup asks and tells; what its loop does is tested with the loop. */
 class tst_ZEMDialogPopupLoops : public QObject
 {
     Q_OBJECT
@@ -26,25 +27,17 @@ private Q_SLOTS:
 
     void execTellsTheAnswer_data();
     void execTellsTheAnswer();
-    void execIsEndedByAReset();
     void execShowsAModalDialogWithBothButtons();
     void everyExecBeginsAnew();
     void infoCanBeAcknowledgedOnly();
     void infoWithoutButtonsIsEndedByAResetOnly();
     void infoIsASlot();
     void infoEnablesTheAcceptButtonAgain();
-    void displayLivesOnMeanwhile();
-    void hidingDoesNotEndTheLoop();
     void buttonsWithoutALoopHide();
-    void resetWithoutALoopHides();
-    void resetOfOneDialogLeavesTheOther();
-    void outerDialogEndsAfterTheInner();
-    void nestedCallsOfOneDialogEndTheInnerOnly();
-    void deletedDialogEndsItsLoop_data();
-    void deletedDialogEndsItsLoop();
-    void deletedPageEndsTheLoopOfItsDialog();
-    void deletedDialogEndsAllOfItsLoops();
-    void quitOfTheHostEndsTheLoop();
+    void deletedDialogEndsInfo_data();
+    void deletedDialogEndsInfo();
+    void deletedDialogEndsInfoWithinExec();
+    void quitOfTheHostEndsInfo();
 
 private:
     std::unique_ptr<Watchdog> watchdog;
@@ -74,25 +67,6 @@ void tst_ZEMDialogPopupLoops::execTellsTheAnswer()
     QVERIFY(dialog.isHidden());
 }
 
-void tst_ZEMDialogPopupLoops::execIsEndedByAReset()
-{
-    Page page;
-    ZEMDialogPopup dialog(&page);
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &dialog, &ZEMDialogPopup::reset);
-    timer.start(10);
-    QVERIFY(!dialog.exec());
-    QVERIFY(dialog.isHidden());
-    timer.stop();
-
-    // From a slot of the host, which is told by another widget.
-    ZEMButton other(&page);
-    connect(&other, &ZEMButton::clicked, &dialog, &ZEMDialogPopup::reset);
-    inTheLoop([&] { other.click(); });
-    QVERIFY(!dialog.exec());
-    QVERIFY(dialog.isHidden());
-}
-
 void tst_ZEMDialogPopupLoops::execShowsAModalDialogWithBothButtons()
 {
     for (const bool child : {true, false}) {
@@ -119,10 +93,6 @@ void tst_ZEMDialogPopupLoops::everyExecBeginsAnew()
 {
     Page page;
     ZEMDialogPopup dialog(&page);
-    inTheLoop([&] { touch(dialog, "btnAccepted"); });
-    QVERIFY(dialog.exec());
-    inTheLoop([&] { dialog.reset(); });
-    QVERIFY(!dialog.exec());
     inTheLoop([&] { touch(dialog, "btnAccepted"); });
     QVERIFY(dialog.exec());
     inTheLoop([&] { touch(dialog, "btnRejected"); });
@@ -208,38 +178,6 @@ void tst_ZEMDialogPopupLoops::infoEnablesTheAcceptButtonAgain()
     QVERIFY(buttonOf(dialog, "btnAccepted")->isEnabled());
 }
 
-void tst_ZEMDialogPopupLoops::displayLivesOnMeanwhile()
-{
-    Page page;
-    ZEMDialogPopup dialog(&page);
-    int ticks = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &dialog, [&] {
-        if (++ticks == 5) {
-            dialog.reset();
-        }
-    });
-    timer.start(1);
-    QVERIFY(!dialog.exec());
-    QCOMPARE(ticks, 5);
-}
-
-void tst_ZEMDialogPopupLoops::hidingDoesNotEndTheLoop()
-{
-    Page page;
-    ZEMDialogPopup dialog(&page);
-    bool stillRunning = false;
-    inTheLoop([&] {
-        dialog.hide();
-        QTimer::singleShot(20, &dialog, [&] {
-            stillRunning = true;
-            dialog.reset();
-        });
-    });
-    QVERIFY(!dialog.exec());
-    QVERIFY(stillRunning);
-}
-
 void tst_ZEMDialogPopupLoops::buttonsWithoutALoopHide()
 {
     Page page;
@@ -255,96 +193,15 @@ void tst_ZEMDialogPopupLoops::buttonsWithoutALoopHide()
     QVERIFY(!dialog.exec());
 }
 
-void tst_ZEMDialogPopupLoops::resetWithoutALoopHides()
+void tst_ZEMDialogPopupLoops::deletedDialogEndsInfo_data()
 {
-    Page page;
-    ZEMDialogPopup dialog(&page);
-    dialog.reset();
-    QVERIFY(!dialog.isVisible());
-    dialog.show();
-    dialog.reset();
-    QVERIFY(dialog.isHidden());
-    dialog.reset();
-    QVERIFY(dialog.isHidden());
-
-    // A loop that has ended is not touched again, and a later one is not ended by an old reset.
-    inTheLoop([&] { touch(dialog, "btnAccepted"); });
-    QVERIFY(dialog.exec());
-    dialog.reset();
-    inTheLoop([&] { touch(dialog, "btnAccepted"); });
-    QVERIFY(dialog.exec());
-}
-
-void tst_ZEMDialogPopupLoops::resetOfOneDialogLeavesTheOther()
-{
-    Page page;
-    ZEMDialogPopup first(&page);
-    ZEMDialogPopup second(&page);
-    bool stillRunning = false;
-    inTheLoop([&] {
-        second.reset();
-        QTimer::singleShot(10, &first, [&] {
-            stillRunning = first.isVisible();
-            touch(first, "btnAccepted");
-        });
-    });
-    QVERIFY(first.exec());
-    QVERIFY(stillRunning);
-}
-
-void tst_ZEMDialogPopupLoops::outerDialogEndsAfterTheInner()
-{
-    Page page;
-    ZEMDialogPopup outer(&page);
-    ZEMDialogPopup inner(&page);
-    QStringList order;
-    inTheLoop([&] {
-        inTheLoop([&] {
-            outer.reset(); // its loop waits for the inner one
-            order.append(QStringLiteral("outer reset"));
-            QTimer::singleShot(10, &inner, [&] { touch(inner, "btnAccepted"); });
-        });
-        order.append(inner.exec() ? QStringLiteral("inner accepted") : QStringLiteral("inner"));
-    });
-    order.append(outer.exec() ? QStringLiteral("outer accepted") : QStringLiteral("outer"));
-    QCOMPARE(order,
-             QStringList({QStringLiteral("outer reset"), QStringLiteral("inner accepted"),
-                          QStringLiteral("outer")}));
-}
-
-void tst_ZEMDialogPopupLoops::nestedCallsOfOneDialogEndTheInnerOnly()
-{
-    Page page;
-    auto *dialog = new ZEMDialogPopup(&page);
-    QStringList order;
-    inTheLoop([&] {
-        inTheLoop([&] { touch(*dialog, "btnAccepted"); });
-        order.append(dialog->exec() ? QStringLiteral("inner accepted") : QStringLiteral("inner"));
-        dialog->reset(); // finds no loop any more
-        QTimer::singleShot(20, &page, [&] {
-            order.append(QStringLiteral("outer still runs"));
-            delete dialog;
-        });
-    });
-    order.append(dialog->exec() ? QStringLiteral("outer accepted") : QStringLiteral("outer"));
-    QCOMPARE(order,
-             QStringList({QStringLiteral("inner accepted"), QStringLiteral("outer still runs"),
-                          QStringLiteral("outer")}));
-}
-
-void tst_ZEMDialogPopupLoops::deletedDialogEndsItsLoop_data()
-{
-    QTest::addColumn<bool>("info");
     QTest::addColumn<bool>("later");
-    QTest::newRow("exec") << false << false;
-    QTest::newRow("exec, later") << false << true;
-    QTest::newRow("info") << true << false;
-    QTest::newRow("info, later") << true << true;
+    QTest::newRow("at once") << false;
+    QTest::newRow("later") << true;
 }
 
-void tst_ZEMDialogPopupLoops::deletedDialogEndsItsLoop()
+void tst_ZEMDialogPopupLoops::deletedDialogEndsInfo()
 {
-    QFETCH(bool, info);
     QFETCH(bool, later);
     Page page;
     const QPointer<ZEMDialogPopup> dialog = new ZEMDialogPopup(&page);
@@ -355,26 +212,11 @@ void tst_ZEMDialogPopupLoops::deletedDialogEndsItsLoop()
             delete dialog;
         }
     });
-    bool answer = false;
-    if (info) {
-        dialog->info(true);
-    } else {
-        answer = dialog->exec();
-    }
-    QVERIFY(!answer);
+    dialog->info(true);
     QVERIFY(dialog.isNull());
 }
 
-void tst_ZEMDialogPopupLoops::deletedPageEndsTheLoopOfItsDialog()
-{
-    auto *page = new Page;
-    const QPointer<ZEMDialogPopup> dialog = new ZEMDialogPopup(page);
-    inTheLoop([&] { delete page; });
-    QVERIFY(!dialog->exec());
-    QVERIFY(dialog.isNull());
-}
-
-void tst_ZEMDialogPopupLoops::deletedDialogEndsAllOfItsLoops()
+void tst_ZEMDialogPopupLoops::deletedDialogEndsInfoWithinExec()
 {
     Page page;
     auto *dialog = new ZEMDialogPopup(&page);
@@ -388,21 +230,10 @@ void tst_ZEMDialogPopupLoops::deletedDialogEndsAllOfItsLoops()
     QCOMPARE(order, QStringList({QStringLiteral("inner"), QStringLiteral("outer")}));
 }
 
-void tst_ZEMDialogPopupLoops::quitOfTheHostEndsTheLoop()
+void tst_ZEMDialogPopupLoops::quitOfTheHostEndsInfo()
 {
     Page page;
     ZEMDialogPopup dialog(&page);
-    bool answer = true;
-    bool returned = false;
-    inTheLoop([&] {
-        inTheLoop([] { QCoreApplication::quit(); });
-        answer = dialog.exec();
-        returned = true;
-    });
-    QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(returned);
-    QVERIFY(!answer);
-
     inTheLoop([&] {
         inTheLoop([] { QCoreApplication::exit(3); });
         dialog.info(true);
@@ -410,7 +241,7 @@ void tst_ZEMDialogPopupLoops::quitOfTheHostEndsTheLoop()
     QCOMPARE(QApplication::exec(), 3);
     QVERIFY(buttonOf(dialog, "btnRejected")->isEnabled());
 
-    // The loops are gone, so a late touch or reset does no harm.
+    // The loop is gone, so a late touch or reset does no harm.
     dialog.reset();
     QVERIFY(dialog.isHidden());
 }
