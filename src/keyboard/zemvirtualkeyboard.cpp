@@ -4,7 +4,6 @@
 #include "zemvirtualkeyboard.h"
 
 #include "capswalk_p.h"
-#include "holdmachine_p.h"
 #include "keyboardfile_p.h"
 #include "keyevents_p.h"
 #include "objectname_p.h"
@@ -268,7 +267,7 @@ public:
     QPointer<ZEMVirtualKey> previewKey;
     QVector<ZEMVirtualKey *> keys;
     QTimer *holdTimer = nullptr;
-    HoldMachine hold;
+    int lastPressed = 0;
     t_caps capsState = CapsOff;
     // The popups live in a widget of the host, with which they may go.
     QPointer<QWidget> alternativesPanel;
@@ -450,14 +449,13 @@ void ZEMVirtualKeyboard::buttonPressed(int index)
         return;
     }
     d->hidePanel();
-    const bool character = key->type() == ZEMVirtualKey::Character;
-    const bool held =
-        d->hold.press(index, character && key->hasAlternateKeys() && d->showAlternatives);
+    d->lastPressed = index;
     d->changeLook(key, true);
-    if (character) {
-        d->showPreview(key);
+    if (key->type() != ZEMVirtualKey::Character) {
+        return;
     }
-    if (held) {
+    d->showPreview(key);
+    if (key->hasAlternateKeys() && d->showAlternatives) {
         d->holdTimer->start();
     }
 }
@@ -465,7 +463,6 @@ void ZEMVirtualKeyboard::buttonPressed(int index)
 void ZEMVirtualKeyboard::buttonReleased(int index)
 {
     d->holdTimer->stop();
-    d->hold.release();
     const QPointer<ZEMVirtualKeyboard> alive(this);
     if (!d->isPanelOpen()) {
         sendKey(index);
@@ -487,11 +484,8 @@ void ZEMVirtualKeyboard::sendKey(int index)
 
 void ZEMVirtualKeyboard::slotDisplayAlternatives()
 {
-    if (!d->hold.runOut(isVisible())) {
-        return;
-    }
     setShown(d->previewKey, false);
-    const ZEMVirtualKey *key = d->keys.value(d->hold.lastPressed());
+    const ZEMVirtualKey *key = d->keys.value(d->lastPressed);
     // A key of another type may have been touched while a character key was held.
     if (key && key->type() == ZEMVirtualKey::Character && d->alternativesPanel) {
         d->showPanel(key);
@@ -508,7 +502,7 @@ void ZEMVirtualKeyboard::slotSendAlternativeChar(int index)
 
 void ZEMVirtualKeyboard::slotUpdateLastPressedButton()
 {
-    d->changeLook(d->keys.value(d->hold.lastPressed()), false);
+    d->changeLook(d->keys.value(d->lastPressed), false);
 }
 
 void ZEMVirtualKeyboard::resizeEvent(QResizeEvent *event)
@@ -532,7 +526,6 @@ void ZEMVirtualKeyboard::showEvent(QShowEvent *)
 
 void ZEMVirtualKeyboard::hideEvent(QHideEvent *)
 {
-    d->hold.hide();
     setShown(d->previewKey, false);
     d->hidePanel();
 }
