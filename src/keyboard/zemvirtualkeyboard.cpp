@@ -6,6 +6,7 @@
 #include "capswalk_p.h"
 #include "keyboardfile_p.h"
 #include "keyevents_p.h"
+#include "keytouch_p.h"
 #include "objectname_p.h"
 #include "popupplace_p.h"
 #include "zemvirtualkey.h"
@@ -36,6 +37,21 @@ void setShown(QWidget *widget, bool shown)
         widget->setVisible(shown);
     }
 }
+
+/**
+ * Keys are translucent at their corners, so each painting of one begins with all that is beneath
+ * it. A stack without a frame has nothing to draw there, but sets up a painter to find that out.
+ */
+class PageStack : public QStackedWidget
+{
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (frameShape() != NoFrame) {
+            QStackedWidget::paintEvent(event);
+        }
+    }
+};
 
 } // namespace
 
@@ -268,6 +284,7 @@ public:
     QVector<ZEMVirtualKey *> keys;
     QTimer *holdTimer = nullptr;
     int lastPressed = 0;
+    KeyTouch touch;
     t_caps capsState = CapsOff;
     // The popups live in a widget of the host, with which they may go.
     QPointer<QWidget> alternativesPanel;
@@ -286,7 +303,7 @@ ZEMVirtualKeyboard::ZEMVirtualKeyboard(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    d->pageStack = new QStackedWidget;
+    d->pageStack = new PageStack;
     layout->addWidget(d->pageStack, 0);
 
     d->holdTimer = new QTimer(this);
@@ -388,6 +405,7 @@ ZEMVirtualKey *ZEMVirtualKeyboard::createButton(const QString &name)
     if (key) {
         key->setParent(this);
         key->setType(KeyboardFile::typeOf(name));
+        key->installEventFilter(&d->touch);
         d->keys.append(key);
     }
     return key;
@@ -444,6 +462,7 @@ void ZEMVirtualKeyboard::switchButtonCaps(t_caps state)
 
 void ZEMVirtualKeyboard::buttonPressed(int index)
 {
+    d->touch.letPaint();
     ZEMVirtualKey *key = d->keys.value(index);
     if (!key) {
         return;
@@ -462,6 +481,7 @@ void ZEMVirtualKeyboard::buttonPressed(int index)
 
 void ZEMVirtualKeyboard::buttonReleased(int index)
 {
+    d->touch.letPaint();
     d->holdTimer->stop();
     const QPointer<ZEMVirtualKeyboard> alive(this);
     if (!d->isPanelOpen()) {

@@ -74,7 +74,10 @@ void ZEMButton::setBackground(const QPixmap &background)
 {
     d->background = background;
     setMinimumSize(background.size());
-    resize(background.size());
+    // Even a resize to the same size lets Qt ask all siblings again what they cover.
+    if (size() != background.size() || !testAttribute(Qt::WA_Resized)) {
+        resize(background.size());
+    }
     repaint();
 }
 
