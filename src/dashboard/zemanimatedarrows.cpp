@@ -15,6 +15,18 @@ namespace {
 constexpr int updateInterval = 50; // ms
 constexpr int initialDuration = 1000; // ms
 
+/** Lets @p icon be painted by the next repaint of any widget in its window. */
+void setOpacityUnpainted(ZEMPixmap *icon, qreal opacity)
+{
+    if (!icon->updatesEnabled()) {
+        icon->setOpacity(opacity);
+        return;
+    }
+    icon->setUpdatesEnabled(false);
+    icon->setOpacity(opacity);
+    icon->setUpdatesEnabled(true);
+}
+
 } // namespace
 
 class ZEMAnimatedArrows::Private
@@ -179,8 +191,21 @@ void ZEMAnimatedArrows::valueChanged(qreal value)
     const auto opacities = ArrowWave::opacities(
         value, d->timeLine.currentTime(), d->secondIconDelay, d->thirdIconDelay,
         [this](int time) { return d->timeLine.valueForTime(time); });
+    ZEMPixmap *last = nullptr;
+    qreal opacityOfLast = 0.0;
     for (size_t i = 0; i < icons.size(); ++i) {
-        icons[i]->setOpacity(opacities[i]);
+        // An arrow that has yet to rise, or has faded already, looks as it did a moment ago.
+        if (icons[i]->getOpacity() != opacities[i]) {
+            if (last) {
+                setOpacityUnpainted(last, opacityOfLast);
+            }
+            last = icons[i];
+            opacityOfLast = opacities[i];
+        }
+    }
+    // Its repaint paints all that has changed, with one way through the window's other widgets.
+    if (last) {
+        last->setOpacity(opacityOfLast);
     }
 }
 
