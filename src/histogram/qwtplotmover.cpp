@@ -4,6 +4,7 @@
 #include "qwtplotmover.h"
 
 #include "axisperiods_p.h"
+#include "histogramplot_p.h"
 #include "objectname_p.h"
 
 #include <qwt_plot.h>
@@ -46,7 +47,8 @@ public:
     void setView(QwtPlot *plot, int axis, const AxisPeriods::View &view)
     {
         axisPosition[axis] = view.minimum;
-        plot->setAxisScale(axis, view.minimum, view.maximum, plot->axisStepSize(axis));
+        HistogramPlot::setAxisScale(plot, axis, view.minimum, view.maximum,
+                                    plot->axisStepSize(axis));
     }
 
     void showPeriod(QwtPlotMover *mover, int axis, const AxisPeriods::View &view)

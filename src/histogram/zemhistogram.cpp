@@ -4,6 +4,7 @@
 #include "zemhistogram.h"
 
 #include "histogramlayout_p.h"
+#include "histogramplot_p.h"
 #include "objectname_p.h"
 #include "qwtplotmover.h"
 #include "zemhistogramlegend.h"
@@ -28,29 +29,6 @@ namespace {
 
 constexpr int dragThreshold = 5; // pixels
 constexpr int canvasMarginRight = 10; // pixels
-
-/**
- * A plot that is laid out anew whenever it comes into view. What its labels need at the ends of the
- * x axis depends on the width that the axis got, and a hidden plot hears of no such change: it
- * would come up with its ticks and bars beside the canvas.
- */
-class HistogramPlot : public QwtPlot
-{
-public:
-    using QwtPlot::QwtPlot;
-
-protected:
-    void showEvent(QShowEvent *event) override
-    {
-        QwtPlot::showEvent(event);
-        QwtScaleWidget *xScale = axisWidget(QwtPlot::xBottom);
-        int start = 0;
-        int end = 0;
-        xScale->getBorderDistHint(start, end);
-        xScale->setBorderDist(start, end);
-        updateLayout();
-    }
-};
 
 QFont fontOfScale(const QWidget *scale, int pointSize)
 {
@@ -286,7 +264,7 @@ void ZEMHistogram::syncAxis(int axis, QwtPlot *source)
         plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue() + 0.1, step);
         plot->updateAxes();
     }
-    plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue(), step);
+    HistogramPlot::setAxisScale(plot, axis, wanted.minValue(), wanted.maxValue(), step);
     plot->replot();
 }
 

@@ -4,6 +4,7 @@
 #include "zemscaledraw.h"
 
 #include "saturatedint_p.h"
+#include "scaletexts_p.h"
 
 #include <QLocale>
 
@@ -86,9 +87,19 @@ ZEMKWhScaleDraw::ZEMKWhScaleDraw(double)
 
 ZEMKWhScaleDraw::~ZEMKWhScaleDraw() = default;
 
+ScaleTexts::Source ScaleTexts::source(const ZEMKWhScaleDraw &draw)
+{
+    return {QLocale(), QDateTime(), draw.getDigits()};
+}
+
+QString ScaleTexts::text(const ZEMKWhScaleDraw &draw, double value)
+{
+    return QStringLiteral("%L1").arg(value, 0, 'f', draw.getDigits(), QLatin1Char(' '));
+}
+
 QwtText ZEMKWhScaleDraw::label(double value) const
 {
-    return QwtText(QStringLiteral("%L1").arg(value, 0, 'f', getDigits(), QLatin1Char(' ')));
+    return QwtText(ScaleTexts::text(*this, value));
 }
 
 ZEMMonthKWhScaleDraw::ZEMMonthKWhScaleDraw(double unused) : ZEMKWhScaleDraw(unused)
@@ -108,13 +119,23 @@ ZEMDayScaleDraw::ZEMDayScaleDraw()
 
 ZEMDayScaleDraw::~ZEMDayScaleDraw() = default;
 
-QwtText ZEMDayScaleDraw::label(double value) const
+ScaleTexts::Source ScaleTexts::source(const ZEMDayScaleDraw & /*draw*/)
+{
+    return {};
+}
+
+QString ScaleTexts::text(const ZEMDayScaleDraw & /*draw*/, double value)
 {
     int hour = roundedInt(value) % hoursOfDay;
     if (hour < 0) {
         hour += hoursOfDay;
     }
-    return QwtText(QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0')));
+    return QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0'));
+}
+
+QwtText ZEMDayScaleDraw::label(double value) const
+{
+    return QwtText(ScaleTexts::text(*this, value));
 }
 
 class ZEMWeekScaleDraw::Private
@@ -130,10 +151,20 @@ ZEMWeekScaleDraw::ZEMWeekScaleDraw(double shift) : d(new Private {shift})
 
 ZEMWeekScaleDraw::~ZEMWeekScaleDraw() = default;
 
+ScaleTexts::Source ScaleTexts::source(const ZEMWeekScaleDraw & /*draw*/)
+{
+    return {QLocale(), QDateTime(), 0};
+}
+
+QString ScaleTexts::text(const ZEMWeekScaleDraw &draw, double value)
+{
+    const int day = dayOfWeek(roundedInt(value - draw.d->labelShift));
+    return QLocale().dayName(day, QLocale::ShortFormat);
+}
+
 QwtText ZEMWeekScaleDraw::label(double value) const
 {
-    const int day = dayOfWeek(roundedInt(value - d->labelShift));
-    return QwtText(QLocale().dayName(day, QLocale::ShortFormat));
+    return QwtText(ScaleTexts::text(*this, value));
 }
 
 class ZEMMonthScaleDraw::Private
@@ -156,12 +187,22 @@ void ZEMMonthScaleDraw::setStartTimestamp(QDateTime timestamp)
     invalidateCache();
 }
 
-QwtText ZEMMonthScaleDraw::label(double value) const
+ScaleTexts::Source ScaleTexts::source(const ZEMMonthScaleDraw &draw)
 {
-    const qint64 week = roundedInt(value - d->labelShift);
+    return {QLocale(), draw.d->startTimestamp, 0};
+}
+
+QString ScaleTexts::text(const ZEMMonthScaleDraw &draw, double value)
+{
+    const qint64 week = roundedInt(value - draw.d->labelShift);
     // Days are counted on the date: a null timestamp becomes a valid one by counting, a date does
     // not.
-    const QDate date = d->startTimestamp.date().addDays(daysOfWeek * week);
+    const QDate date = draw.d->startTimestamp.date().addDays(daysOfWeek * week);
     const QString text = QLocale().toString(date, QStringLiteral("d MMM"));
-    return QwtText(QStringLiteral("%1").arg(text, 0, QLatin1Char(' ')));
+    return QStringLiteral("%1").arg(text, 0, QLatin1Char(' '));
+}
+
+QwtText ZEMMonthScaleDraw::label(double value) const
+{
+    return QwtText(ScaleTexts::text(*this, value));
 }

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+class ScaleTexts;
+
 /*
  * The scales of the charts. A scale draw given to a plot belongs to it:
  *
@@ -117,6 +119,7 @@ public:
 private:
     Q_DISABLE_COPY(ZEMWeekScaleDraw)
 
+    friend class ScaleTexts;
     class Private;
     std::unique_ptr<Private> d;
 };
@@ -143,6 +146,7 @@ public:
 private:
     Q_DISABLE_COPY(ZEMMonthScaleDraw)
 
+    friend class ScaleTexts;
     class Private;
     std::unique_ptr<Private> d;
 };

@@ -3,11 +3,12 @@
 
 #include "zemsmartdayhistogram.h"
 
+#include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
 #include "zemscaledraw.h"
 
-class ZEMSmartDayHistogram::xDayScaleDraw : public ZEMDayScaleDraw
+class ZEMSmartDayHistogram::xDayScaleDraw : public FastScaleDraw<ZEMDayScaleDraw>
 {
 };
 

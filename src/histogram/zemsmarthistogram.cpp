@@ -3,6 +3,7 @@
 
 #include "zemsmarthistogram.h"
 
+#include "fastscaledraw_p.h"
 #include "histogramlayout_p.h"
 #include "periodaxes_p.h"
 #include "zemhistogramlegend.h"
@@ -17,7 +18,7 @@ ZEMSmartHistogram::~ZEMSmartHistogram() = default;
 
 void ZEMSmartHistogram::initAxisRefine()
 {
-    PeriodAxes::setValueAxis(plot, new ZEMKWhScaleDraw(999.0));
+    PeriodAxes::setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(999.0));
 }
 
 void ZEMSmartHistogram::setLookAndFeel()

@@ -3,33 +3,30 @@
 
 #include "zemsmartmonthhistogram.h"
 
+#include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
 #include "zemscaledraw.h"
 #include "zemscaleengine.h"
 
-class ZEMSmartMonthHistogram::xMonthScaleDraw : public ZEMMonthScaleDraw
+#include <qwt_plot.h>
+
+class ZEMSmartMonthHistogram::xMonthScaleDraw : public FastScaleDraw<ZEMMonthScaleDraw>
 {
 public:
-    using ZEMMonthScaleDraw::ZEMMonthScaleDraw;
+    using FastScaleDraw::FastScaleDraw;
 };
 
-class ZEMSmartMonthHistogram::Private
-{
-public:
-    xMonthScaleDraw *monthScaleDraw = nullptr;
-};
-
-ZEMSmartMonthHistogram::ZEMSmartMonthHistogram(QWidget *parent)
-    : ZEMSmartHistogram(parent), d(new Private)
-{
-}
+ZEMSmartMonthHistogram::ZEMSmartMonthHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }
 
 ZEMSmartMonthHistogram::~ZEMSmartMonthHistogram() = default;
 
 void ZEMSmartMonthHistogram::updateTitle(QwtInterval interval)
 {
-    d->monthScaleDraw->setStartTimestamp(dataChangedTimestamp);
+    // A host may have given the axis labels of its own.
+    if (auto *dates = dynamic_cast<ZEMMonthScaleDraw *>(plot->axisScaleDraw(QwtPlot::xBottom))) {
+        dates->setStartTimestamp(dataChangedTimestamp);
+    }
 
     const Headlines::Range range = Headlines::rangeOfWeeks(dataChangedTimestamp, interval);
     const QString start = Headlines::text(range.start, QStringLiteral("MMMM"));
@@ -55,9 +52,9 @@ void ZEMSmartMonthHistogram::updateTitle(QwtInterval interval)
 void ZEMSmartMonthHistogram::initAxisRefine()
 {
     using namespace PeriodAxes;
-    d->monthScaleDraw = new xMonthScaleDraw(middleOfSlot);
-    setShortTicks(d->monthScaleDraw, {0.0, 5.0, 0.0});
-    setXAxis(plot, d->monthScaleDraw, new ZEMScaleEngine(middleOfSlot), {5.0, 1.0, 5, 2});
-    setValueAxis(plot, new ZEMMonthKWhScaleDraw(999.0));
+    auto *dates = new xMonthScaleDraw(middleOfSlot);
+    setShortTicks(dates, {0.0, 5.0, 0.0});
+    setXAxis(plot, dates, new ZEMScaleEngine(middleOfSlot), {5.0, 1.0, 5, 2});
+    setValueAxis(plot, new FastScaleDraw<ZEMMonthKWhScaleDraw>(999.0));
     setValueAxisTitle(plot, yAxisText);
 }

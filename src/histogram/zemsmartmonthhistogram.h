@@ -22,16 +22,13 @@ public:
 
     /**
      * The months in view: "maart", "maart / april" for two, "februari t/m april" for more. Words
-     * the child's headline too, and dates the labels anew. Must not be called before init().
+     * the child's headline too, and dates the labels of a ZEMMonthScaleDraw anew.
      */
     void updateTitle(QwtInterval interval) override;
     void initAxisRefine() override;
 
 private:
     Q_DISABLE_COPY(ZEMSmartMonthHistogram)
-
-    class Private;
-    std::unique_ptr<Private> d;
 };
 
 #endif

@@ -3,15 +3,16 @@
 
 #include "zemsmartweekhistogram.h"
 
+#include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
 #include "zemscaledraw.h"
 #include "zemscaleengine.h"
 
-class ZEMSmartWeekHistogram::xWeekScaleDraw : public ZEMWeekScaleDraw
+class ZEMSmartWeekHistogram::xWeekScaleDraw : public FastScaleDraw<ZEMWeekScaleDraw>
 {
 public:
-    using ZEMWeekScaleDraw::ZEMWeekScaleDraw;
+    using FastScaleDraw::FastScaleDraw;
 };
 
 ZEMSmartWeekHistogram::ZEMSmartWeekHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }

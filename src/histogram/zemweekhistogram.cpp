@@ -3,6 +3,7 @@
 
 #include "zemweekhistogram.h"
 
+#include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
 #include "zemscaledraw.h"
@@ -24,8 +25,8 @@ void ZEMWeekHistogram::updateTitle(QwtInterval interval)
 void ZEMWeekHistogram::initAxisRefine()
 {
     using namespace PeriodAxes;
-    setXAxis(plot, new ZEMWeekScaleDraw(middleOfSlot), new ZEMScaleEngine(middleOfSlot),
-             {7.0, 1.0, 7, 2});
-    setValueAxis(plot, new ZEMKWhScaleDraw(999.0));
+    setXAxis(plot, new FastScaleDraw<ZEMWeekScaleDraw>(middleOfSlot),
+             new ZEMScaleEngine(middleOfSlot), {7.0, 1.0, 7, 2});
+    setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(999.0));
     setValueAxisTitle(plot, yAxisText);
 }

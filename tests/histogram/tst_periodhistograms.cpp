@@ -64,6 +64,7 @@ private Q_SLOTS:
     void monthChartUpdatesItsChild();
     void otherChartsDoNotUpdateTheirChild();
     void timestampMovesTheMonthLabels();
+    void monthChartGetsAlongWithLabelsOfTheHost();
 };
 
 static QDateTime midnight(int year, int month, int day)
@@ -541,6 +542,17 @@ void tst_PeriodHistograms::timestampMovesTheMonthLabels()
     chart.setDataChangedTimestamp(midnight(2016, 3, 14));
     QCOMPARE(draw->label(0.5).text(), dutch().toString(QDate(2016, 3, 14), "d MMM"));
     QCOMPARE(draw->label(-0.5).text(), dutch().toString(QDate(2016, 3, 7), "d MMM"));
+}
+
+void tst_PeriodHistograms::monthChartGetsAlongWithLabelsOfTheHost()
+{
+    ZEMSmartMonthHistogram chart;
+    chart.init();
+    plotOf(&chart)->setAxisScaleDraw(QwtPlot::xBottom, new QwtScaleDraw);
+    chart.setDataChangedTimestamp(midnight(2016, 3, 7));
+    QCOMPARE(chart.title(), QStringLiteral("maart / april"));
+    QCOMPARE(plotOf(&chart)->axisScaleDraw(QwtPlot::xBottom)->label(2.0).text(),
+             QStringLiteral("2"));
 }
 
 QTEST_MAIN(tst_PeriodHistograms)

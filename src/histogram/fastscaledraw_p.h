@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FASTSCALEDRAW_P_H
+#define FASTSCALEDRAW_P_H
+
+#include "chartshortcuts_p.h"
+#include "scalelabels_p.h"
+#include "scaletexts_p.h"
+
+#include <QFont>
+#include <QHash>
+#include <QPainter>
+#include <QPen>
+#include <QRect>
+#include <QRectF>
+
+#include <qwt_painter.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
+#include <qwt_text.h>
+
+#include <optional>
+
+namespace FastScale {
+
+/** True when @p painter only moves what it draws, so that pixels stay pixels. */
+inline bool keepsPixels(QPainter *painter)
+{
+    return QwtPainter::roundingAlignment(painter)
+        && painter->deviceTransform().type() <= QTransform::TxTranslate
+        && !painter->testRenderHint(QPainter::Antialiasing);
+}
+
+/** The pixels of a thin tick at @p value; nothing for what has to be drawn as a line. */
+inline std::optional<QRect> tickRect(const QwtScaleDraw &draw, double value, double length)
+{
+    // A line with flat ends leaves out one of its ends.
+    const int position = qRound(draw.scaleMap().transform(value));
+    switch (draw.alignment()) {
+    case QwtScaleDraw::LeftScale: {
+        const int from = qRound(draw.pos().x() - length);
+        return QRect(from, position, qRound(draw.pos().x()) - from, 1);
+    }
+    case QwtScaleDraw::BottomScale: {
+        const int from = qRound(draw.pos().y());
+        return QRect(position, from, 1, qRound(draw.pos().y() + length) - from);
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace FastScale
+
+/**
+ * A scale draw that shows just what @p Base shows, and measures and paints it with remembered
+ * labels. Its ticks are filled: stroking a line of five pixels takes several times as long.
+ */
+template <typename Base>
+class FastScaleDraw : public Base, public LabelledScale
+{
+public:
+    using Base::Base;
+
+    QwtText label(double value) const override { return isSilent ? QwtText() : Base::label(value); }
+
+    const ScaleLabels::Label *findLabel(double value, const QFont &font) const override
+    {
+        const ScaleTexts::Source now = ScaleTexts::source(*this);
+        if (!(now == source) || texts.size() > mostTexts) {
+            source = now;
+            texts.clear();
+        }
+        QString &text = texts[value];
+        if (text.isNull()) {
+            text = ScaleTexts::text(*this, value);
+        }
+        return labels.find(text, font);
+    }
+
+    void setSilent(bool silent) override
+    {
+        isSilent = silent;
+        // Qwt keeps what label() answered.
+        this->invalidateCache();
+    }
+
+    double extent(const QFont &font) const override
+    {
+        std::optional<double> measured;
+        if (ChartShortcuts::areEnabled()) {
+            measured = ScaleMeasure(*this, this, font).extent();
+        }
+        return measured ? *measured : Base::extent(font);
+    }
+
+protected:
+    void drawLabel(QPainter *painter, double value) const override
+    {
+        const bool isQuick = ChartShortcuts::areEnabled() && this->labelRotation() == 0.0
+            && painter->deviceTransform().type() <= QTransform::TxTranslate;
+        const ScaleLabels::Label *label = isQuick ? findLabel(value, painter->font()) : nullptr;
+        if (!label) {
+            Base::drawLabel(painter, value);
+            return;
+        }
+        const QRectF room =
+            label->room.translated(labelCorner(*this, this->labelPosition(value), label->size));
+        if (label->isCut) {
+            painter->save();
+            painter->setClipRect(room, Qt::IntersectClip);
+        }
+        painter->drawStaticText(room.topLeft(), label->glyphs);
+        if (label->isCut) {
+            painter->restore();
+        }
+    }
+
+    void drawTick(QPainter *painter, double value, double length) const override
+    {
+        const bool isThin = this->penWidth() == 0 && painter->pen().style() == Qt::SolidLine;
+        if (ChartShortcuts::areEnabled() && isThin && FastScale::keepsPixels(painter)) {
+            if (const auto rect = FastScale::tickRect(*this, value, length)) {
+                painter->fillRect(*rect, painter->pen().color());
+                return;
+            }
+        }
+        Base::drawTick(painter, value, length);
+    }
+
+private:
+    static constexpr int mostTexts = 100;
+
+    mutable ScaleLabels labels;
+    mutable ScaleTexts::Source source;
+    mutable QHash<double, QString> texts;
+    bool isSilent = false;
+};
+
+#endif

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "histogramplot_p.h"
+
+#include "chartshortcuts_p.h"
+#include "scalelabels_p.h"
+
+#include <QApplication>
+
+#include <qwt_plot_canvas.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_engine.h>
+#include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+ScaleBorders bordersOf(const QwtScaleWidget *widget)
+{
+    return {widget->startBorderDist(), widget->endBorderDist()};
+}
+
+ScaleBorders larger(const ScaleBorders &a, const ScaleBorders &b)
+{
+    return {std::max(a.start, b.start), std::max(a.end, b.end)};
+}
+
+/** As QwtScaleWidget::getBorderDistHint(). */
+std::optional<ScaleBorders> wantedBorders(const QwtScaleWidget *widget, const ScaleMeasure &measure)
+{
+    const auto hint = measure.borders();
+    if (!hint) {
+        return std::nullopt;
+    }
+    ScaleBorders least;
+    widget->getMinBorderDist(least.start, least.end);
+    return larger(*hint, least);
+}
+
+/**
+ * Makes a scale widget ask for given borders without measuring its labels, for as long as this
+ * lives.
+ */
+class FixedBorders
+{
+public:
+    FixedBorders(QwtScaleWidget *quietWidget, const ScaleBorders &borders)
+        : widget(quietWidget),
+          hadLabels(quietWidget->scaleDraw()->hasComponent(QwtAbstractScaleDraw::Labels))
+    {
+        // A scale without labels asks for a pixel at its end.
+        if (hadLabels && borders.end == 0) {
+            silent = dynamic_cast<LabelledScale *>(widget->scaleDraw());
+        }
+        widget->getMinBorderDist(least.start, least.end);
+        widget->setMinBorderDist(borders.start, borders.end);
+        if (silent) {
+            silent->setSilent(true);
+        } else {
+            widget->scaleDraw()->enableComponent(QwtAbstractScaleDraw::Labels, false);
+        }
+    }
+
+    ~FixedBorders()
+    {
+        if (silent) {
+            silent->setSilent(false);
+        } else {
+            widget->scaleDraw()->enableComponent(QwtAbstractScaleDraw::Labels, hadLabels);
+        }
+        widget->setMinBorderDist(least.start, least.end);
+    }
+
+private:
+    Q_DISABLE_COPY(FixedBorders)
+
+    QwtScaleWidget *widget;
+    LabelledScale *silent = nullptr;
+    bool hadLabels;
+    ScaleBorders least;
+};
+
+} // namespace
+
+bool HistogramPlot::HiddenAxis::operator==(const HiddenAxis &other) const
+{
+    return paintStart == other.paintStart && paintEnd == other.paintEnd && scale == other.scale
+        && font == other.font;
+}
+
+bool HistogramPlot::LayoutInput::operator==(const LayoutInput &other) const
+{
+    return settings == other.settings && extents == other.extents;
+}
+
+HistogramPlot::LayoutInput HistogramPlot::currentLayoutInput() const
+{
+    LayoutInput input;
+    input.settings = HistogramLayout::settingsOf(this);
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        if (axisEnabled(axis)) {
+            input.extents[axis] = axisScaleDraw(axis)->extent(axisWidget(axis)->font());
+        }
+    }
+    return input;
+}
+
+void HistogramPlot::setAxisScale(QwtPlot *plot, int axis, double minimum, double maximum,
+                                 double step)
+{
+    plot->setAxisScale(axis, minimum, maximum, step);
+    // A plot that replots on its own has done so already.
+    if (ChartShortcuts::areEnabled() && !plot->autoReplot()
+        && dynamic_cast<HistogramPlot *>(plot)) {
+        plot->setAxisScaleDiv(
+            axis,
+            plot->axisScaleEngine(axis)->divideScale(minimum, maximum, plot->axisMaxMajor(axis),
+                                                     plot->axisMaxMinor(axis), step));
+    }
+}
+
+void HistogramPlot::replot()
+{
+    if (!ChartShortcuts::areEnabled()) {
+        QwtPlot::replot();
+        return;
+    }
+    const bool replotsOnItsOwn = autoReplot();
+    setAutoReplot(false);
+    if (!updateAxesQuickly()) {
+        updateAxes();
+    }
+    // Axes and canvas must be in step before they are painted.
+    QApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+    replotCanvas();
+    setAutoReplot(replotsOnItsOwn);
+}
+
+void HistogramPlot::showEvent(QShowEvent *event)
+{
+    QwtPlot::showEvent(event);
+    QwtScaleWidget *xScale = axisWidget(xBottom);
+    int start = 0;
+    int end = 0;
+    xScale->getBorderDistHint(start, end);
+    xScale->setBorderDist(start, end);
+    updateLayout();
+}
+
+/** Does what updateAxes() does; answers false when that must still be called. */
+bool HistogramPlot::updateAxesQuickly()
+{
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        if (axis != xBottom && !hasOldBorders(axis)) {
+            return false;
+        }
+    }
+    if (!moveXAxis()) {
+        return false;
+    }
+
+    std::array<DrawnScale, axisCnt> before;
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        before[axis] = drawnScale(axis);
+    }
+    {
+        const auto fixed = [this](int axis) {
+            return FixedBorders(axisWidget(axis), bordersOf(axisWidget(axis)));
+        };
+        const std::array<FixedBorders, axisCnt> quiet {fixed(yLeft), fixed(yRight), fixed(xBottom),
+                                                       fixed(xTop)};
+        updateAxes();
+    }
+    // An axis that somebody has given another scale has moved with its old borders.
+    bool isDone = true;
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        if (axisScaleDraw(axis)->scaleDiv() != before[axis].scale) {
+            restore(axis, before[axis]);
+            isDone = false;
+        }
+    }
+    return isDone;
+}
+
+/** True when an axis asks for the borders that it has. */
+bool HistogramPlot::hasOldBorders(int axis)
+{
+    const QwtScaleWidget *widget = axisWidget(axis);
+    const QwtScaleDraw *draw = widget->scaleDraw();
+    if (axisEnabled(axis)) {
+        const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw),
+                                   widget->font());
+        return wantedBorders(widget, measure) == bordersOf(widget);
+    }
+    const HiddenAxis now {widget->font(), draw->scaleDiv(), draw->scaleMap().p1(),
+                          draw->scaleMap().p2()};
+    const bool isUnchanged = now == hiddenAxes[axis];
+    hiddenAxes[axis] = now;
+    return isUnchanged;
+}
+
+/**
+ * Gives the x axis its new scale as QwtScaleWidget::setScaleDiv() and updateAxes() do it, step by
+ * step: its borders depend on where it is drawn, and that on its borders. Answers false, with
+ * nothing changed, when that is left to them.
+ */
+bool HistogramPlot::moveXAxis()
+{
+    QwtScaleWidget *widget = axisWidget(xBottom);
+    QwtScaleDraw *draw = widget->scaleDraw();
+    if (!axisEnabled(xBottom) || widget->isColorBarEnabled() || !widget->title().isEmpty()) {
+        return false;
+    }
+    const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), widget->font());
+    const DrawnScale before = drawnScale(xBottom);
+    const ScaleBorders borders = bordersOf(widget);
+    if (axisScaleDiv(xBottom) != before.scale) {
+        draw->setScaleDiv(axisScaleDiv(xBottom));
+        const auto hint = wantedBorders(widget, measure);
+        if (!hint) {
+            restore(xBottom, before);
+            return false;
+        }
+        const ScaleBorders room = larger(*hint, borders);
+        const QRectF contents = widget->contentsRect();
+        draw->move(contents.left() + room.start, contents.top() + widget->margin());
+        draw->setLength(contents.width() - (room.start + room.end));
+        // QwtScaleWidget asks for a new layout with every scale.
+        const LayoutInput input = currentLayoutInput();
+        if (!(input == layoutInput)) {
+            layoutInput = input;
+            widget->updateGeometry();
+        }
+        widget->update();
+        Q_EMIT widget->scaleDivChanged();
+    }
+    const auto wanted = wantedBorders(widget, measure);
+    if (!wanted) {
+        return false;
+    }
+    if (!(*wanted == borders)) {
+        const FixedBorders fixed(widget, *wanted);
+        widget->setBorderDist(wanted->start, wanted->end);
+    }
+    return true;
+}
+
+HistogramPlot::DrawnScale HistogramPlot::drawnScale(int axis) const
+{
+    const QwtScaleDraw *draw = axisScaleDraw(axis);
+    return {draw->scaleDiv(), draw->pos(), draw->length()};
+}
+
+void HistogramPlot::restore(int axis, const DrawnScale &drawn)
+{
+    QwtScaleDraw *draw = axisScaleDraw(axis);
+    draw->setScaleDiv(drawn.scale);
+    draw->setLength(drawn.length);
+    draw->move(drawn.position);
+}
+
+void HistogramPlot::replotCanvas()
+{
+    if (auto *plotCanvas = qobject_cast<QwtPlotCanvas *>(canvas())) {
+        plotCanvas->replot();
+    } else if (canvas() && !QMetaObject::invokeMethod(canvas(), "replot", Qt::DirectConnection)) {
+        canvas()->update(canvas()->contentsRect());
+    }
+}

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SCALELABELS_P_H
+#define SCALELABELS_P_H
+
+#include <QFont>
+#include <QHash>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QStaticText>
+#include <QString>
+
+#include <optional>
+
+#include <qwt_scale_draw.h>
+
+/**
+ * Remembers how large the texts of a scale are in a font, and their glyphs. Qwt asks for a size
+ * again and again, and each answer writes the font out as a text; Qt shapes a text again for each
+ * time that it is drawn.
+ *
+ * It depends on nothing but text and font, so there is nothing to invalidate.
+ */
+class ScaleLabels
+{
+public:
+    struct Label
+    {
+        QSizeF size; ///< as of QwtText::textSize() with the minimum layout
+        QRectF room; ///< what Qwt lets the text be drawn in, from the corner of the label
+        bool isCut; ///< the text does not fit into its room
+        QStaticText glyphs;
+    };
+
+    /** Null for a text that is not drawn by Qwt's own engine of plain texts. */
+    const Label *find(const QString &text, const QFont &font);
+
+private:
+    QFont usedFont;
+    QHash<QString, Label> labels;
+};
+
+/** The distances of a scale's ends from the edges of its widget, in pixels. */
+struct ScaleBorders
+{
+    int start = 0;
+    int end = 0;
+
+    bool operator==(const ScaleBorders &other) const
+    {
+        return start == other.start && end == other.end;
+    }
+};
+
+/** A scale draw that remembers its labels. */
+class LabelledScale
+{
+public:
+    virtual const ScaleLabels::Label *findLabel(double value, const QFont &font) const = 0;
+    /** Empty labels for as long as it is silent, which spares measuring them. */
+    virtual void setSilent(bool silent) = 0;
+
+protected:
+    ~LabelledScale() = default;
+};
+
+/**
+ * The top left corner of a label of @p size that belongs to @p position, as @p draw aligns its
+ * labels. Without rotation.
+ */
+QPointF labelCorner(const QwtScaleDraw &draw, const QPointF &position, const QSizeF &size);
+
+/**
+ * Measures a scale draw as Qwt does, with the labels that it has now. Nothing is answered where
+ * only Qwt can tell: for rotated labels, and for those that are no plain texts.
+ */
+class ScaleMeasure
+{
+public:
+    /** @p labelled is @p draw itself, or null for one that is not the library's own. */
+    ScaleMeasure(const QwtScaleDraw &measuredDraw, const LabelledScale *ownDraw,
+                 const QFont &usedFont)
+        : draw(measuredDraw), labelled(ownDraw), font(usedFont)
+    {
+    }
+
+    /** As QwtScaleDraw::extent(). */
+    std::optional<double> extent() const;
+    /** As QwtScaleDraw::getBorderDistHint(). */
+    std::optional<ScaleBorders> borders() const;
+
+private:
+    bool canMeasureLabels() const { return labelled && draw.labelRotation() == 0.0; }
+    std::optional<QRectF> labelRect(double value) const;
+
+    const QwtScaleDraw &draw;
+    const LabelledScale *labelled;
+    const QFont &font;
+};
+
+#endif
