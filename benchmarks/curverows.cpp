@@ -1,19 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-// Does finding the point under a finger cost more the longer the curve is? Taps at the same places
-// on a curve of a day and on one of sixty days, two samples to each unit of x, in turn, in one run,
-// and prints what a round of them costs and the ratio of the two. Both plots show the last day of
-// their curve, so that the long one is searched far from its start.
-//
-// Ends with 1 if a ratio is above the goal, or a tap does not find its sample.
+#include "curverows.h"
 
 #include "benchmark.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QTextStream>
 #include <ZEMPlot>
 #include <ZEMPlotStyler>
 #include <ZEMQwtPlotCurvePointGetter>
@@ -33,7 +26,7 @@ constexpr double samplesPerUnit = 2.0;
 constexpr double unitsOfDay = samplesOfDay / samplesPerUnit;
 constexpr double level = 50.0;
 constexpr int tapsPerRound = 500;
-constexpr int rounds = 301;
+constexpr int rounds = 101;
 constexpr double goal = 1.1;
 
 class PlainStyler final : public ZEMPlotStyler
@@ -66,10 +59,10 @@ public:
         plot->resize(640, 480);
         plot->show();
         plot->replot();
-        QCoreApplication::processEvents();
+        Benchmark::settle();
     }
 
-    /** Nanoseconds of a round of taps, each from a place in the shown day to the found point. */
+    /** Nanoseconds of a tap, from a place in the shown day to the found point. */
     double tapRound(const std::vector<double> &places)
     {
         return timed(places, [this](double place) {
@@ -87,27 +80,30 @@ public:
         });
     }
 
-    /** Whether all searches have found a sample, and those of now find the right one. */
-    bool isRight(const std::vector<double> &places) const
+    /** Ends the program when a tap does not find its sample: its cost would mean nothing. */
+    void check(const std::vector<double> &places) const
     {
-        return foundAll && std::all_of(places.begin(), places.end(), [this](double place) {
-                   const auto point = getter->getCurvePoint(QPointF(start + place, level));
-                   constexpr double unitsOfTwoPixels = 2.5;
-                   return point.valid
-                       && std::abs(point.point.x() - start - place) < unitsOfTwoPixels;
-               });
+        constexpr double unitsOfTwoPixels = 2.5;
+        for (const double place : places) {
+            const auto found = getter->getCurvePoint(QPointF(start + place, level));
+            if (!found.valid || std::abs(found.point.x() - start - place) >= unitsOfTwoPixels) {
+                qFatal("no sample is found at %f", start + place);
+            }
+        }
     }
 
 private:
     template <typename Search>
-    double timed(const std::vector<double> &places, Search search)
+    static double timed(const std::vector<double> &places, Search search)
     {
         QElapsedTimer timer;
         timer.start();
         const auto found = std::count_if(places.begin(), places.end(), search);
         const auto elapsed = static_cast<double>(timer.nsecsElapsed());
-        foundAll = foundAll && found == static_cast<std::ptrdiff_t>(places.size());
-        return elapsed;
+        if (found != static_cast<std::ptrdiff_t>(places.size())) {
+            qFatal("a search has found no sample");
+        }
+        return elapsed / tapsPerRound;
     }
 
     PlainStyler styler;
@@ -115,19 +111,7 @@ private:
     std::unique_ptr<ZEMPlot> plot;
     QwtPlotCurve *curve;
     double start; // x of the left end of the plot
-    bool foundAll = true;
 };
-
-/** Compares the two curves and prints a row; returns the ratio of sixty days to one. */
-template <typename Round>
-double compare(const QString &name, Round round, TappedPlot &day, TappedPlot &sixtyDays,
-               QTextStream &out)
-{
-    const Benchmark::Comparison comparison = Benchmark::compareInTurn(
-        rounds, [&] { return round(day); }, [&] { return round(sixtyDays); });
-    Benchmark::printRow(out, name, comparison);
-    return comparison.ratio;
-}
 
 /** Where in a day it is tapped, in units of x; not behind the last sample. */
 std::vector<double> tapPlaces()
@@ -139,32 +123,33 @@ std::vector<double> tapPlaces()
     return places;
 }
 
+using Search = double (TappedPlot::*)(const std::vector<double> &);
+
+BenchTable::Row searchRow(const char *key, const char *work, Search search)
+{
+    const auto contender = [search](int samples) -> BenchTable::Contender {
+        return {QStringLiteral("%1 points").arg(samples), [search, samples]() -> BenchTable::Round {
+                    const auto plot = std::make_shared<TappedPlot>(samples);
+                    const std::vector<double> places = tapPlaces();
+                    plot->check(places);
+                    return [plot, places, search] { return (plot.get()->*search)(places); };
+                }};
+    };
+    const BenchTable::Contender day = contender(samplesOfDay);
+    return {QString::fromLatin1(key),
+            QString::fromLatin1(work),
+            tapsPerRound,
+            rounds,
+            {contender(samplesOfSixtyDays), day},
+            {{day.name, goal, goal}}};
+}
+
 } // namespace
 
-int main(int argc, char *argv[])
+std::vector<BenchTable::Row> curveRows()
 {
-    Benchmark::needNoScreen();
-    const QApplication application(argc, argv);
-    QTextStream out(stdout);
-    out << QStringLiteral("%1 searches in turn, medians of %2 rounds; goal: ratio <= %3\n")
-               .arg(tapsPerRound)
-               .arg(rounds)
-               .arg(goal);
-    Benchmark::printHeading(out, QStringLiteral("search"),
-                            QStringLiteral("%1 pts").arg(samplesOfDay),
-                            QStringLiteral("%1 pts").arg(samplesOfSixtyDays));
-    TappedPlot day(samplesOfDay);
-    TappedPlot sixtyDays(samplesOfSixtyDays);
-    const std::vector<double> places = tapPlaces();
-    const double tapped = compare(
-        QStringLiteral("tap"), [&places](TappedPlot &plot) { return plot.tapRound(places); }, day,
-        sixtyDays, out);
-    const double searched = compare(
-        QStringLiteral("closestPoint"),
-        [&places](TappedPlot &plot) { return plot.searchRound(places); }, day, sixtyDays, out);
-    if (!day.isRight(places) || !sixtyDays.isRight(places)) {
-        out << QStringLiteral("A search did not find its sample.\n");
-        return 1;
-    }
-    return std::max(tapped, searched) <= goal ? 0 : 1;
+    return {
+        searchRow("tap", "The curve point of a tap", &TappedPlot::tapRound),
+        searchRow("closest-point", "The closest point of a curve", &TappedPlot::searchRound),
+    };
 }

@@ -1,26 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-// Does a page move cost more the longer the list is? Pages to and fro, in turn and in one run, in a
-// list of 20 rows and in one of 100,000, and prints what a step costs and the ratio of the two: for
-// lists and for tables, between the first two pages and between the last two.
-//
-// Ends with 1 if a ratio is above the goal.
+#include "listrows.h"
 
 #include "benchmark.h"
 
 #include <QAbstractTableModel>
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QListView>
 #include <QTableView>
-#include <QTextStream>
 #include <ZEMListViewLogic>
 #include <ZEMTableViewLogic>
 
-#include <algorithm>
-#include <iterator>
+#include <memory>
 
 namespace {
 
@@ -30,7 +23,7 @@ constexpr int longLength = 100000;
 constexpr int rowHeight = 40; // pixels
 constexpr int viewWidth = 300; // pixels
 constexpr int stepsPerRound = 40;
-constexpr int rounds = 301;
+constexpr int rounds = 101;
 constexpr double goal = 1.1;
 
 /** Rows that all look the same, so that a page costs the same to paint wherever it lies. */
@@ -86,7 +79,7 @@ public:
         pages->setModel(&model);
         view.show();
         pages->setIndex(atTop ? 0 : count - rowsPerPage);
-        QCoreApplication::processEvents();
+        Benchmark::settle();
     }
 
     /** Nanoseconds of one step, from the page move to the finished picture. */
@@ -97,7 +90,7 @@ public:
         for (int step = 0; step < stepsPerRound; ++step) {
             const bool goesOn = (step % 2 == 0) == atTop;
             goesOn ? pages->page_next() : pages->page_previous();
-            QCoreApplication::processEvents();
+            Benchmark::settle();
         }
         return double(timer.nsecsElapsed()) / stepsPerRound;
     }
@@ -109,38 +102,32 @@ private:
     bool atTop;
 };
 
-/** Compares a short and a long list and prints a row; returns the ratio of long to short. */
 template <typename View, typename Logic>
-double compare(const QString &name, Place place, QTextStream &out)
+BenchTable::Row pageRow(const char *key, const char *work, Place place)
 {
-    PagedRows<View, Logic> shortRows(shortLength, place);
-    PagedRows<View, Logic> longRows(longLength, place);
-    const Benchmark::Comparison comparison = Benchmark::compareInTurn(
-        rounds, [&shortRows] { return shortRows.pageRound(); },
-        [&longRows] { return longRows.pageRound(); });
-    Benchmark::printRow(out, name, comparison);
-    return comparison.ratio;
+    const auto contender = [place](int count) -> BenchTable::Contender {
+        return {QStringLiteral("%1 rows").arg(count), [place, count]() -> BenchTable::Round {
+                    const auto pages = std::make_shared<PagedRows<View, Logic>>(count, place);
+                    return [pages] { return pages->pageRound(); };
+                }};
+    };
+    const BenchTable::Contender few = contender(shortLength);
+    return {QString::fromLatin1(key),
+            QStringLiteral("A page move, ") + QString::fromLatin1(work),
+            stepsPerRound,
+            rounds,
+            {contender(longLength), few},
+            {{few.name, goal, goal}}};
 }
 
 } // namespace
 
-int main(int argc, char *argv[])
+std::vector<BenchTable::Row> listRows()
 {
-    Benchmark::needNoScreen();
-    const QApplication application(argc, argv);
-    QTextStream out(stdout);
-    out << QStringLiteral("A page move of %1 rows, medians of %2 rounds; goal: ratio <= %3\n")
-               .arg(rowsPerPage)
-               .arg(rounds)
-               .arg(goal);
-    Benchmark::printHeading(out, QStringLiteral("pages"),
-                            QStringLiteral("%1 rows").arg(shortLength),
-                            QStringLiteral("%1 rows").arg(longLength));
-    const auto list = compare<QListView, ZEMListViewLogic>;
-    const auto table = compare<QTableView, ZEMTableViewLogic>;
-    const double ratios[] = {list(QStringLiteral("list, first"), Place::Top, out),
-                             list(QStringLiteral("list, last"), Place::End, out),
-                             table(QStringLiteral("table, first"), Place::Top, out),
-                             table(QStringLiteral("table, last"), Place::End, out)};
-    return *std::max_element(std::begin(ratios), std::end(ratios)) <= goal ? 0 : 1;
+    return {
+        pageRow<QListView, ZEMListViewLogic>("list-top", "list at its top", Place::Top),
+        pageRow<QListView, ZEMListViewLogic>("list-end", "list at its end", Place::End),
+        pageRow<QTableView, ZEMTableViewLogic>("table-top", "table at its top", Place::Top),
+        pageRow<QTableView, ZEMTableViewLogic>("table-end", "table at its end", Place::End),
+    };
 }
