@@ -176,7 +176,7 @@ void tst_KeyTouch::keysThatDrawTheirOwnLook()
     QVERIFY(QTest::qWaitForWindowExposed(&host));
     settle();
 
-    auto *key = keyboard->findChild<OwnKey *>();
+    auto *key = keyboard->findChild<QStackedWidget *>()->findChild<ZEMVirtualKey *>();
     const QPoint place = key->mapTo(&host, QPoint(1, 1));
     QCOMPARE(screenOf(host).pixelColor(place), QColor(Qt::blue));
     ZemTest::press(key, {5, 5});
