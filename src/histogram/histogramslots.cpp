@@ -23,7 +23,10 @@ void HistogramSlots::resize(int count)
 {
     const int before = samples.size();
     const int bar = before > 0 ? nearestBar.last() : -1;
+    // A vector that grows by itself takes up to twice the room.
+    samples.reserve(count);
     samples.resize(count);
+    nearestBar.reserve(count);
     nearestBar.resize(count);
     for (int k = before; k < count; ++k) {
         nearestBar[k] = bar;
