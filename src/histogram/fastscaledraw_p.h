@@ -76,7 +76,7 @@ public:
         if (text.isNull()) {
             text = ScaleTexts::text(*this, value);
         }
-        return labels.find(text, font);
+        return ScaleLabels::find(text, font);
     }
 
     void setSilent(bool silent) override
@@ -132,7 +132,6 @@ protected:
 private:
     static constexpr int mostTexts = 100;
 
-    mutable ScaleLabels labels;
     mutable ScaleTexts::Source source;
     mutable QHash<double, QString> texts;
     bool isSilent = false;

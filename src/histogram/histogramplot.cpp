@@ -4,9 +4,11 @@
 #include "histogramplot_p.h"
 
 #include "chartshortcuts_p.h"
+#include "quietaxes_p.h"
 #include "scalelabels_p.h"
 
 #include <QApplication>
+#include <QResizeEvent>
 
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_draw.h>
@@ -86,10 +88,15 @@ private:
 
 } // namespace
 
-bool HistogramPlot::HiddenAxis::operator==(const HiddenAxis &other) const
+HistogramPlot *HistogramPlot::newPlot(QWidget *parent)
 {
-    return paintStart == other.paintStart && paintEnd == other.paintEnd && scale == other.scale
-        && font == other.font;
+    const QuietBirth quiet(parent);
+    auto *plot = new HistogramPlot(parent);
+    if (ChartShortcuts::areEnabled()) {
+        plot->isUnmeasured[yRight] = true;
+        plot->isUnmeasured[xTop] = true;
+    }
+    return plot;
 }
 
 bool HistogramPlot::LayoutInput::operator==(const LayoutInput &other) const
@@ -132,12 +139,30 @@ void HistogramPlot::replot()
     const bool replotsOnItsOwn = autoReplot();
     setAutoReplot(false);
     if (!updateAxesQuickly()) {
-        updateAxes();
+        updateAxesMeasuring(Measured::Visible);
     }
     // Axes and canvas must be in step before they are painted.
     QApplication::sendPostedEvents(this, QEvent::LayoutRequest);
     replotCanvas();
     setAutoReplot(replotsOnItsOwn);
+}
+
+void HistogramPlot::updateLayout()
+{
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        if (isUnmeasured[axis] && axisEnabled(axis)) {
+            isUnmeasured[axis] = false;
+            QwtScaleWidget *widget = axisWidget(axis);
+            // Lets the widget lay out its scale with the labels that it has now.
+            QResizeEvent resize(widget->size(), widget->size());
+            QCoreApplication::sendEvent(widget, &resize);
+            int start = 0;
+            int end = 0;
+            widget->getBorderDistHint(start, end);
+            widget->setBorderDist(start, end);
+        }
+    }
+    QwtPlot::updateLayout();
 }
 
 void HistogramPlot::showEvent(QShowEvent *event)
@@ -155,7 +180,7 @@ void HistogramPlot::showEvent(QShowEvent *event)
 bool HistogramPlot::updateAxesQuickly()
 {
     for (int axis = 0; axis < axisCnt; ++axis) {
-        if (axis != xBottom && !hasOldBorders(axis)) {
+        if (axis != xBottom && axisEnabled(axis) && !hasOldBorders(axis)) {
             return false;
         }
     }
@@ -167,14 +192,7 @@ bool HistogramPlot::updateAxesQuickly()
     for (int axis = 0; axis < axisCnt; ++axis) {
         before[axis] = drawnScale(axis);
     }
-    {
-        const auto fixed = [this](int axis) {
-            return FixedBorders(axisWidget(axis), bordersOf(axisWidget(axis)));
-        };
-        const std::array<FixedBorders, axisCnt> quiet {fixed(yLeft), fixed(yRight), fixed(xBottom),
-                                                       fixed(xTop)};
-        updateAxes();
-    }
+    updateAxesMeasuring(Measured::None);
     // An axis that somebody has given another scale has moved with its old borders.
     bool isDone = true;
     for (int axis = 0; axis < axisCnt; ++axis) {
@@ -186,21 +204,26 @@ bool HistogramPlot::updateAxesQuickly()
     return isDone;
 }
 
+/** As updateAxes(); the axes that are not measured keep their borders. */
+void HistogramPlot::updateAxesMeasuring(Measured which)
+{
+    std::array<std::optional<FixedBorders>, axisCnt> fixed;
+    for (int axis = 0; axis < axisCnt; ++axis) {
+        if (which == Measured::None || !axisEnabled(axis)) {
+            fixed[axis].emplace(axisWidget(axis), bordersOf(axisWidget(axis)));
+        }
+        isUnmeasured[axis] = isUnmeasured[axis] || !axisEnabled(axis);
+    }
+    updateAxes();
+}
+
 /** True when an axis asks for the borders that it has. */
-bool HistogramPlot::hasOldBorders(int axis)
+bool HistogramPlot::hasOldBorders(int axis) const
 {
     const QwtScaleWidget *widget = axisWidget(axis);
     const QwtScaleDraw *draw = widget->scaleDraw();
-    if (axisEnabled(axis)) {
-        const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw),
-                                   widget->font());
-        return wantedBorders(widget, measure) == bordersOf(widget);
-    }
-    const HiddenAxis now {widget->font(), draw->scaleDiv(), draw->scaleMap().p1(),
-                          draw->scaleMap().p2()};
-    const bool isUnchanged = now == hiddenAxes[axis];
-    hiddenAxes[axis] = now;
-    return isUnchanged;
+    const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), widget->font());
+    return wantedBorders(widget, measure) == bordersOf(widget);
 }
 
 /**

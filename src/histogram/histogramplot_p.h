@@ -6,7 +6,6 @@
 
 #include "histogramlayout_p.h"
 
-#include <QFont>
 #include <QPointF>
 
 #include <qwt_plot.h>
@@ -15,7 +14,7 @@
 #include <array>
 
 /**
- * The plot of a chart. It shows what a QwtPlot shows and differs in two points.
+ * The plot of a chart. It shows what a QwtPlot shows and differs in three points.
  *
  * It is laid out anew whenever it comes into view. What its labels need at the ends of the x axis
  * depends on the width that the axis got, and a hidden plot hears of no such change: it would come
@@ -23,11 +22,16 @@
  *
  * And it is panned quickly. A pan changes the x scale and, as a rule, no geometry, while
  * QwtPlot::replot() measures the labels of all four axes several times and lays the plot out.
+ *
+ * And it is made quickly. Each setter of a scale widget measures all labels of its scale, those of
+ * hidden axes and of scales that nobody will see included. A hidden axis is not measured before it
+ * is enabled.
  */
 class HistogramPlot : public QwtPlot
 {
 public:
-    using QwtPlot::QwtPlot;
+    /** A plot whose axes have measured nothing yet. */
+    static HistogramPlot *newPlot(QWidget *parent);
 
     /**
      * As setAxisScale() of @p plot. The scale of a chart's plot is divided at once, so that
@@ -36,21 +40,13 @@ public:
     static void setAxisScale(QwtPlot *plot, int axis, double minimum, double maximum, double step);
 
     void replot() override;
+    void updateLayout() override;
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    /** What the space that a hidden axis asks for at its ends depends on. */
-    struct HiddenAxis
-    {
-        QFont font;
-        QwtScaleDiv scale;
-        double paintStart = 0.0;
-        double paintEnd = 0.0;
-
-        bool operator==(const HiddenAxis &other) const;
-    };
+    using QwtPlot::QwtPlot;
 
     /** The scale of an axis and where it is drawn. */
     struct DrawnScale
@@ -69,16 +65,20 @@ private:
         bool operator==(const LayoutInput &other) const;
     };
 
+    enum class Measured { None, Visible };
+
     LayoutInput currentLayoutInput() const;
     bool updateAxesQuickly();
-    bool hasOldBorders(int axis);
+    void updateAxesMeasuring(Measured which);
+    bool hasOldBorders(int axis) const;
     bool moveXAxis();
     DrawnScale drawnScale(int axis) const;
     void restore(int axis, const DrawnScale &drawn);
     void replotCanvas();
 
     LayoutInput layoutInput;
-    std::array<HiddenAxis, axisCnt> hiddenAxes;
+    /** Axes that have been hidden since they should have been measured. */
+    std::array<bool, axisCnt> isUnmeasured {};
 };
 
 #endif

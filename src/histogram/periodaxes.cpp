@@ -3,6 +3,8 @@
 
 #include "periodaxes_p.h"
 
+#include "quietaxes_p.h"
+
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_engine.h>
@@ -24,6 +26,7 @@ void setShortTicks(QwtScaleDraw *draw, const TickLengths &lengths)
 
 void setXAxis(QwtPlot *plot, QwtScaleDraw *draw, QwtScaleEngine *engine, const Scale &scale)
 {
+    const QuietScale quiet(plot, draw);
     plot->setAxisScaleDraw(QwtPlot::xBottom, draw);
     if (engine) {
         plot->setAxisScaleEngine(QwtPlot::xBottom, engine);
@@ -35,6 +38,7 @@ void setXAxis(QwtPlot *plot, QwtScaleDraw *draw, QwtScaleEngine *engine, const S
 
 void setValueAxis(QwtPlot *plot, QwtScaleDraw *draw)
 {
+    const QuietScale quiet(plot, draw);
     plot->setAxisScaleDraw(QwtPlot::yLeft, draw);
     plot->setAxisAutoScale(QwtPlot::yLeft, false);
     plot->setAxisScale(QwtPlot::yLeft, 0.0, 10.0, 0.0);
@@ -46,6 +50,7 @@ void setValueAxisTitle(QwtPlot *plot, const QString &text)
     QwtText title(text, QwtText::AutoText);
     title.setRenderFlags(Qt::AlignRight);
     title.setFont(scale->font());
+    const QuietScale quiet(plot, scale->scaleDraw());
     scale->setTitle(title);
 }
 

@@ -3,6 +3,13 @@
 
 #include "scalelabels_p.h"
 
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QHash>
+#include <QMarginsF>
+#include <QPointer>
+#include <QtMath>
+
 #include <qwt_scale_div.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
@@ -11,17 +18,89 @@
 
 #include <algorithm>
 #include <cmath>
+#include <list>
 #include <typeinfo>
 
 namespace {
 
 /** More than a year of week dates; a scale shows ten. */
 constexpr int mostLabels = 100;
+/** The charts of a page have three. */
+constexpr std::size_t mostFonts = 6;
+
+struct LabelsOfFont
+{
+    QFont font;
+    QMarginsF margins; ///< what textSize() has around the minimum layout
+    QHash<QString, ScaleLabels::Label> labels;
+};
+
+/** The labels of the fonts used last, those of the last one first. */
+class Store
+{
+public:
+    static Store &instance()
+    {
+        static Store store;
+        store.followApplication();
+        return store;
+    }
+
+    LabelsOfFont &of(const QFont &font, const QwtTextEngine &engine)
+    {
+        const auto known = std::find_if(fonts.begin(), fonts.end(), [&](const LabelsOfFont &each) {
+            return each.font == font;
+        });
+        if (known != fonts.end()) {
+            fonts.splice(fonts.begin(), fonts, known);
+            return fonts.front();
+        }
+        if (fonts.size() == mostFonts) {
+            fonts.pop_back();
+        }
+        double left = 0.0;
+        double right = 0.0;
+        double top = 0.0;
+        double bottom = 0.0;
+        engine.textMargins(font, QString(), left, right, top, bottom);
+        fonts.push_front({font, QMarginsF(left, top, right, bottom), {}});
+        return fonts.front();
+    }
+
+private:
+    /** Neither do glyphs outlive the application, nor sizes the fonts that they are of. */
+    void followApplication()
+    {
+        if (application == qApp) {
+            return;
+        }
+        application = qApp;
+        qAddPostRoutine([] { instance().fonts.clear(); });
+        QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged,
+                         [] { instance().fonts.clear(); });
+    }
+
+    QPointer<QCoreApplication> application;
+    std::list<LabelsOfFont> fonts;
+};
 
 const QwtTextEngine *plainEngine(const QString &text)
 {
     const QwtTextEngine *engine = QwtText::textEngine(text, QwtText::AutoText);
     return engine && typeid(*engine) == typeid(QwtPlainTextEngine) ? engine : nullptr;
+}
+
+ScaleLabels::Label newLabel(const QString &text, const QSizeF &wholeSize, const QMarginsF &margins)
+{
+    ScaleLabels::Label label;
+    label.size =
+        wholeSize - QSizeF(margins.left() + margins.right(), margins.top() + margins.bottom());
+    // Rounded as in QwtScaleDraw::drawLabel(): the last column of a glyph may be cut off.
+    label.room = QRectF(QPointF(), label.size.toSize()).marginsAdded(margins);
+    label.isCut = !label.room.contains(QRectF(label.room.topLeft(), wholeSize));
+    label.glyphs.setText(text);
+    label.glyphs.setTextFormat(Qt::PlainText);
+    return label;
 }
 
 } // namespace
@@ -33,27 +112,14 @@ const ScaleLabels::Label *ScaleLabels::find(const QString &text, const QFont &fo
     if (!engine) {
         return nullptr;
     }
-    if (font != usedFont || labels.size() > mostLabels) {
-        labels.clear();
-        usedFont = font;
+    LabelsOfFont &known = Store::instance().of(font, *engine);
+    if (known.labels.size() > mostLabels) {
+        known.labels.clear();
     }
-    auto label = labels.find(text);
-    if (label == labels.end()) {
-        double left = 0.0;
-        double right = 0.0;
-        double top = 0.0;
-        double bottom = 0.0;
-        engine->textMargins(font, text, left, right, top, bottom);
-        const QSizeF wholeSize = engine->textSize(font, 0, text);
-        Label made;
-        made.size = wholeSize - QSizeF(left + right, top + bottom);
-        // Rounded as in QwtScaleDraw::drawLabel(): the last column of a glyph may be cut off.
-        made.room = QRectF(QPointF(), made.size.toSize()).adjusted(-left, -top, right, bottom);
-        made.isCut = !made.room.contains(QRectF(made.room.topLeft(), wholeSize));
-        made.glyphs.setText(text);
-        made.glyphs.setTextFormat(Qt::PlainText);
-        made.glyphs.prepare(QTransform(), font);
-        label = labels.insert(text, made);
+    auto label = known.labels.find(text);
+    if (label == known.labels.end()) {
+        label = known.labels.insert(text,
+                                    newLabel(text, engine->textSize(font, 0, text), known.margins));
     }
     return &*label;
 }
@@ -92,24 +158,39 @@ QPointF labelCorner(const QwtScaleDraw &draw, const QPointF &position, const QSi
     return QPointF(position.x() + x, position.y() + y);
 }
 
+std::optional<QSizeF> ScaleMeasure::largestLabel() const
+{
+    const QwtScaleDiv &scale = draw.scaleDiv();
+    QSizeF largest(0.0, 0.0);
+    for (const double tick : scale.ticks(QwtScaleDiv::MajorTick)) {
+        if (!scale.contains(tick)) {
+            continue;
+        }
+        const auto rect = labelRect(tick);
+        if (!rect) {
+            return std::nullopt;
+        }
+        largest = largest.expandedTo(rect->size());
+    }
+    return largest;
+}
+
+std::optional<int> ScaleMeasure::maxLabelWidth() const
+{
+    const auto largest = largestLabel();
+    return largest ? std::optional<int>(qCeil(largest->width())) : std::nullopt;
+}
+
 std::optional<double> ScaleMeasure::extent() const
 {
     double result = 0.0;
     if (draw.hasComponent(QwtAbstractScaleDraw::Labels)) {
-        const QwtScaleDiv &scale = draw.scaleDiv();
-        double largest = 0.0;
-        for (const double tick : scale.ticks(QwtScaleDiv::MajorTick)) {
-            if (!scale.contains(tick)) {
-                continue;
-            }
-            const auto rect = labelRect(tick);
-            if (!rect) {
-                return std::nullopt;
-            }
-            largest = std::max(largest,
-                               draw.orientation() == Qt::Vertical ? rect->width() : rect->height());
+        const auto largest = largestLabel();
+        if (!largest) {
+            return std::nullopt;
         }
-        result = std::ceil(largest);
+        const bool isVertical = draw.orientation() == Qt::Vertical;
+        result = std::ceil(isVertical ? largest->width() : largest->height());
         if (result > 0.0) {
             result += draw.spacing();
         }

@@ -5,7 +5,6 @@
 #define SCALELABELS_P_H
 
 #include <QFont>
-#include <QHash>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -17,30 +16,30 @@
 #include <qwt_scale_draw.h>
 
 /**
- * Remembers how large the texts of a scale are in a font, and their glyphs. Qwt asks for a size
+ * Remembers how large the texts of the charts' scales are, and their glyphs. Qwt asks for a size
  * again and again, and each answer writes the font out as a text; Qt shapes a text again for each
  * time that it is drawn.
  *
- * It depends on nothing but text and font, so there is nothing to invalidate.
+ * It depends on nothing but text, font and the fonts of the application, and is forgotten when
+ * those change.
  */
-class ScaleLabels
+namespace ScaleLabels {
+
+struct Label
 {
-public:
-    struct Label
-    {
-        QSizeF size; ///< as of QwtText::textSize() with the minimum layout
-        QRectF room; ///< what Qwt lets the text be drawn in, from the corner of the label
-        bool isCut; ///< the text does not fit into its room
-        QStaticText glyphs;
-    };
-
-    /** Null for a text that is not drawn by Qwt's own engine of plain texts. */
-    const Label *find(const QString &text, const QFont &font);
-
-private:
-    QFont usedFont;
-    QHash<QString, Label> labels;
+    QSizeF size; ///< as of QwtText::textSize() with the minimum layout
+    QRectF room; ///< what Qwt lets the text be drawn in, from the corner of the label
+    bool isCut; ///< the text does not fit into its room
+    QStaticText glyphs; ///< shaped when they are drawn first
 };
+
+/**
+ * Null for a text that is not drawn by Qwt's own engine of plain texts. The answer is valid until
+ * the next call.
+ */
+const Label *find(const QString &text, const QFont &font);
+
+} // namespace ScaleLabels
 
 /** The distances of a scale's ends from the edges of its widget, in pixels. */
 struct ScaleBorders
@@ -86,6 +85,8 @@ public:
     {
     }
 
+    /** As QwtScaleDraw::maxLabelWidth(). */
+    std::optional<int> maxLabelWidth() const;
     /** As QwtScaleDraw::extent(). */
     std::optional<double> extent() const;
     /** As QwtScaleDraw::getBorderDistHint(). */
@@ -94,6 +95,7 @@ public:
 private:
     bool canMeasureLabels() const { return labelled && draw.labelRotation() == 0.0; }
     std::optional<QRectF> labelRect(double value) const;
+    std::optional<QSizeF> largestLabel() const;
 
     const QwtScaleDraw &draw;
     const LabelledScale *labelled;

@@ -3,10 +3,13 @@
 
 #include "zemhistogram.h"
 
+#include "chartshortcuts_p.h"
 #include "histogramlayout_p.h"
 #include "histogramplot_p.h"
 #include "objectname_p.h"
+#include "quietaxes_p.h"
 #include "qwtplotmover.h"
+#include "scalelabels_p.h"
 #include "zemhistogramlegend.h"
 #include "zemhistogramseries.h"
 #include "zemscaledraw.h"
@@ -30,6 +33,25 @@ namespace {
 constexpr int dragThreshold = 5; // pixels
 constexpr int canvasMarginRight = 10; // pixels
 
+/** As QwtScaleDraw::maxLabelWidth(), quickly for the library's own scales. */
+int widestLabel(const QwtScaleDraw &draw, const QFont &font)
+{
+    const auto *labelled =
+        ChartShortcuts::areEnabled() ? dynamic_cast<const LabelledScale *>(&draw) : nullptr;
+    const auto width = ScaleMeasure(draw, labelled, font).maxLabelWidth();
+    return width ? *width : draw.maxLabelWidth(font);
+}
+
+/** Of the minimum size hint, whose width nobody has to measure. */
+int heightOfXScale(const QwtScaleWidget *scale)
+{
+    if (!scale->title().isEmpty()) {
+        return scale->minimumSizeHint().height(); // a title may take more lines in a narrow scale
+    }
+    const QMargins margins = scale->contentsMargins();
+    return scale->dimForLength(0, scale->font()) + margins.top() + margins.bottom();
+}
+
 QFont fontOfScale(const QWidget *scale, int pointSize)
 {
     QFont font = scale->font();
@@ -49,7 +71,7 @@ public:
 };
 
 ZEMHistogram::ZEMHistogram(QWidget *parent)
-    : QWidget(parent), plot(new HistogramPlot(this)), yAxisText(QStringLiteral("kWh")),
+    : QWidget(parent), plot(HistogramPlot::newPlot(this)), yAxisText(QStringLiteral("kWh")),
       d(new Private)
 {
     setObjectNameFromClass(this, staticMetaObject);
@@ -107,12 +129,13 @@ void ZEMHistogram::setYAxisText(QString text)
 void ZEMHistogram::initAxis()
 {
     initAxisRefine();
+    const QuietAxes quiet(plot);
     plot->updateAxes();
 
     QwtScaleWidget *xScale = plot->axisWidget(QwtPlot::xBottom);
     xScale->setFont(fontOfScale(xScale, 11));
     // Half of a label may stand out beyond the last tick.
-    const int labelWidth = xScale->scaleDraw()->maxLabelWidth(xScale->font());
+    const int labelWidth = widestLabel(*xScale->scaleDraw(), xScale->font());
     xScale->setMinBorderDist(0, (labelWidth + 1) / 2);
     xScale->setMargin(0);
 
@@ -331,8 +354,7 @@ void ZEMHistogram::setPlotLookAndFeel()
 
     plot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     // The canvas comes out about as high as its picture.
-    const int height =
-        background.height() + plot->axisWidget(QwtPlot::xBottom)->minimumSizeHint().height() - 4;
+    const int height = background.height() + heightOfXScale(plot->axisWidget(QwtPlot::xBottom)) - 4;
     plot->setMinimumHeight(height);
     plot->setMaximumHeight(height);
 }

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "quietaxes_p.h"
+
+#include "chartshortcuts_p.h"
+
+#include <QChildEvent>
+
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+
+QuietScale::QuietScale(const QwtPlot *plot, QwtScaleDraw *quietDraw)
+    : draw(ChartShortcuts::areEnabled() && !plot->testAttribute(Qt::WA_WState_Polished)
+                   && quietDraw->hasComponent(QwtAbstractScaleDraw::Labels)
+               ? quietDraw
+               : nullptr)
+{
+    if (draw) {
+        draw->enableComponent(QwtAbstractScaleDraw::Labels, false);
+    }
+}
+
+QuietScale::~QuietScale()
+{
+    if (draw) {
+        draw->enableComponent(QwtAbstractScaleDraw::Labels, true);
+    }
+}
+
+QuietAxes::QuietAxes(const QwtPlot *plot)
+{
+    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+        // Only the draw of a constant plot would be constant.
+        scales[axis].emplace(plot, const_cast<QwtScaleDraw *>(plot->axisScaleDraw(axis)));
+    }
+}
+
+QuietBirth::QuietBirth(QObject *plotParent) : parentOfPlot(plotParent)
+{
+    if (ChartShortcuts::areEnabled()) {
+        parentOfPlot->installEventFilter(this);
+    }
+}
+
+QuietBirth::~QuietBirth()
+{
+    for (QwtScaleDraw *draw : draws) {
+        draw->enableComponent(QwtAbstractScaleDraw::Labels, true);
+    }
+}
+
+bool QuietBirth::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ChildAdded) {
+        QObject *child = static_cast<QChildEvent *>(event)->child();
+        if (watched == parentOfPlot) {
+            child->installEventFilter(this);
+        } else {
+            // The child is still being made. QwtPlot names its axes before it sets anything else.
+            connect(child, &QObject::objectNameChanged, this, [this, child] { quieten(child); });
+        }
+    }
+    return false;
+}
+
+void QuietBirth::quieten(QObject *child)
+{
+    if (auto *scale = qobject_cast<QwtScaleWidget *>(child)) {
+        scale->scaleDraw()->enableComponent(QwtAbstractScaleDraw::Labels, false);
+        draws.append(scale->scaleDraw());
+    }
+}
