@@ -4,6 +4,7 @@
 #include "histogramplot_p.h"
 
 #include "chartshortcuts_p.h"
+#include "plotsizehints_p.h"
 #include "quietaxes_p.h"
 #include "scalelabels_p.h"
 
@@ -24,23 +25,6 @@ namespace {
 ScaleBorders bordersOf(const QwtScaleWidget *widget)
 {
     return {widget->startBorderDist(), widget->endBorderDist()};
-}
-
-ScaleBorders larger(const ScaleBorders &a, const ScaleBorders &b)
-{
-    return {std::max(a.start, b.start), std::max(a.end, b.end)};
-}
-
-/** As QwtScaleWidget::getBorderDistHint(). */
-std::optional<ScaleBorders> wantedBorders(const QwtScaleWidget *widget, const ScaleMeasure &measure)
-{
-    const auto hint = measure.borders();
-    if (!hint) {
-        return std::nullopt;
-    }
-    ScaleBorders least;
-    widget->getMinBorderDist(least.start, least.end);
-    return larger(*hint, least);
 }
 
 /**
@@ -149,6 +133,10 @@ void HistogramPlot::replot()
 
 void HistogramPlot::updateLayout()
 {
+    // Whatever is laid out before the plot is shown is laid out again then.
+    if (ChartShortcuts::areEnabled() && !testAttribute(Qt::WA_WState_Polished)) {
+        return;
+    }
     for (int axis = 0; axis < axisCnt; ++axis) {
         if (isUnmeasured[axis] && axisEnabled(axis)) {
             isUnmeasured[axis] = false;
@@ -163,6 +151,18 @@ void HistogramPlot::updateLayout()
         }
     }
     QwtPlot::updateLayout();
+}
+
+QSize HistogramPlot::sizeHint() const
+{
+    const auto hint = ChartShortcuts::areEnabled() ? PlotSizeHints::preferred(*this) : std::nullopt;
+    return hint ? *hint : QwtPlot::sizeHint();
+}
+
+QSize HistogramPlot::minimumSizeHint() const
+{
+    const auto hint = ChartShortcuts::areEnabled() ? PlotSizeHints::minimum(*this) : std::nullopt;
+    return hint ? *hint : QwtPlot::minimumSizeHint();
 }
 
 void HistogramPlot::showEvent(QShowEvent *event)
@@ -223,7 +223,7 @@ bool HistogramPlot::hasOldBorders(int axis) const
     const QwtScaleWidget *widget = axisWidget(axis);
     const QwtScaleDraw *draw = widget->scaleDraw();
     const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), widget->font());
-    return wantedBorders(widget, measure) == bordersOf(widget);
+    return measure.borders(*widget) == bordersOf(widget);
 }
 
 /**
@@ -243,12 +243,12 @@ bool HistogramPlot::moveXAxis()
     const ScaleBorders borders = bordersOf(widget);
     if (axisScaleDiv(xBottom) != before.scale) {
         draw->setScaleDiv(axisScaleDiv(xBottom));
-        const auto hint = wantedBorders(widget, measure);
+        const auto hint = measure.borders(*widget);
         if (!hint) {
             restore(xBottom, before);
             return false;
         }
-        const ScaleBorders room = larger(*hint, borders);
+        const ScaleBorders room = hint->expandedTo(borders);
         const QRectF contents = widget->contentsRect();
         draw->move(contents.left() + room.start, contents.top() + widget->margin());
         draw->setLength(contents.width() - (room.start + room.end));
@@ -261,7 +261,7 @@ bool HistogramPlot::moveXAxis()
         widget->update();
         Q_EMIT widget->scaleDivChanged();
     }
-    const auto wanted = wantedBorders(widget, measure);
+    const auto wanted = measure.borders(*widget);
     if (!wanted) {
         return false;
     }

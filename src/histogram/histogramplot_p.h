@@ -25,7 +25,7 @@
  *
  * And it is made quickly. Each setter of a scale widget measures all labels of its scale, those of
  * hidden axes and of scales that nobody will see included. A hidden axis is not measured before it
- * is enabled.
+ * is enabled, and size hints are made from what is known of the labels.
  */
 class HistogramPlot : public QwtPlot
 {
@@ -41,6 +41,8 @@ public:
 
     void replot() override;
     void updateLayout() override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -4,6 +4,7 @@
 #include "scalelabels_p.h"
 
 #include <QCoreApplication>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QHash>
 #include <QMarginsF>
@@ -13,6 +14,7 @@
 #include <qwt_scale_div.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
 #include <qwt_text.h>
 #include <qwt_text_engine.h>
 
@@ -122,6 +124,11 @@ const ScaleLabels::Label *ScaleLabels::find(const QString &text, const QFont &fo
                                     newLabel(text, engine->textSize(font, 0, text), known.margins));
     }
     return &*label;
+}
+
+ScaleBorders ScaleBorders::expandedTo(const ScaleBorders &other) const
+{
+    return {std::max(start, other.start), std::max(end, other.end)};
 }
 
 QPointF labelCorner(const QwtScaleDraw &draw, const QPointF &position, const QSizeF &size)
@@ -248,4 +255,63 @@ std::optional<ScaleBorders> ScaleMeasure::borders() const
     }
     return ScaleBorders {int(std::ceil(std::max(before, 0.0))),
                          int(std::ceil(std::max(behind, 0.0)))};
+}
+
+std::optional<ScaleBorders> ScaleMeasure::borders(const QwtScaleWidget &widget) const
+{
+    const auto hint = borders();
+    if (!hint) {
+        return std::nullopt;
+    }
+    ScaleBorders least;
+    widget.getMinBorderDist(least.start, least.end);
+    return hint->expandedTo(least);
+}
+
+/** As QwtScaleDraw::minLabelDist(). */
+std::optional<int> ScaleMeasure::minLabelDist() const
+{
+    const QList<double> ticks = draw.scaleDiv().ticks(QwtScaleDiv::MajorTick);
+    if (!draw.hasComponent(QwtAbstractScaleDraw::Labels) || ticks.isEmpty()) {
+        return 0;
+    }
+    const QFontMetrics metrics(font);
+    // Labels above each other need no more than a line each.
+    constexpr int blankOfLine = 2; // pixels
+    if (draw.orientation() == Qt::Vertical) {
+        return metrics.ascent() - blankOfLine;
+    }
+    double largest = 0.0;
+    std::optional<QRectF> previous;
+    for (const double tick : ticks) {
+        const auto rect = labelRect(tick);
+        if (!rect) {
+            return std::nullopt;
+        }
+        if (previous) {
+            largest = std::max(largest,
+                               metrics.leading() + std::max(0.0, previous->right())
+                                   + std::max(0.0, -rect->left()));
+        }
+        previous = rect;
+    }
+    return qCeil(largest);
+}
+
+std::optional<int> ScaleMeasure::minLength() const
+{
+    const auto ends = borders();
+    const auto distance = minLabelDist();
+    if (!ends || !distance) {
+        return std::nullopt;
+    }
+    const QwtScaleDiv &scale = draw.scaleDiv();
+    const int majorTicks = scale.ticks(QwtScaleDiv::MajorTick).count();
+    const int otherTicks =
+        scale.ticks(QwtScaleDiv::MinorTick).count() + scale.ticks(QwtScaleDiv::MediumTick).count();
+    const int widthOfTick = std::max(1, draw.penWidth()) + 1;
+    const int forTicks = draw.hasComponent(QwtAbstractScaleDraw::Ticks)
+        ? (majorTicks + otherTicks) * widthOfTick
+        : 0;
+    return ends->start + ends->end + std::max(*distance * majorTicks, forTicks);
 }

@@ -15,6 +15,8 @@
 
 #include <qwt_scale_draw.h>
 
+class QwtScaleWidget;
+
 /**
  * Remembers how large the texts of the charts' scales are, and their glyphs. Qwt asks for a size
  * again and again, and each answer writes the font out as a text; Qt shapes a text again for each
@@ -47,6 +49,7 @@ struct ScaleBorders
     int start = 0;
     int end = 0;
 
+    ScaleBorders expandedTo(const ScaleBorders &other) const;
     bool operator==(const ScaleBorders &other) const
     {
         return start == other.start && end == other.end;
@@ -91,11 +94,16 @@ public:
     std::optional<double> extent() const;
     /** As QwtScaleDraw::getBorderDistHint(). */
     std::optional<ScaleBorders> borders() const;
+    /** As QwtScaleWidget::getBorderDistHint() of @p widget, which shows the scale. */
+    std::optional<ScaleBorders> borders(const QwtScaleWidget &widget) const;
+    /** As QwtScaleDraw::minLength(). */
+    std::optional<int> minLength() const;
 
 private:
     bool canMeasureLabels() const { return labelled && draw.labelRotation() == 0.0; }
     std::optional<QRectF> labelRect(double value) const;
     std::optional<QSizeF> largestLabel() const;
+    std::optional<int> minLabelDist() const;
 
     const QwtScaleDraw &draw;
     const LabelledScale *labelled;
