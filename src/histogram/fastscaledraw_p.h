@@ -68,15 +68,22 @@ public:
     const ScaleLabels::Label *findLabel(double value, const QFont &font) const override
     {
         const ScaleTexts::Source now = ScaleTexts::source(*this);
-        if (!(now == source) || texts.size() > mostTexts) {
+        if (!(now == source) || font != labelFont || labels.size() > mostLabels
+            || generation != ScaleLabels::generation()) {
             source = now;
-            texts.clear();
+            labelFont = font;
+            generation = ScaleLabels::generation();
+            labels.clear();
         }
-        QString &text = texts[value];
-        if (text.isNull()) {
-            text = ScaleTexts::text(*this, value);
+        auto label = labels.constFind(value);
+        if (label == labels.constEnd()) {
+            const auto *found = ScaleLabels::find(ScaleTexts::text(*this, value), font);
+            if (!found) {
+                return nullptr;
+            }
+            label = labels.insert(value, *found);
         }
-        return ScaleLabels::find(text, font);
+        return &*label;
     }
 
     void setSilent(bool silent) override
@@ -130,10 +137,13 @@ protected:
     }
 
 private:
-    static constexpr int mostTexts = 100;
+    /** A scale shows ten. */
+    static constexpr int mostLabels = 100;
 
     mutable ScaleTexts::Source source;
-    mutable QHash<double, QString> texts;
+    mutable QFont labelFont;
+    mutable int generation = 0;
+    mutable QHash<double, ScaleLabels::Label> labels;
     bool isSilent = false;
 };
 

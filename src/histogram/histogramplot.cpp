@@ -35,13 +35,20 @@ class FixedBorders
 {
 public:
     FixedBorders(QwtScaleWidget *quietWidget, const ScaleBorders &borders)
-        : widget(quietWidget),
-          hadLabels(quietWidget->scaleDraw()->hasComponent(QwtAbstractScaleDraw::Labels))
+        : FixedBorders(quietWidget, borders,
+                       // A scale without labels asks for a pixel at its end.
+                       borders.end == 0 ? dynamic_cast<LabelledScale *>(quietWidget->scaleDraw())
+                                        : nullptr)
     {
-        // A scale without labels asks for a pixel at its end.
-        if (hadLabels && borders.end == 0) {
-            silent = dynamic_cast<LabelledScale *>(widget->scaleDraw());
-        }
+    }
+
+    /** The labels of @p silentScale keep their extent. */
+    FixedBorders(QwtScaleWidget *quietWidget, const ScaleBorders &borders,
+                 LabelledScale *silentScale)
+        : widget(quietWidget),
+          hadLabels(quietWidget->scaleDraw()->hasComponent(QwtAbstractScaleDraw::Labels)),
+          silent(hadLabels ? silentScale : nullptr)
+    {
         widget->getMinBorderDist(least.start, least.end);
         widget->setMinBorderDist(borders.start, borders.end);
         if (silent) {
@@ -65,8 +72,8 @@ private:
     Q_DISABLE_COPY(FixedBorders)
 
     QwtScaleWidget *widget;
-    LabelledScale *silent = nullptr;
     bool hadLabels;
+    LabelledScale *silent;
     ScaleBorders least;
 };
 
@@ -122,11 +129,13 @@ void HistogramPlot::replot()
     }
     const bool replotsOnItsOwn = autoReplot();
     setAutoReplot(false);
-    if (!updateAxesQuickly()) {
+    isPanning = updateAxesQuickly();
+    if (!isPanning) {
         updateAxesMeasuring(Measured::Visible);
     }
     // Axes and canvas must be in step before they are painted.
     QApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+    isPanning = false;
     replotCanvas();
     setAutoReplot(replotsOnItsOwn);
 }
@@ -150,7 +159,37 @@ void HistogramPlot::updateLayout()
             widget->setBorderDist(start, end);
         }
     }
-    QwtPlot::updateLayout();
+    if (!isPanning || !layOutQuickly()) {
+        QwtPlot::updateLayout();
+    }
+}
+
+/**
+ * Lays out the plot without measuring the labels of the x axis again. Answers false, with the axis
+ * as it was, when it needs other borders where it is now.
+ */
+bool HistogramPlot::layOutQuickly()
+{
+    QwtScaleWidget *widget = axisWidget(xBottom);
+    auto *labelled = dynamic_cast<LabelledScale *>(widget->scaleDraw());
+    if (!axisEnabled(xBottom) || !labelled) {
+        return false;
+    }
+    const DrawnScale drawn = drawnScale(xBottom);
+    const QRect place = widget->geometry();
+    const ScaleBorders borders = bordersOf(widget);
+    {
+        const FixedBorders fixed(widget, borders, labelled);
+        QwtPlot::updateLayout();
+    }
+    const ScaleMeasure measure(*widget->scaleDraw(), labelled, widget->font());
+    if (measure.borders(*widget) == borders) {
+        return true;
+    }
+    widget->setGeometry(place);
+    widget->setBorderDist(borders.start, borders.end);
+    restore(xBottom, drawn);
+    return false;
 }
 
 QSize HistogramPlot::sizeHint() const

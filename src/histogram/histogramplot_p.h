@@ -71,6 +71,7 @@ private:
 
     LayoutInput currentLayoutInput() const;
     bool updateAxesQuickly();
+    bool layOutQuickly();
     void updateAxesMeasuring(Measured which);
     bool hasOldBorders(int axis) const;
     bool moveXAxis();
@@ -79,6 +80,7 @@ private:
     void replotCanvas();
 
     LayoutInput layoutInput;
+    bool isPanning = false;
     /** Axes that have been hidden since they should have been measured. */
     std::array<bool, axisCnt> isUnmeasured {};
 };

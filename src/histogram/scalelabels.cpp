@@ -48,6 +48,8 @@ public:
         return store;
     }
 
+    int currentGeneration() const { return generation; }
+
     LabelsOfFont &of(const QFont &font, const QwtTextEngine &engine)
     {
         const auto known = std::find_if(fonts.begin(), fonts.end(), [&](const LabelsOfFont &each) {
@@ -77,13 +79,19 @@ private:
             return;
         }
         application = qApp;
-        qAddPostRoutine([] { instance().fonts.clear(); });
-        QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged,
-                         [] { instance().fonts.clear(); });
+        qAddPostRoutine([] { instance().clear(); });
+        QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged, [] { instance().clear(); });
+    }
+
+    void clear()
+    {
+        fonts.clear();
+        ++generation;
     }
 
     QPointer<QCoreApplication> application;
     std::list<LabelsOfFont> fonts;
+    int generation = 1;
 };
 
 const QwtTextEngine *plainEngine(const QString &text)
@@ -124,6 +132,11 @@ const ScaleLabels::Label *ScaleLabels::find(const QString &text, const QFont &fo
                                     newLabel(text, engine->textSize(font, 0, text), known.margins));
     }
     return &*label;
+}
+
+int ScaleLabels::generation()
+{
+    return Store::instance().currentGeneration();
 }
 
 ScaleBorders ScaleBorders::expandedTo(const ScaleBorders &other) const

@@ -41,6 +41,9 @@ struct Label
  */
 const Label *find(const QString &text, const QFont &font);
 
+/** Another number when what find() has answered before holds no longer. */
+int generation();
+
 } // namespace ScaleLabels
 
 /** The distances of a scale's ends from the edges of its widget, in pixels. */
