@@ -12,6 +12,28 @@ file(CHMOD "${ZEM_TEST_RUNTIME_DIR}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRIT
 set(ZEM_UNEXPECTED_WARNING
     "QWARN  : [^\n]*\\) ([^T]|T[^h]|Th[^i]|Thi[^s]|This[^ ]|This [^p]|This p[^l])|QSYSTEM|QCRITICAL")
 
+# zem_precompile_headers(<test> <source>...)
+#   Shares Qt's headers among the tests of the library alone: the first one makes what the others
+#   use. A source that changes how they are read does without.
+function(zem_precompile_headers name)
+    if(NOT ZEMKIT_PRECOMPILE_HEADERS)
+        return()
+    endif()
+    get_property(owner GLOBAL PROPERTY ZEM_PRECOMPILED_TEST)
+    if(owner)
+        target_precompile_headers(${name} REUSE_FROM ${owner})
+    else()
+        target_precompile_headers(${name} PRIVATE <QTest> <QWidget>)
+        set_property(GLOBAL PROPERTY ZEM_PRECOMPILED_TEST ${name})
+    endif()
+    foreach(source IN LISTS ARGN)
+        file(STRINGS "${source}" undefined REGEX "^#undef QT_" LIMIT_COUNT 1)
+        if(undefined)
+            set_source_files_properties("${source}" PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+        endif()
+    endforeach()
+endfunction()
+
 # zem_add_test(<name> SUBSYSTEM <label> [SOURCES <file>...] [LIBRARIES <target>...])
 #   One QTest program from <name>.cpp, linked with the library and the test support. A warning that
 #   the test does not expect makes it fail.
@@ -25,6 +47,9 @@ function(zem_add_test name)
     target_sources(${name} PRIVATE "${moc_directory}/${name}.moc")
     target_include_directories(${name} PRIVATE "${moc_directory}")
     target_link_libraries(${name} PRIVATE zem_test_support Zemkit::Zemkit Qt5::Test ${arg_LIBRARIES})
+    if(NOT arg_LIBRARIES)
+        zem_precompile_headers(${name} ${name}.cpp ${arg_SOURCES})
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_SUBSYSTEM}"
