@@ -3,6 +3,7 @@
 
 #include <ZEMUtils>
 
+#include <QColor>
 #include <QDirIterator>
 #include <QImage>
 #include <QResource>
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void picture_data();
     void picture();
     void nothingElseIsInTheCollection();
+    void headerIsAnOpaqueLightBar();
     void cleanupAndInitAreExported();
 };
 
@@ -145,6 +147,20 @@ void tst_Resources::nothingElseIsInTheCollection()
     }
     QCOMPARE(found, expected);
     QCOMPARE(found.size(), 58);
+}
+
+void tst_Resources::headerIsAnOpaqueLightBar()
+{
+    const QImage bar(QStringLiteral(":/zem/graphics/header/header_bg.png"));
+    constexpr int lightGrey = 180;
+    for (int y = 0; y < bar.height(); ++y) {
+        for (int x = 0; x < bar.width(); ++x) {
+            const QColor color = bar.pixelColor(x, y);
+            QCOMPARE(color.alpha(), 255);
+            QVERIFY(qMin(color.red(), qMin(color.green(), color.blue())) >= lightGrey);
+            QVERIFY(color.saturation() < 32);
+        }
+    }
 }
 
 void tst_Resources::cleanupAndInitAreExported()

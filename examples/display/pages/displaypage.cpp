@@ -58,7 +58,6 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
     header->addButton(messages);
     connect(messages, &ZEMNotificationButton::clicked, this, &DisplayPage::messagesClicked);
 
-    PageLook::makeWhite(header->getTitleWidget());
     header->setNrOfPages(0);
     setTitle(title);
 
