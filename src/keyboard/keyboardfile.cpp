@@ -121,8 +121,9 @@ int keyWidth(int minimum, const QString &size, const QString &width)
     if (std::isnan(widened) || !fitsInt(widened)) {
         widened = scaled;
     }
-    // QWidget would cut a wider or a negative one in the same way, but complain.
-    return qBound(0, static_cast<int>(std::trunc(widened)), QWIDGETSIZE_MAX);
+    // QWidget would cut a wider or a negative one likewise, but complain, and takes QWIDGETSIZE_MAX
+    // itself for no minimum at all.
+    return qBound(0, static_cast<int>(std::trunc(widened)), QWIDGETSIZE_MAX - 1);
 }
 
 QString decodeValue(QString value)

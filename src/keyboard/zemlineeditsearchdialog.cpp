@@ -99,7 +99,7 @@ void ZEMLineEditSearchDialog::slotInputHandlerSearch()
     }
 }
 
-void ZEMLineEditSearchDialog::slotInputHandlerTextEdited(const QString &text)
+void ZEMLineEditSearchDialog::slotInputHandlerTextEdited(QString text)
 {
     if (d->inputHandler) {
         d->inputHandler->emitTextEdited(text);

@@ -68,7 +68,7 @@ Q_SIGNALS:
     /** The search button was touched. The handler is told before other listeners. */
     void sigSearch();
     /** The user has changed the text to @p text. The handler is told before other listeners. */
-    void sigTextEdited(const QString &text);
+    void sigTextEdited(QString text);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -77,7 +77,7 @@ private Q_SLOTS:
     void slotInputHandlerSelect();
     void slotInputHandlerCancel();
     void slotInputHandlerSearch();
-    void slotInputHandlerTextEdited(const QString &text);
+    void slotInputHandlerTextEdited(QString text);
 
 private:
     Q_DISABLE_COPY(ZEMLineEditSearchDialog)

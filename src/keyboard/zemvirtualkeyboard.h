@@ -122,15 +122,6 @@ public:
      */
     void setPopupParent(QWidget *parent);
 
-Q_SIGNALS:
-    /** An Enter key was touched; its event is on its way to the target, if there is one. */
-    void sigKey_enter();
-
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-
     /** Puts all keys into the caps state @p state; the keyboard's own state stays what it was. */
     void switchButtonCaps(t_caps state);
 
@@ -142,6 +133,15 @@ protected:
     void parseLayout(QVBoxLayout *layout, const QDomElement &element);
     /** Fills @p row with the keys, stretches and spaces of the file's @p element. */
     void parseRow(QHBoxLayout *row, const QDomElement &element);
+
+Q_SIGNALS:
+    /** An Enter key was touched; its event is on its way to the target, if there is one. */
+    void sigKey_enter();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private Q_SLOTS:
     void sendKey(int index);
