@@ -5,9 +5,9 @@
 
 #include "listsize_p.h"
 #include "zemlistviewlogic.h"
-#include "zemstyle.h"
 
 #include <QBrush>
+#include <QColor>
 #include <QListView>
 #include <QPalette>
 
@@ -15,7 +15,7 @@ namespace ListPage {
 
 void makeSeeThrough(QListView *list)
 {
-    const QBrush clear(ZEMStyle(nullptr).color(ZEMStyle::WhiteAlpha0));
+    const QBrush clear(QColor(255, 255, 255, 0));
     QPalette palette = list->palette();
     palette.setBrush(QPalette::Active, QPalette::Base, clear);
     palette.setBrush(QPalette::Inactive, QPalette::Base, clear);

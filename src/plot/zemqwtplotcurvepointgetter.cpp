@@ -64,7 +64,9 @@ ZEMQwtPlotCurvePointGetter::~ZEMQwtPlotCurvePointGetter() = default;
 
 double ZEMQwtPlotCurvePointGetter::distance(double x1, double y1, double x2, double y2)
 {
-    return std::hypot(x2 - x1, y2 - y1);
+    const double dx = x2 - x1;
+    const double dy = y2 - y1;
+    return std::sqrt(dx * dx + dy * dy);
 }
 
 int ZEMQwtPlotCurvePointGetter::getNumCurves()

@@ -86,7 +86,8 @@ public:
      * equally near ones; y plays no part. Only those samples are looked at that an evenly spaced
      * series from x = 0 on would have within 6 units of the x axis of @p pos. So in a series whose
      * samples lie several units apart, or that begins elsewhere, it may be another one or none. All
-     * samples are looked at if they lie at one x, and for a @p pos more than 6 units left of x = 0.
+     * samples are looked at if they lie at one x, and for a @p pos so far left of x = 0 that its 6
+     * units would end before the sample in front of the first.
      *
      * -1 if the curve is on no plot or has no samples; dx and dy stay as they are. -1 also if no
      * sample is looked at, or none lies within 1e10 pixels; dx and dy are 1e10 then.
