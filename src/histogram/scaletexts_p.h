@@ -4,7 +4,7 @@
 #ifndef SCALETEXTS_P_H
 #define SCALETEXTS_P_H
 
-#include <QDateTime>
+#include <QDate>
 #include <QLocale>
 #include <QString>
 
@@ -24,12 +24,12 @@ public:
     struct Source
     {
         QLocale locale = QLocale::c();
-        QDateTime start;
+        QDate firstDay;
         int digits = 0;
 
         bool operator==(const Source &other) const
         {
-            return digits == other.digits && locale == other.locale && start == other.start;
+            return digits == other.digits && locale == other.locale && firstDay == other.firstDay;
         }
     };
 

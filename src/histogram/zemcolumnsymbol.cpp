@@ -68,7 +68,7 @@ void ZEMColumnSymbol::draw(QPainter *painter, const QwtColumnRect &rect) const
     painter->restore();
 }
 
-void ZEMColumnSymbol::setIcon(const QString &path)
+void ZEMColumnSymbol::setIcon(QString path)
 {
     QPixmap pixmap;
     ZEMPixmapCache::load(pixmap, path);

@@ -44,7 +44,7 @@ public:
      * through QPixmapCache with @p path as its key. A path that cannot be read means no icon. The
      * symbol knows of no plot and repaints nothing.
      */
-    void setIcon(const QString &path);
+    void setIcon(QString path);
 
 protected:
     /** The style UserStyle. Leaves the painter as it was. */

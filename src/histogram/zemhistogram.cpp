@@ -231,6 +231,8 @@ void ZEMHistogram::setDataChangedTimestamp(QDateTime t)
         d->childHistogram->setDataChangedTimestamp(t);
     }
     updateTitle(plot->axisInterval(QwtPlot::xBottom));
+    // Its labels may tell dates; a replot paints an axis only when its scale is another one.
+    plot->axisWidget(QwtPlot::xBottom)->update();
 }
 
 QString ZEMHistogram::title()

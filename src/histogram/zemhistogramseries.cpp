@@ -75,7 +75,7 @@ void ZEMHistogramSeries::setColor(const QBrush &brush)
     }
 }
 
-void ZEMHistogramSeries::setIcon(const QString &path)
+void ZEMHistogramSeries::setIcon(QString path)
 {
     if (ZEMColumnSymbol *symbol = d->symbolIn(*this)) {
         symbol->setIcon(path);

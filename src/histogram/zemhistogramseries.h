@@ -47,7 +47,7 @@ public:
      * Path of the picture that columns wider than it show in their middle; only with icon columns.
      * A path that cannot be read means no icon. Asks the plot for a replot.
      */
-    void setIcon(const QString &path);
+    void setIcon(QString path);
 
     /**
      * A new entry for a legend, without text and colour, which the legend fills in; a

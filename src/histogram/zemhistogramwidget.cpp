@@ -102,7 +102,7 @@ public:
     void btnEnergyTypeclicked(ZEMEnergyIcon::Type type)
     {
         ui.energyIcon->setEnergyType(type);
-        qDebug() << "btnEnergyTypeclicked " << type;
+        qDebug() << "btnEnergyTypeclicked " << int(type);
         switch (type) {
         case ZEMEnergyIcon::Electricity:
             selectEnergy(ZEM::TabElectricity, BtnElectricity);

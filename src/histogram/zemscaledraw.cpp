@@ -89,7 +89,7 @@ ZEMKWhScaleDraw::~ZEMKWhScaleDraw() = default;
 
 ScaleTexts::Source ScaleTexts::source(const ZEMKWhScaleDraw &draw)
 {
-    return {QLocale(), QDateTime(), draw.getDigits()};
+    return {QLocale(), QDate(), draw.getDigits()};
 }
 
 QString ScaleTexts::text(const ZEMKWhScaleDraw &draw, double value)
@@ -153,7 +153,7 @@ ZEMWeekScaleDraw::~ZEMWeekScaleDraw() = default;
 
 ScaleTexts::Source ScaleTexts::source(const ZEMWeekScaleDraw & /*draw*/)
 {
-    return {QLocale(), QDateTime(), 0};
+    return {QLocale(), QDate(), 0};
 }
 
 QString ScaleTexts::text(const ZEMWeekScaleDraw &draw, double value)
@@ -189,7 +189,7 @@ void ZEMMonthScaleDraw::setStartTimestamp(QDateTime timestamp)
 
 ScaleTexts::Source ScaleTexts::source(const ZEMMonthScaleDraw &draw)
 {
-    return {QLocale(), draw.d->startTimestamp, 0};
+    return {QLocale(), draw.d->startTimestamp.date(), 0};
 }
 
 QString ScaleTexts::text(const ZEMMonthScaleDraw &draw, double value)

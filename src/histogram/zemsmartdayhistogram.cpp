@@ -6,11 +6,10 @@
 #include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
-#include "zemscaledraw.h"
 
-class ZEMSmartDayHistogram::xDayScaleDraw : public FastScaleDraw<ZEMDayScaleDraw>
-{
-};
+ZEMSmartDayHistogram::xDayScaleDraw::xDayScaleDraw() = default;
+
+ZEMSmartDayHistogram::xDayScaleDraw::~xDayScaleDraw() = default;
 
 ZEMSmartDayHistogram::ZEMSmartDayHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }
 
@@ -40,7 +39,7 @@ void ZEMSmartDayHistogram::initAxisRefine()
     ZEMSmartHistogram::initAxisRefine();
     setValueAxisTitle(plot, yAxisText);
 
-    auto *draw = new xDayScaleDraw;
+    auto *draw = new FastScaleDraw<xDayScaleDraw>;
     setShortTicks(draw, {5.0, 5.0, 5.0});
     setXAxis(plot, draw, nullptr, {24.0, 6.0, 4, 6});
 }

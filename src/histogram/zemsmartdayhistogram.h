@@ -4,6 +4,7 @@
 #ifndef ZEMSMARTDAYHISTOGRAM_H
 #define ZEMSMARTDAYHISTOGRAM_H
 
+#include "zemscaledraw.h"
 #include "zemsmarthistogram.h"
 
 /**
@@ -15,7 +16,16 @@ class ZEM_EXPORT ZEMSmartDayHistogram : public ZEMSmartHistogram
     Q_OBJECT
 
 public:
-    class xDayScaleDraw;
+    /** The hours below the day. */
+    class ZEM_EXPORT xDayScaleDraw : public ZEMDayScaleDraw
+    {
+    public:
+        xDayScaleDraw();
+        ~xDayScaleDraw() override;
+
+    private:
+        Q_DISABLE_COPY(xDayScaleDraw)
+    };
 
     explicit ZEMSmartDayHistogram(QWidget *parent = nullptr);
     ~ZEMSmartDayHistogram() override;

@@ -6,16 +6,14 @@
 #include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
-#include "zemscaledraw.h"
 #include "zemscaleengine.h"
 
 #include <qwt_plot.h>
 
-class ZEMSmartMonthHistogram::xMonthScaleDraw : public FastScaleDraw<ZEMMonthScaleDraw>
-{
-public:
-    using FastScaleDraw::FastScaleDraw;
-};
+ZEMSmartMonthHistogram::xMonthScaleDraw::xMonthScaleDraw(double shift)
+    : ZEMMonthScaleDraw(shift) { }
+
+ZEMSmartMonthHistogram::xMonthScaleDraw::~xMonthScaleDraw() = default;
 
 ZEMSmartMonthHistogram::ZEMSmartMonthHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }
 
@@ -52,7 +50,7 @@ void ZEMSmartMonthHistogram::updateTitle(QwtInterval interval)
 void ZEMSmartMonthHistogram::initAxisRefine()
 {
     using namespace PeriodAxes;
-    auto *dates = new xMonthScaleDraw(middleOfSlot);
+    auto *dates = new FastScaleDraw<xMonthScaleDraw>(middleOfSlot);
     setShortTicks(dates, {0.0, 5.0, 0.0});
     setXAxis(plot, dates, new ZEMScaleEngine(middleOfSlot), {5.0, 1.0, 5, 2});
     setValueAxis(plot, new FastScaleDraw<ZEMMonthKWhScaleDraw>(999.0));

@@ -4,6 +4,7 @@
 #ifndef ZEMSMARTMONTHHISTOGRAM_H
 #define ZEMSMARTMONTHHISTOGRAM_H
 
+#include "zemscaledraw.h"
 #include "zemsmarthistogram.h"
 
 /**
@@ -15,7 +16,16 @@ class ZEM_EXPORT ZEMSmartMonthHistogram : public ZEMSmartHistogram
     Q_OBJECT
 
 public:
-    class xMonthScaleDraw;
+    /** The dates below the weeks. */
+    class ZEM_EXPORT xMonthScaleDraw : public ZEMMonthScaleDraw
+    {
+    public:
+        explicit xMonthScaleDraw(double shift);
+        ~xMonthScaleDraw() override;
+
+    private:
+        Q_DISABLE_COPY(xMonthScaleDraw)
+    };
 
     explicit ZEMSmartMonthHistogram(QWidget *parent = nullptr);
     ~ZEMSmartMonthHistogram() override;

@@ -6,14 +6,11 @@
 #include "fastscaledraw_p.h"
 #include "headlines_p.h"
 #include "periodaxes_p.h"
-#include "zemscaledraw.h"
 #include "zemscaleengine.h"
 
-class ZEMSmartWeekHistogram::xWeekScaleDraw : public FastScaleDraw<ZEMWeekScaleDraw>
-{
-public:
-    using FastScaleDraw::FastScaleDraw;
-};
+ZEMSmartWeekHistogram::xWeekScaleDraw::xWeekScaleDraw(double shift) : ZEMWeekScaleDraw(shift) { }
+
+ZEMSmartWeekHistogram::xWeekScaleDraw::~xWeekScaleDraw() = default;
 
 ZEMSmartWeekHistogram::ZEMSmartWeekHistogram(QWidget *parent) : ZEMSmartHistogram(parent) { }
 
@@ -33,7 +30,7 @@ void ZEMSmartWeekHistogram::initAxisRefine()
     ZEMSmartHistogram::initAxisRefine();
     setValueAxisTitle(plot, yAxisText);
 
-    auto *draw = new xWeekScaleDraw(middleOfSlot);
+    auto *draw = new FastScaleDraw<xWeekScaleDraw>(middleOfSlot);
     setShortTicks(draw, {0.0, 5.0, 0.0});
     setXAxis(plot, draw, new ZEMScaleEngine(middleOfSlot), {7.0, 1.0, 7, 2});
 }

@@ -4,6 +4,7 @@
 #ifndef ZEMSMARTWEEKHISTOGRAM_H
 #define ZEMSMARTWEEKHISTOGRAM_H
 
+#include "zemscaledraw.h"
 #include "zemsmarthistogram.h"
 
 /** A week of days: seven slots from Monday to Sunday. The timestamp must be a Monday. */
@@ -12,7 +13,16 @@ class ZEM_EXPORT ZEMSmartWeekHistogram : public ZEMSmartHistogram
     Q_OBJECT
 
 public:
-    class xWeekScaleDraw;
+    /** The days below the week. */
+    class ZEM_EXPORT xWeekScaleDraw : public ZEMWeekScaleDraw
+    {
+    public:
+        explicit xWeekScaleDraw(double shift);
+        ~xWeekScaleDraw() override;
+
+    private:
+        Q_DISABLE_COPY(xWeekScaleDraw)
+    };
 
     explicit ZEMSmartWeekHistogram(QWidget *parent = nullptr);
     ~ZEMSmartWeekHistogram() override;

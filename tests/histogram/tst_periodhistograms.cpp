@@ -273,14 +273,16 @@ void tst_PeriodHistograms::smartScaleDrawsAreNested()
 {
     ZEMSmartMonthHistogram month;
     month.init();
-    QVERIFY(
-        dynamic_cast<const ZEMMonthScaleDraw *>(plotOf(&month)->axisScaleDraw(QwtPlot::xBottom)));
+    QVERIFY(dynamic_cast<const ZEMSmartMonthHistogram::xMonthScaleDraw *>(
+        plotOf(&month)->axisScaleDraw(QwtPlot::xBottom)));
     ZEMSmartWeekHistogram week;
     week.init();
-    QVERIFY(dynamic_cast<const ZEMWeekScaleDraw *>(plotOf(&week)->axisScaleDraw(QwtPlot::xBottom)));
+    QVERIFY(dynamic_cast<const ZEMSmartWeekHistogram::xWeekScaleDraw *>(
+        plotOf(&week)->axisScaleDraw(QwtPlot::xBottom)));
     ZEMSmartDayHistogram day;
     day.init();
-    QVERIFY(dynamic_cast<const ZEMDayScaleDraw *>(plotOf(&day)->axisScaleDraw(QwtPlot::xBottom)));
+    QVERIFY(dynamic_cast<const ZEMSmartDayHistogram::xDayScaleDraw *>(
+        plotOf(&day)->axisScaleDraw(QwtPlot::xBottom)));
 }
 
 static void compareSmartTail(const QLayout *layout, int spacerIndex)

@@ -6,13 +6,55 @@
 
 #include <ZEMHistogramData>
 #include <ZEMHistogramSeries>
+#include <ZEMSmartMonthHistogram>
 
+#include <QImage>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <qwt_scale_div.h>
 #include <qwt_scale_engine.h>
+#include <qwt_scale_widget.h>
 
 using namespace ZemTest;
+
+namespace {
+
+/** Counts how often a widget is painted. */
+class PaintCount : public QObject
+{
+public:
+    explicit PaintCount(QWidget *watchedWidget) { watchedWidget->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+/** A shown chart of weeks, and the axis with their dates. */
+class MonthStage
+{
+public:
+    explicit MonthStage(const QDateTime &firstWeek)
+    {
+        chart.init();
+        chart.resize(500, 340);
+        chart.setDataChangedTimestamp(firstWeek);
+        chart.show();
+        isReady = QTest::qWaitForWindowExposed(&chart);
+        axis = chart.findChild<QwtPlot *>()->axisWidget(QwtPlot::xBottom);
+    }
+
+    ZEMSmartMonthHistogram chart;
+    QWidget *axis = nullptr;
+    bool isReady = false;
+};
+
+} // namespace
 
 /** How a chart moves its view, and what it shares with its child. */
 class tst_ZEMHistogramViews : public QObject
@@ -24,6 +66,8 @@ private Q_SLOTS:
 
     void periodAndIntervalReachAllChildren();
     void timestampReachesChildrenFirst();
+    void timestampShowsOnAnAxisOfDates();
+    void dateOfATimestampCountsNotItsInstant();
     void hasPageWithNullPointers();
     void pagingSlots();
     void hasPageSignalFollowsTheTitle();
@@ -89,6 +133,35 @@ void tst_ZEMHistogramViews::timestampReachesChildrenFirst()
     QCOMPARE(child->dataChangedTimestamp, t);
     QCOMPARE(chart.title(), QStringLiteral("0 to 10"));
     QCOMPARE(order, (QList<ZEMHistogram *> {child, &chart}));
+}
+
+void tst_ZEMHistogramViews::timestampShowsOnAnAxisOfDates()
+{
+    MonthStage stage(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+    QVERIFY(stage.isReady);
+    const QImage before = render(stage.axis);
+    QCoreApplication::processEvents();
+    const PaintCount paints(stage.axis);
+    stage.chart.setDataChangedTimestamp(QDateTime(QDate(2016, 6, 6), QTime(0, 0), Qt::UTC));
+    stage.chart.replot();
+    QCoreApplication::processEvents();
+    QVERIFY(paints.count > 0);
+    QVERIFY(render(stage.axis) != before);
+}
+
+void tst_ZEMHistogramViews::dateOfATimestampCountsNotItsInstant()
+{
+    qputenv("TZ", "Europe/Amsterdam");
+    const auto restore = qScopeGuard([] { qunsetenv("TZ"); });
+    const QDateTime evening(QDate(2018, 3, 4), QTime(23, 0), Qt::UTC);
+    const QDateTime midnight(QDate(2018, 3, 5), QTime(0, 0), Qt::LocalTime);
+    QCOMPARE(evening, midnight);
+    MonthStage stage(evening);
+    QVERIFY(stage.isReady);
+    const QImage before = render(stage.axis);
+    stage.chart.setDataChangedTimestamp(midnight);
+    stage.chart.replot();
+    QVERIFY(render(stage.axis) != before);
 }
 
 void tst_ZEMHistogramViews::hasPageWithNullPointers()
