@@ -5,6 +5,9 @@
 #define BENCHMARK_H
 
 #include <QCoreApplication>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -27,6 +30,16 @@ inline void settle()
 {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents();
+}
+
+/** Lets the left button do something at @p position of @p window, as the platform would tell it. */
+inline void sendMouse(QWidget *window, QEvent::Type type, const QPointF &position)
+{
+    const bool isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, position, position, position, isMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(window->windowHandle(), &event);
 }
 
 /** Lets a benchmark run without a screen, unless the environment names a platform. */

@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QMouseEvent>
-#include <QWindow>
 
 #include <malloc.h>
 
@@ -53,15 +51,6 @@ std::vector<PageKind> pageKinds()
     };
 }
 
-void sendMouse(QWidget *window, QEvent::Type type, const QPointF &position)
-{
-    const bool isMove = type == QEvent::MouseMove;
-    QMouseEvent event(type, position, position, position, isMove ? Qt::NoButton : Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(window->windowHandle(), &event);
-}
-
 std::shared_ptr<Charts::Page> shownPage(Maker make, const Charts::Readings &readings)
 {
     const std::shared_ptr<Charts::Page> page = make(readings);
@@ -77,16 +66,16 @@ constexpr int stepsOfDrag = 40;
 double dragRound(Charts::Page *page)
 {
     QPointF position(250.0, 200.0);
-    sendMouse(page->window(), QEvent::MouseButtonPress, position);
+    Benchmark::sendMouse(page->window(), QEvent::MouseButtonPress, position);
     QElapsedTimer timer;
     timer.start();
     for (int step = 0; step < stepsOfDrag; ++step) {
         position.rx() += step < stepsOfDrag / 2 ? stepPixels : -stepPixels;
-        sendMouse(page->window(), QEvent::MouseMove, position);
+        Benchmark::sendMouse(page->window(), QEvent::MouseMove, position);
         Benchmark::settle();
     }
     const double elapsed = double(timer.nsecsElapsed());
-    sendMouse(page->window(), QEvent::MouseButtonRelease, position);
+    Benchmark::sendMouse(page->window(), QEvent::MouseButtonRelease, position);
     Benchmark::settle();
     return elapsed / stepsOfDrag;
 }

@@ -8,8 +8,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QMouseEvent>
-#include <QWindow>
 
 using BenchTable::Round;
 using BenchTable::Row;
@@ -34,15 +32,6 @@ std::shared_ptr<Page> shownPage(Maker make, Popups popups)
     return page;
 }
 
-void sendMouse(QWidget *window, QEvent::Type type, const QPointF &position)
-{
-    QMouseEvent event(type, position, position, position, Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(window->windowHandle(), &event);
-    Benchmark::settle();
-}
-
 /** Touches all keys, each from the press of the mouse to the picture behind its release. */
 double touchRound(Page *page)
 {
@@ -51,8 +40,10 @@ double touchRound(Page *page)
     for (int key = 0; key < keyCount; ++key) {
         const QPointF centre =
             Keyboards::keyCentre(key / Keyboards::columns, key % Keyboards::columns);
-        sendMouse(page->window(), QEvent::MouseButtonPress, centre);
-        sendMouse(page->window(), QEvent::MouseButtonRelease, centre);
+        Benchmark::sendMouse(page->window(), QEvent::MouseButtonPress, centre);
+        Benchmark::settle();
+        Benchmark::sendMouse(page->window(), QEvent::MouseButtonRelease, centre);
+        Benchmark::settle();
     }
     return double(timer.nsecsElapsed()) / keyCount;
 }

@@ -68,7 +68,7 @@ public:
     const ScaleLabels::Label *findLabel(double value, const QFont &font) const override
     {
         const ScaleTexts::Source now = ScaleTexts::source(*this);
-        if (!(now == source) || font != labelFont || labels.size() > mostLabels
+        if (!(now == source) || font != labelFont || labels.size() > ScaleLabels::mostLabels
             || generation != ScaleLabels::generation()) {
             source = now;
             labelFont = font;
@@ -137,9 +137,6 @@ protected:
     }
 
 private:
-    /** A scale shows ten. */
-    static constexpr int mostLabels = 100;
-
     mutable ScaleTexts::Source source;
     mutable QFont labelFont;
     mutable int generation = 0;

@@ -27,6 +27,14 @@ ScaleBorders bordersOf(const QwtScaleWidget *widget)
     return {widget->startBorderDist(), widget->endBorderDist()};
 }
 
+void takeWantedBorders(QwtScaleWidget *widget)
+{
+    int start = 0;
+    int end = 0;
+    widget->getBorderDistHint(start, end);
+    widget->setBorderDist(start, end);
+}
+
 /**
  * Makes a scale widget ask for given borders without measuring its labels, for as long as this
  * lives.
@@ -143,7 +151,7 @@ void HistogramPlot::replot()
 void HistogramPlot::updateLayout()
 {
     // Whatever is laid out before the plot is shown is laid out again then.
-    if (ChartShortcuts::areEnabled() && !testAttribute(Qt::WA_WState_Polished)) {
+    if (mayBeQuiet(*this)) {
         return;
     }
     for (int axis = 0; axis < axisCnt; ++axis) {
@@ -153,10 +161,7 @@ void HistogramPlot::updateLayout()
             // Lets the widget lay out its scale with the labels that it has now.
             QResizeEvent resize(widget->size(), widget->size());
             QCoreApplication::sendEvent(widget, &resize);
-            int start = 0;
-            int end = 0;
-            widget->getBorderDistHint(start, end);
-            widget->setBorderDist(start, end);
+            takeWantedBorders(widget);
         }
     }
     if (!isPanning || !layOutQuickly()) {
@@ -182,8 +187,7 @@ bool HistogramPlot::layOutQuickly()
         const FixedBorders fixed(widget, borders, labelled);
         QwtPlot::updateLayout();
     }
-    const ScaleMeasure measure(*widget->scaleDraw(), labelled, widget->font());
-    if (measure.borders(*widget) == borders) {
+    if (ScaleMeasure(*widget).borders(*widget) == borders) {
         return true;
     }
     widget->setGeometry(place);
@@ -207,11 +211,7 @@ QSize HistogramPlot::minimumSizeHint() const
 void HistogramPlot::showEvent(QShowEvent *event)
 {
     QwtPlot::showEvent(event);
-    QwtScaleWidget *xScale = axisWidget(xBottom);
-    int start = 0;
-    int end = 0;
-    xScale->getBorderDistHint(start, end);
-    xScale->setBorderDist(start, end);
+    takeWantedBorders(axisWidget(xBottom));
     updateLayout();
 }
 
@@ -260,9 +260,7 @@ void HistogramPlot::updateAxesMeasuring(Measured which)
 bool HistogramPlot::hasOldBorders(int axis) const
 {
     const QwtScaleWidget *widget = axisWidget(axis);
-    const QwtScaleDraw *draw = widget->scaleDraw();
-    const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), widget->font());
-    return measure.borders(*widget) == bordersOf(widget);
+    return ScaleMeasure(*widget).borders(*widget) == bordersOf(widget);
 }
 
 /**
@@ -277,7 +275,7 @@ bool HistogramPlot::moveXAxis()
     if (!axisEnabled(xBottom) || widget->isColorBarEnabled() || !widget->title().isEmpty()) {
         return false;
     }
-    const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), widget->font());
+    const ScaleMeasure measure(*widget);
     const DrawnScale before = drawnScale(xBottom);
     const ScaleBorders borders = bordersOf(widget);
     if (axisScaleDiv(xBottom) != before.scale) {

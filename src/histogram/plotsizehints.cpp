@@ -39,7 +39,7 @@ std::optional<Axis> axisOf(const QwtScaleWidget &widget)
 {
     const QwtScaleDraw *draw = widget.scaleDraw();
     const QFont font = widget.font();
-    const ScaleMeasure measure(*draw, dynamic_cast<const LabelledScale *>(draw), font);
+    const ScaleMeasure measure(widget);
     const auto minLength = measure.minLength();
     const auto borders = measure.borders(widget);
     if (!minLength || !borders) {

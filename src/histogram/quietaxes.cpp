@@ -10,11 +10,14 @@
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
+bool mayBeQuiet(const QwtPlot &plot)
+{
+    return ChartShortcuts::areEnabled() && !plot.testAttribute(Qt::WA_WState_Polished);
+}
+
 QuietScale::QuietScale(const QwtPlot *plot, QwtScaleDraw *quietDraw)
-    : draw(ChartShortcuts::areEnabled() && !plot->testAttribute(Qt::WA_WState_Polished)
-                   && quietDraw->hasComponent(QwtAbstractScaleDraw::Labels)
-               ? quietDraw
-               : nullptr)
+    : draw(mayBeQuiet(*plot) && quietDraw->hasComponent(QwtAbstractScaleDraw::Labels) ? quietDraw
+                                                                                      : nullptr)
 {
     if (draw) {
         draw->enableComponent(QwtAbstractScaleDraw::Labels, false);
@@ -28,11 +31,10 @@ QuietScale::~QuietScale()
     }
 }
 
-QuietAxes::QuietAxes(const QwtPlot *plot)
+QuietAxes::QuietAxes(QwtPlot *plot)
 {
     for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
-        // Only the draw of a constant plot would be constant.
-        scales[axis].emplace(plot, const_cast<QwtScaleDraw *>(plot->axisScaleDraw(axis)));
+        scales[axis].emplace(plot, plot->axisScaleDraw(axis));
     }
 }
 

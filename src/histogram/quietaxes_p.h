@@ -21,9 +21,12 @@ class QwtScaleDraw;
  * is shown.
  */
 
+/** True for a plot that was never shown, unless the quick ways are shut off. */
+bool mayBeQuiet(const QwtPlot &plot);
+
 /**
- * Takes the labels off a scale draw for as long as this lives, if its plot is new. The draw must
- * live longer.
+ * Takes the labels off a scale draw for as long as this lives, if its plot may be quiet. The draw
+ * must live longer.
  */
 class QuietScale
 {
@@ -41,7 +44,7 @@ private:
 class QuietAxes
 {
 public:
-    explicit QuietAxes(const QwtPlot *plot);
+    explicit QuietAxes(QwtPlot *plot);
 
 private:
     std::array<std::optional<QuietScale>, QwtPlot::axisCnt> scales;

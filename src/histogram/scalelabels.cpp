@@ -25,8 +25,6 @@
 
 namespace {
 
-/** More than a year of week dates; a scale shows ten. */
-constexpr int mostLabels = 100;
 /** The charts of a page have three. */
 constexpr std::size_t mostFonts = 6;
 
@@ -176,6 +174,12 @@ QPointF labelCorner(const QwtScaleDraw &draw, const QPointF &position, const QSi
         y = 0.0;
     }
     return QPointF(position.x() + x, position.y() + y);
+}
+
+ScaleMeasure::ScaleMeasure(const QwtScaleWidget &widget)
+    : ScaleMeasure(*widget.scaleDraw(), dynamic_cast<const LabelledScale *>(widget.scaleDraw()),
+                   widget.font())
+{
 }
 
 std::optional<QSizeF> ScaleMeasure::largestLabel() const

@@ -44,6 +44,9 @@ const Label *find(const QString &text, const QFont &font);
 /** Another number when what find() has answered before holds no longer. */
 int generation();
 
+/** So many are remembered of a font or a scale, which shows ten; more than a year of week dates. */
+constexpr int mostLabels = 100;
+
 } // namespace ScaleLabels
 
 /** The distances of a scale's ends from the edges of its widget, in pixels. */
@@ -90,6 +93,9 @@ public:
         : draw(measuredDraw), labelled(ownDraw), font(usedFont)
     {
     }
+
+    /** Measures the scale that @p widget shows, in the font of the widget. */
+    explicit ScaleMeasure(const QwtScaleWidget &widget);
 
     /** As QwtScaleDraw::maxLabelWidth(). */
     std::optional<int> maxLabelWidth() const;

@@ -34,12 +34,11 @@ constexpr int dragThreshold = 5; // pixels
 constexpr int canvasMarginRight = 10; // pixels
 
 /** As QwtScaleDraw::maxLabelWidth(), quickly for the library's own scales. */
-int widestLabel(const QwtScaleDraw &draw, const QFont &font)
+int widestLabel(const QwtScaleWidget &scale)
 {
-    const auto *labelled =
-        ChartShortcuts::areEnabled() ? dynamic_cast<const LabelledScale *>(&draw) : nullptr;
-    const auto width = ScaleMeasure(draw, labelled, font).maxLabelWidth();
-    return width ? *width : draw.maxLabelWidth(font);
+    const auto width =
+        ChartShortcuts::areEnabled() ? ScaleMeasure(scale).maxLabelWidth() : std::nullopt;
+    return width ? *width : scale.scaleDraw()->maxLabelWidth(scale.font());
 }
 
 /** Of the minimum size hint, whose width nobody has to measure. */
@@ -135,7 +134,7 @@ void ZEMHistogram::initAxis()
     QwtScaleWidget *xScale = plot->axisWidget(QwtPlot::xBottom);
     xScale->setFont(fontOfScale(xScale, 11));
     // Half of a label may stand out beyond the last tick.
-    const int labelWidth = widestLabel(*xScale->scaleDraw(), xScale->font());
+    const int labelWidth = widestLabel(*xScale);
     xScale->setMinBorderDist(0, (labelWidth + 1) / 2);
     xScale->setMargin(0);
 
