@@ -16,6 +16,7 @@
 #include <memory>
 
 using DialogTest::buttonOf;
+using DialogTest::checkExecShowsAModalDialog;
 using DialogTest::inTheLoop;
 using DialogTest::Page;
 using DialogTest::touch;
@@ -118,22 +119,7 @@ void tst_ZEMDialogShowTextLoops::resetAfterATouchLeavesTheAnswer()
 
 void tst_ZEMDialogShowTextLoops::execShowsAModalDialog()
 {
-    for (const bool child : {true, false}) {
-        Page page;
-        ZEMDialogShowText dialog(child ? &page : nullptr);
-        buttonOf(dialog, "btnAccepted")->setEnabled(false);
-        bool done = false;
-        inTheLoop([&] {
-            QVERIFY(dialog.isVisible());
-            QVERIFY(dialog.isModal());
-            QVERIFY(dialog.testAttribute(Qt::WA_ShowModal));
-            QVERIFY(buttonOf(dialog, "btnAccepted")->isEnabled());
-            done = true;
-            dialog.reset();
-        });
-        QVERIFY(!dialog.exec());
-        QVERIFY(done);
-    }
+    checkExecShowsAModalDialog<ZEMDialogShowText>({"btnAccepted"});
 }
 
 void tst_ZEMDialogShowTextLoops::execShowsTheStartOfTheText()

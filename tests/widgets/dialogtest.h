@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <initializer_list>
+
 /** What the tests of the dialogs that wait for their answer share. */
 namespace DialogTest {
 
@@ -49,6 +51,33 @@ public:
 
     bool isReady = false;
 };
+
+/** Checks that exec() shows a modal dialog, on a page and without one, with these buttons enabled.
+ */
+template <typename Dialog>
+void checkExecShowsAModalDialog(std::initializer_list<const char *> buttons)
+{
+    for (const bool child : {true, false}) {
+        Page page;
+        Dialog dialog(child ? &page : nullptr);
+        for (const char *button : buttons) {
+            buttonOf(dialog, button)->setEnabled(false);
+        }
+        bool done = false;
+        inTheLoop([&] {
+            QVERIFY(dialog.isVisible());
+            QVERIFY(dialog.isModal());
+            QVERIFY(dialog.testAttribute(Qt::WA_ShowModal));
+            for (const char *button : buttons) {
+                QVERIFY(buttonOf(dialog, button)->isEnabled());
+            }
+            done = true;
+            dialog.reset();
+        });
+        QVERIFY(!dialog.exec());
+        QVERIFY(done);
+    }
+}
 
 /** Ends the program if a loop does not end: no test could go on. */
 class Watchdog

@@ -69,24 +69,7 @@ void tst_ZEMDialogPopupLoops::execTellsTheAnswer()
 
 void tst_ZEMDialogPopupLoops::execShowsAModalDialogWithBothButtons()
 {
-    for (const bool child : {true, false}) {
-        Page page;
-        ZEMDialogPopup dialog(child ? &page : nullptr);
-        buttonOf(dialog, "btnAccepted")->setEnabled(false);
-        buttonOf(dialog, "btnRejected")->setEnabled(false);
-        bool done = false;
-        inTheLoop([&] {
-            QVERIFY(dialog.isVisible());
-            QVERIFY(dialog.isModal());
-            QVERIFY(dialog.testAttribute(Qt::WA_ShowModal));
-            QVERIFY(buttonOf(dialog, "btnAccepted")->isEnabled());
-            QVERIFY(buttonOf(dialog, "btnRejected")->isEnabled());
-            done = true;
-            dialog.reset();
-        });
-        QVERIFY(!dialog.exec());
-        QVERIFY(done);
-    }
+    checkExecShowsAModalDialog<ZEMDialogPopup>({"btnAccepted", "btnRejected"});
 }
 
 void tst_ZEMDialogPopupLoops::everyExecBeginsAnew()
