@@ -3,9 +3,42 @@
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
 
+# Tests see nothing of whose desktop they run on: they have a home, a screen, a language and a time
+# zone of their own, and know nothing of styles and scales that were chosen elsewhere. LC_ALL wins
+# over all other LC_*.
 set(ZEM_TEST_RUNTIME_DIR "${PROJECT_BINARY_DIR}/tests/runtime")
-file(MAKE_DIRECTORY "${ZEM_TEST_RUNTIME_DIR}")
+set(ZEM_TEST_HOME "${PROJECT_BINARY_DIR}/tests/home")
+file(MAKE_DIRECTORY "${ZEM_TEST_RUNTIME_DIR}" "${ZEM_TEST_HOME}")
 file(CHMOD "${ZEM_TEST_RUNTIME_DIR}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+set(ZEM_TEST_ENVIRONMENT
+    "HOME=${ZEM_TEST_HOME}"
+    "XDG_RUNTIME_DIR=${ZEM_TEST_RUNTIME_DIR}"
+    LC_ALL=C.UTF-8
+    TZ=UTC
+    QT_QPA_PLATFORM=offscreen
+    QT_FONT_DPI=96
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+set(ZEM_TEST_UNSET
+    LANG LANGUAGE
+    DESKTOP_SESSION GNOME_DESKTOP_SESSION_ID GTK_MODULES GTK_PATH GTK_RC_FILES GTK2_RC_FILES GTK_THEME
+    KDE_FULL_SESSION KDE_SESSION_UID KDE_SESSION_VERSION KDEDIRS KDEHOME
+    XDG_CACHE_HOME XDG_CONFIG_DIRS XDG_CONFIG_HOME XDG_CURRENT_DESKTOP XDG_DATA_DIRS XDG_DATA_HOME
+    XDG_MENU_PREFIX XDG_SESSION_CLASS XDG_SESSION_DESKTOP XDG_SESSION_TYPE XDG_STATE_HOME
+    QT_ACCESSIBILITY QT_LINUX_ACCESSIBILITY_ALWAYS_ON QT_IM_MODULE
+    QT_AUTO_SCREEN_SCALE_FACTOR QT_DEVICE_PIXEL_RATIO QT_DPI_ADJUSTMENT_POLICY
+    QT_ENABLE_HIGHDPI_SCALING QT_SCALE_FACTOR QT_SCALE_FACTOR_ROUNDING_POLICY
+    QT_SCREEN_SCALE_FACTORS QT_USE_PHYSICAL_DPI
+    QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE
+    QTEST_KEYEVENT_DELAY QTEST_MOUSEEVENT_DELAY)
+list(TRANSFORM ZEM_TEST_UNSET APPEND "=unset:")
+
+# zem_set_test_environment(<test>...)
+#   What every test runs in, whatever it is.
+function(zem_set_test_environment)
+    set_tests_properties(${ARGN} PROPERTIES
+        ENVIRONMENT "${ZEM_TEST_ENVIRONMENT}"
+        ENVIRONMENT_MODIFICATION "${ZEM_TEST_UNSET}")
+endfunction()
 
 # What makes a test fail: every warning but "This plugin does not support propagateSizeHints()", which
 # the offscreen platform gives for each window with a minimum size.
@@ -59,6 +92,6 @@ function(zem_add_test name)
     set_tests_properties(${name} PROPERTIES
         LABELS "${labels}"
         TIMEOUT 300
-        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${ZEM_TEST_RUNTIME_DIR};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
+    zem_set_test_environment(${name})
 endfunction()
