@@ -42,6 +42,20 @@ function(zem_add_helpers)
     endforeach()
 endfunction()
 
+# zem_add_forms(<target> <form>...)
+#   Makes ui_<form>.h of each form for the target, which is one of the current folder. AUTOUIC makes
+#   them beside the build's graph: a build after a form was edited would compile nothing.
+function(zem_add_forms target)
+    # What it left in a build tree would be found first.
+    file(GLOB stale "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include/ui_*.h")
+    if(stale)
+        file(REMOVE ${stale})
+    endif()
+    qt5_wrap_ui(headers ${ARGN})
+    target_sources(${target} PRIVATE ${headers})
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+endfunction()
+
 # zem_finish_headers()
 #   Writes <Zemkit>, which includes every public header, and installs headers and forwarders.
 function(zem_finish_headers)

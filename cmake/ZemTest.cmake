@@ -79,7 +79,7 @@ function(zem_add_test name)
     endif()
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
     # A test is one file with its classes in it: moc alone is half the work of AUTOMOC.
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     set(moc_directory "${CMAKE_CURRENT_BINARY_DIR}/moc")
     qt5_generate_moc(${name}.cpp "${moc_directory}/${name}.moc")
     target_sources(${name} PRIVATE "${moc_directory}/${name}.moc")
