@@ -3,6 +3,11 @@
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
 
+# Seconds after which a test hangs, and milliseconds after which one of its functions does: far more
+# than any takes on a slow and busy machine or under memcheck.
+set(ZEM_TEST_TIMEOUT 7200)
+set(ZEM_TEST_FUNCTION_TIMEOUT 3600000)
+
 # Tests see nothing of whose desktop they run on: they have a home, a screen, a language and a time
 # zone of their own, and know nothing of styles and scales that were chosen elsewhere. LC_ALL wins
 # over all other LC_*.
@@ -17,6 +22,7 @@ set(ZEM_TEST_ENVIRONMENT
     TZ=UTC
     QT_QPA_PLATFORM=offscreen
     QT_FONT_DPI=96
+    QTEST_FUNCTION_TIMEOUT=${ZEM_TEST_FUNCTION_TIMEOUT}
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
 set(ZEM_TEST_UNSET
     LANG LANGUAGE
@@ -91,7 +97,7 @@ function(zem_add_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${labels}"
-        TIMEOUT 300
+        TIMEOUT ${ZEM_TEST_TIMEOUT}
         FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
     zem_set_test_environment(${name})
 endfunction()

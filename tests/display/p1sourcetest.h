@@ -5,6 +5,7 @@
 #define P1SOURCETEST_H
 
 #include "p1samples.h"
+#include "zemtest.h"
 
 #include <QSignalSpy>
 #include <QStringList>
@@ -32,6 +33,12 @@ inline QStringList linesOf(const QSignalSpy &spy)
         lines.append(arguments.constFirst().toString());
     }
     return lines;
+}
+
+/** The telegram that a signal told. */
+inline P1Telegram telegramOf(const QSignalSpy &spy, int index)
+{
+    return spy.at(index).constFirst().value<P1Telegram>();
 }
 
 } // namespace P1SourceTest

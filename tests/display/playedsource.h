@@ -59,7 +59,7 @@ public:
     bool show()
     {
         window.show();
-        return QTest::qWaitForWindowExposed(&window);
+        return QTest::qWaitForWindowExposed(&window, ZemTest::hangs);
     }
 
     QString page() const { return window.currentWidget()->objectName(); }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "zemtest.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -49,7 +51,7 @@ tst_DisplayProgram::Result tst_DisplayProgram::run(const QStringList &arguments)
     QProcess process;
     process.start(QStringLiteral(DISPLAY_PROGRAM), arguments);
     Result result;
-    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+    if (process.waitForFinished(ZemTest::hangs) && process.exitStatus() == QProcess::NormalExit) {
         result.status = process.exitCode();
     }
     result.output = QString::fromUtf8(process.readAllStandardOutput());

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "effort.h"
 #include "meter.h"
 #include "quantity.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 #include <algorithm>
 #include <limits>
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void nonsenseIsRefused();
     void stepsAreFoundFromTheEnd();
     void emptyMeterKnowsNothing();
-    void manyReadingsAreFast();
+    void effortGrowsWithTheReadings();
 };
 
 void TestMeter::counterAnswersTheDifferenceAtTheBorders()
@@ -419,25 +419,28 @@ void TestMeter::emptyMeterKnowsNothing()
     }
 }
 
-// A quadratic way would take minutes here.
-void TestMeter::manyReadingsAreFast()
+static double amountsOfMany(int count)
 {
-    constexpr int Count = 300000;
-    QElapsedTimer timer;
-    timer.start();
     Meter forward = counter();
     Meter backward = counter();
     Meter rows = amounts();
     double sum = 0.0;
-    for (int i = 0; i < Count; ++i) {
+    for (int i = 0; i < count; ++i) {
         forward.addReading(i * 60, i * 0.001);
         sum += forward.amount((i - 60) * 60, i * 60).value_or(0.0);
-        backward.addReading((Count - i) * 60, (Count - i) * 0.001);
-        rows.addAmount({(Count - i) * 60, (Count - i + 1) * 60}, 0.001);
+        backward.addReading((count - i) * 60, (count - i) * 0.001);
+        rows.addAmount({(count - i) * 60, (count - i + 1) * 60}, 0.001);
     }
-    sum += backward.total() + rows.total();
+    return sum + backward.total() + rows.total();
+}
+
+void TestMeter::effortGrowsWithTheReadings()
+{
+    double sum = 0.0;
+    const double times = ZemTest::effortBeside([&] { sum += amountsOfMany(10000); },
+                                               [&] { sum += amountsOfMany(160000); });
     QVERIFY(sum > 0.0);
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(times < 64.0, qPrintable(QString::number(times)));
 }
 
 QTEST_APPLESS_MAIN(TestMeter)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calendar.h"
+#include "effort.h"
 #include "houserecorder.h"
 #include "housetest.h"
 #include "simulatedhouse.h"
@@ -10,8 +11,6 @@
 #include <QRandomGenerator>
 #include <QTest>
 #include <QVector>
-
-#include <ctime>
 
 using namespace HouseTest;
 using namespace Readings;
@@ -77,7 +76,7 @@ private Q_SLOTS:
     void timeThatGoesBackChangesNothing();
     void startIsCutToTheMinute();
     void invalidZoneIsUtc();
-    void twoYearsAreQuick();
+    void effortGrowsWithTheDays();
 };
 
 void tst_SimulatedHouse::sameSeedIsTheSameHouse()
@@ -466,19 +465,14 @@ void tst_SimulatedHouse::invalidZoneIsUtc()
     QCOMPARE(house.dayAt(house.start()).from, house.start());
 }
 
-void tst_SimulatedHouse::twoYearsAreQuick()
+void tst_SimulatedHouse::effortGrowsWithTheDays()
 {
-    const SimulatedHouse house = dutchHouse(5);
-    const std::clock_t before = std::clock();
-    const Household household = house.history(midnight(QDate(2025, 1, 1)));
-    const double seconds = double(std::clock() - before) / CLOCKS_PER_SEC;
-#ifdef NDEBUG
-    const double most = 1.0;
-#else
-    const double most = 20.0;
-#endif
-    QVERIFY2(seconds < most, qPrintable(QString::number(seconds)));
-    QVERIFY(household.total(Quantity::GridImport) > 5000.0);
+    const auto live = [](int days) {
+        const SimulatedHouse house = dutchHouse(5);
+        QVERIFY(house.history(house.start() + days * day).total(Quantity::GridImport) > 0.0);
+    };
+    const double times = ZemTest::effortBeside([&] { live(20); }, [&] { live(320); });
+    QVERIFY2(times < 64.0, qPrintable(QString::number(times)));
 }
 
 QTEST_GUILESS_MAIN(tst_SimulatedHouse)

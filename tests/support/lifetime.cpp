@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "lifetime.h"
+#include "zemtest.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -71,7 +72,7 @@ QWidget *shownPage()
     auto *page = new QWidget;
     page->resize(640, 480);
     page->show();
-    if (!QTest::qWaitForWindowExposed(page)) {
+    if (!QTest::qWaitForWindowExposed(page, ZemTest::hangs)) {
         qWarning("the page is not on the screen");
     }
     return page;

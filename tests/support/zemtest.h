@@ -16,6 +16,18 @@ class QWidget;
 /** What the tests of painting and touching widgets share. */
 namespace ZemTest {
 
+/**
+ * After so many milliseconds what a test waits for does not come any more: the limit of every wait
+ * for something that must happen, be it a signal, a window or another program. It is long, since a
+ * machine may be slow and busy, and costs nothing where nothing is wrong.
+ */
+constexpr int hangs = 600000;
+
+/** QTRY_VERIFY and QTRY_COMPARE with that limit; Qt's own is five seconds. */
+#define ZEM_TRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT((condition), ZemTest::hangs)
+#define ZEM_TRY_COMPARE(actual, expected)                                                          \
+    QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), ZemTest::hangs)
+
 /** A picture of one colour, so that a pixel tells which picture was painted. */
 QPixmap flatPixmap(const QSize &size, const QColor &color);
 
