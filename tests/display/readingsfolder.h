@@ -32,8 +32,9 @@ public:
     QString write(const QString &name, const QByteArray &content)
     {
         QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
             qFatal("the test cannot write its file");
+        }
         return file.fileName();
     }
 
@@ -42,8 +43,9 @@ public:
     {
         const QString file = write(QStringLiteral("readings.csv"), content);
         Readings::Household household = Readings::loadReadings({file});
-        for (QString &line : household.problems)
+        for (QString &line : household.problems) {
             line.replace(file, QStringLiteral("FILE"));
+        }
         return household;
     }
 

@@ -31,8 +31,9 @@ qint64 utc(const QDate &date, int hour)
 Meter steadyMeter(const Interval &interval)
 {
     Meter meter(Meter::Kind::Counter, 25.0);
-    for (qint64 instant = interval.from; instant <= interval.to; instant += Hour)
+    for (qint64 instant = interval.from; instant <= interval.to; instant += Hour) {
         meter.addReading(instant, static_cast<double>((instant - interval.from) / Hour));
+    }
     return meter;
 }
 
@@ -93,8 +94,9 @@ void TestCalendar::hoursOfEveryDayTouch_data()
 {
     QTest::addColumn<QByteArray>("zone");
     for (const char *zone : {"Europe/Amsterdam", "America/Vancouver", "Australia/Lord_Howe",
-                             "America/Havana", "Asia/Beirut", "UTC"})
+                             "America/Havana", "Asia/Beirut", "UTC"}) {
         QTest::newRow(zone) << QByteArray(zone);
+    }
 }
 
 void TestCalendar::hoursOfEveryDayTouch()
@@ -148,8 +150,9 @@ void TestCalendar::invalidQuestionsAreEmpty()
     const Meter meter = steadyMeter(calendar.day(plainDay));
     const Calendar::Amounts amounts = calendar.hoursOfDay({&meter}, QDate());
     QCOMPARE(amounts.size(), std::size_t(24));
-    for (const std::optional<double> &amount : amounts)
+    for (const std::optional<double> &amount : amounts) {
         QVERIFY(!amount);
+    }
     QCOMPARE(calendar.daysOfWeek({&meter}, QDate()), Calendar::Amounts(7, std::nullopt));
     QCOMPARE(calendar.hoursOfDay({}, plainDay), Calendar::Amounts(24, std::nullopt));
 }

@@ -46,8 +46,9 @@ private:
 QString TestCsvReader::write(const QByteArray &content)
 {
     QFile file(folder.filePath(QStringLiteral("lines.csv")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
         qFatal("the test cannot write its file");
+    }
     return file.fileName();
 }
 
@@ -107,8 +108,9 @@ void TestCsvReader::overlongLineIsOneLine()
 void TestCsvReader::lineWithoutEndDoesNotHang()
 {
     const QString path = QStringLiteral("/dev/zero");
-    if (!QFile::exists(path))
+    if (!QFile::exists(path)) {
         return; // this system has no such file
+    }
     CsvReader reader(path);
     QCOMPARE(reader.open(), QString());
     QVERIFY(reader.nextLine());
@@ -151,8 +153,9 @@ void TestCsvReader::split()
     std::vector<std::string_view> fields;
     QCOMPARE(CsvReader::split(view(line), ',', fields), good);
     QByteArrayList found;
-    for (const std::string_view field : fields)
+    for (const std::string_view field : fields) {
         found.append(bytes(field));
+    }
     QCOMPARE(found, expected);
 }
 
@@ -201,8 +204,9 @@ void TestCsvReader::numbers()
     QFETCH(double, number);
     const std::optional<double> found = parseNumber(view(text), sign);
     QCOMPARE(found.has_value(), !qIsNaN(number));
-    if (found)
+    if (found) {
         QCOMPARE(*found, number);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestCsvReader)

@@ -33,8 +33,9 @@ Meter amounts()
 Meter hourly(const Values &values)
 {
     Meter meter = counter();
-    for (int i = 0; i < values.size(); ++i)
+    for (int i = 0; i < values.size(); ++i) {
         meter.addReading(i * Hour, values.at(i), i);
+    }
     return meter;
 }
 
@@ -42,8 +43,9 @@ Indexes faultsOf(const Meter &meter, Fault::Kind kind)
 {
     Indexes tags;
     for (const Fault &fault : meter.faults()) {
-        if (fault.kind == kind)
+        if (fault.kind == kind) {
             tags.append(static_cast<int>(fault.tag));
+        }
     }
     std::sort(tags.begin(), tags.end());
     return tags;
@@ -178,15 +180,17 @@ void TestMeter::wrongReadings()
     QFETCH(Indexes, breaks);
 
     const Meter meter = hourly(values);
-    for (int i = 0; i < values.size(); ++i)
+    for (int i = 0; i < values.size(); ++i) {
         QCOMPARE(meter.readingAt(i * Hour).has_value(), !missing.contains(i));
+    }
     double sum = 0.0;
     for (int i = 1; i < values.size(); ++i) {
         const bool gap = missing.contains(i) || missing.contains(i - 1) || breaks.contains(i);
         const std::optional<double> amount = meter.amount((i - 1) * Hour, i * Hour);
         QCOMPARE(amount.has_value(), !gap);
-        if (gap)
+        if (gap) {
             continue;
+        }
         QCOMPARE(*amount, values.at(i) - values.at(i - 1));
         QVERIFY(*amount >= 0.0);
         sum += *amount;
@@ -295,8 +299,9 @@ void TestMeter::amountsAddUpWhereTheyCoverTheSlot()
 {
     Meter meter = amounts();
     for (int quarter = 0; quarter < 12; ++quarter) {
-        if (quarter != 6)
+        if (quarter != 6) {
             meter.addAmount({quarter * Hour / 4, (quarter + 1) * Hour / 4}, 0.25);
+        }
     }
     QCOMPARE(meter.kind(), Meter::Kind::Amounts);
     QCOMPARE(meter.amount(0, Hour), std::optional<double>(1.0));

@@ -42,13 +42,16 @@ struct Model
         const Item *start = nullptr;
         const Item *end = nullptr;
         for (const Item &item : items) {
-            if (item.instant == from)
+            if (item.instant == from) {
                 start = &item;
-            if (item.instant == to)
+            }
+            if (item.instant == to) {
                 end = &item;
+            }
         }
-        if (from >= to || !start || !end || start->segment != end->segment)
+        if (from >= to || !start || !end || start->segment != end->segment) {
             return std::nullopt;
+        }
         return end->value - start->value;
     }
 
@@ -57,10 +60,12 @@ struct Model
         double sum = 0.0;
         const Item *previous = nullptr;
         for (const Item &item : items) {
-            if (item.instant < from || item.instant > to)
+            if (item.instant < from || item.instant > to) {
                 continue;
-            if (previous && previous->segment == item.segment)
+            }
+            if (previous && previous->segment == item.segment) {
                 sum += item.value - previous->value;
+            }
             previous = &item;
         }
         return sum;
@@ -100,8 +105,9 @@ Model judged(std::vector<Model::Item> list)
         } else if (beforeIsWrong) {
             list.erase(list.begin() + static_cast<std::ptrdiff_t>(i - 1));
         } else {
-            for (std::size_t k = i; k < list.size(); ++k)
+            for (std::size_t k = i; k < list.size(); ++k) {
                 ++list[k].segment;
+            }
             ++i;
         }
     }
@@ -118,10 +124,11 @@ public:
         for (int i = 0; i < count; ++i) {
             instant += below(10) == 0 ? Hour * (2 + below(60)) : Hour;
             const bool mayFail = quiet >= 4 && i + 4 < count;
-            if (mayFail && below(12) == 0)
+            if (mayFail && below(12) == 0) {
                 fail(instant);
-            else
+            } else {
                 goOn(instant);
+            }
         }
     }
 
@@ -195,8 +202,9 @@ void TestMeterHistories::everyShortHistoryIsJudgedByTheRules()
     const std::vector<double> steps {0.0, 1.0, 20.0, 40.0, 60.0, 120.0};
     constexpr int Length = 6;
     int count = 1;
-    for (int i = 0; i < Length; ++i)
+    for (int i = 0; i < Length; ++i) {
         count *= static_cast<int>(steps.size());
+    }
     for (int code = 0; code < count; ++code) {
         Meter meter = counter();
         std::vector<Model::Item> items;
@@ -212,9 +220,10 @@ void TestMeterHistories::everyShortHistoryIsJudgedByTheRules()
                 const std::optional<double> expected = model.amount(from * Hour, to * Hour);
                 const double total = model.total(from * Hour, to * Hour);
                 if (meter.amount(from * Hour, to * Hour) != expected
-                    || std::abs(meter.total(from * Hour, to * Hour) - total) > 1e-9)
+                    || std::abs(meter.total(from * Hour, to * Hour) - total) > 1e-9) {
                     QFAIL(qPrintable(
                         QStringLiteral("history %1, %2 to %3").arg(code).arg(from).arg(to)));
+                }
             }
         }
     }
@@ -228,28 +237,33 @@ void TestMeterHistories::randomCountersMatchTheTruth()
         const FaultyMeter faulty(seed, 120);
         wrongOnes += faulty.wrongOnes;
         std::vector<Reading> fed = faulty.fed;
-        if (seed % 3 == 0)
+        if (seed % 3 == 0) {
             std::shuffle(fed.begin(), fed.end(), random);
-        if (seed % 3 == 1)
+        }
+        if (seed % 3 == 1) {
             std::rotate(fed.begin(), fed.begin() + 40, fed.end());
+        }
         Meter meter = counter();
         for (const Reading &reading : fed) {
             meter.addReading(reading.instant, reading.value);
             // A question in between must not spoil what comes later.
-            if (reading.instant % 5 == 0)
+            if (reading.instant % 5 == 0) {
                 meter.amount(0, Hour);
+            }
         }
         // What comes later for the same instants does not count, wherever it comes.
         std::shuffle(fed.begin(), fed.end(), random);
-        for (const Reading &reading : fed)
+        for (const Reading &reading : fed) {
             meter.addReading(reading.instant, reading.value + 1.0);
+        }
         std::uniform_int_distribution<std::size_t> pick(0, faulty.instants.size() - 1);
         for (int question = 0; question < 300; ++question) {
             const qint64 from = faulty.instants[pick(random)] + (question % 10 == 0 ? 1 : 0);
             const qint64 to = faulty.instants[pick(random)] - (question % 11 == 0 ? 1 : 0);
             QCOMPARE(meter.amount(from, to), faulty.truth.amount(from, to));
-            if (from <= to)
+            if (from <= to) {
                 QVERIFY(std::abs(meter.total(from, to) - faulty.truth.total(from, to)) < 1e-6);
+            }
         }
     }
     QVERIFY(wrongOnes > 1000);
@@ -264,13 +278,15 @@ void TestMeterHistories::randomAmountsMatchAPlainSum()
         std::vector<double> truth(200, -1.0);
         for (int row = 0; row < 260; ++row) {
             const int index = round % 2 == 0 ? std::min(row, 199) : slot(random);
-            if (round % 2 == 0 && slot(random) < 10)
+            if (round % 2 == 0 && slot(random) < 10) {
                 continue;
+            }
             const double amount = slot(random) / 16.0;
             meter.addAmount({index * Hour, (index + 1) * Hour}, amount);
             double &known = truth[static_cast<std::size_t>(index)];
-            if (known < 0.0)
+            if (known < 0.0) {
                 known = amount;
+            }
         }
         for (int question = 0; question < 300; ++question) {
             const int from = slot(random);
@@ -284,8 +300,9 @@ void TestMeterHistories::randomAmountsMatchAPlainSum()
             }
             const std::optional<double> answer = meter.amount(from * Hour, to * Hour);
             QCOMPARE(answer.has_value(), covered);
-            if (covered)
+            if (covered) {
                 QCOMPARE(*answer, sum);
+            }
             QCOMPARE(meter.total(from * Hour, to * Hour), sum);
         }
     }

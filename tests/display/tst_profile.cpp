@@ -59,8 +59,9 @@ void TestProfile::wholeHeadersAreFound()
 {
     int found = 0;
     for (const Profile &profile : profiles()) {
-        if (profile.recognition != Profile::Recognition::WholeHeader)
+        if (profile.recognition != Profile::Recognition::WholeHeader) {
             continue;
+        }
         ++found;
         const HeaderMatch match = matchHeader(view(profile.header));
         QCOMPARE(match.profile, &profile);
@@ -71,8 +72,9 @@ void TestProfile::wholeHeadersAreFound()
         QVERIFY(CsvReader::split(view(profile.header), profile.separator, fields));
         QCOMPARE(match.fieldCount, fields.size());
         QVERIFY(fields[match.timeField] == view(profile.timeColumn));
-        for (const HeaderMatch::UsedColumn &used : match.columns)
+        for (const HeaderMatch::UsedColumn &used : match.columns) {
             QVERIFY(fields[used.field] == view(used.column->name));
+        }
     }
     QCOMPARE(found, 6);
 }

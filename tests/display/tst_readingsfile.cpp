@@ -318,8 +318,9 @@ void TestReadingsFile::singleTimeBeforeTheClockIsPutBackIsSummerTime()
     const Meter &meter = household.meters.at(importSingle);
     const qint64 start = utc("2016-10-30T00:00:00");
     const QVector<int> minutes {0, 15, 30, 60, 90, 105};
-    for (int i = 0; i < minutes.size(); ++i)
+    for (int i = 0; i < minutes.size(); ++i) {
         QCOMPARE(meter.readingAt(start + minutes.at(i) * Minute), Amount(i + 1.0));
+    }
 }
 
 void TestReadingsFile::doubledHoursOfEachYearAreToldApart()
@@ -464,13 +465,15 @@ void TestReadingsFile::everythingElseOfABrokenFileIsRead()
 void TestReadingsFile::thousandsOfBrokenRowsAreSummedUp()
 {
     QByteArray content = "time,gas_m3\n2024-05-01T00:00Z,10\n";
-    for (int row = 0; row < 3000; ++row)
+    for (int row = 0; row < 3000; ++row) {
         content += "no row\n";
+    }
     content += "2024-05-01T01:00Z,11\n";
     const Household household = folder.load(content);
     QCOMPARE(household.problems.size(), ProblemList::ToldPerKind + 1);
-    for (int i = 0; i < ProblemList::ToldPerKind; ++i)
+    for (int i = 0; i < ProblemList::ToldPerKind; ++i) {
         QVERIFY(household.problems.at(i).startsWith(QStringLiteral("FILE:%1: ").arg(i + 3)));
+    }
     QCOMPARE(
         household.problems.last(),
         QStringLiteral("FILE: %1 more broken rows, left out").arg(3000 - ProblemList::ToldPerKind));
@@ -493,8 +496,9 @@ void TestReadingsFile::fileThatFailsToReadIsTold()
 {
     // On Linux this file can be opened, and reading its first page fails.
     const QString path = QStringLiteral("/proc/self/mem");
-    if (!QFileInfo::exists(path))
+    if (!QFileInfo::exists(path)) {
         return;
+    }
     const Household household = loadReadings({path});
     QCOMPARE(household.problems.size(), 1);
     QVERIFY(household.problems.first().startsWith(path + QStringLiteral(": cannot be ")));
@@ -502,8 +506,9 @@ void TestReadingsFile::fileThatFailsToReadIsTold()
 
     const QString locked = folder.write(QStringLiteral("locked.csv"), "time,gas_m3\n");
     QVERIFY(QFile::setPermissions(locked, QFileDevice::Permissions()));
-    if (QFile(locked).open(QIODevice::ReadOnly))
+    if (QFile(locked).open(QIODevice::ReadOnly)) {
         return; // the superuser reads everything
+    }
     QVERIFY(loadReadings({locked}).problems.first().startsWith(
         locked + QStringLiteral(": cannot be opened: ")));
 }

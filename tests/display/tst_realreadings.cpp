@@ -36,8 +36,9 @@ QString pathOf(const QString &name)
 Household load(const QStringList &names)
 {
     QStringList paths;
-    for (const QString &name : names)
+    for (const QString &name : names) {
         paths.append(pathOf(name));
+    }
     return loadReadings(paths);
 }
 
@@ -61,8 +62,9 @@ QString rounded(const std::optional<double> &number, int decimals)
 QStringList problemsOf(const Household &household)
 {
     QStringList lines = household.problems;
-    for (QString &line : lines)
+    for (QString &line : lines) {
         line.remove(0, pathOf(QString()).size() + 1);
+    }
     return lines;
 }
 
@@ -74,16 +76,18 @@ Interval yearOf(const Calendar &calendar, int year)
 int knownIn(const Calendar::Amounts &amounts)
 {
     int known = 0;
-    for (const std::optional<double> &amount : amounts)
+    for (const std::optional<double> &amount : amounts) {
         known += amount ? 1 : 0;
+    }
     return known;
 }
 
 double sumOf(const Calendar::Amounts &amounts)
 {
     double sum = 0.0;
-    for (const std::optional<double> &amount : amounts)
+    for (const std::optional<double> &amount : amounts) {
         sum += amount.value_or(0.0);
+    }
     return sum;
 }
 
@@ -125,8 +129,9 @@ private Q_SLOTS:
 
 void TestRealReadings::initTestCase()
 {
-    if (!QFileInfo::exists(pathOf(germanFile)))
+    if (!QFileInfo::exists(pathOf(germanFile))) {
         QTest::qSkip("there are no household data beside the sources", __FILE__, __LINE__);
+    }
 }
 
 void TestRealReadings::germanYearTotals_data()
@@ -236,8 +241,9 @@ void TestRealReadings::germanHoursWithoutChangeAreZero()
     const Calendar calendar(household.timeZone);
     const auto hours =
         calendar.hoursOfDay(household.metersOf(Quantity::SolarProduction), QDate(2016, 1, 1));
-    for (int hour = 0; hour < 6; ++hour)
+    for (int hour = 0; hour < 6; ++hour) {
         QCOMPARE(hours[static_cast<std::size_t>(hour)], std::optional<double>(0.0));
+    }
 }
 
 void TestRealReadings::germanConsumptionIsNegativeInElevenHours()
@@ -340,8 +346,9 @@ void TestRealReadings::p1StepsBackAreGaps()
     for (const Register &meterRegister : {importLow, exportLow}) {
         const auto hours =
             calendar.hoursOfDay({&household.meters.at(meterRegister)}, QDate(2024, 2, 25));
-        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour)
+        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
             QCOMPARE(hours[static_cast<std::size_t>(hour)].has_value(), hour >= 12);
+        }
     }
     const QString low3638 = QStringLiteral("electricity export (low tariff) 3638.373 ");
     const QString low15521 = QStringLiteral("electricity import (low tariff) 15521.3 ");
@@ -457,8 +464,9 @@ void TestRealReadings::p1FilesMerge()
     QCOMPARE(household.latestPower()->instant, utc("2024-03-03T10:10:00"));
     QVERIFY(low.amount(utc("2024-02-24T10:10:00"), utc("2024-02-24T10:11:00")));
     QVERIFY(low.amount(utc("2023-06-14T10:00:00"), utc("2023-06-14T11:00:00")));
-    for (const QString &line : household.problems)
+    for (const QString &line : household.problems) {
         QVERIFY2(!line.contains(QStringLiteral("another meter")), qPrintable(line));
+    }
 }
 
 void TestRealReadings::portalYearTotals()

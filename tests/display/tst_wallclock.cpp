@@ -100,8 +100,9 @@ void TestWallClock::everyInstantOfAYearIsFoundAgain_data()
 {
     QTest::addColumn<QByteArray>("zone");
     for (const char *zone : {"Europe/Amsterdam", "America/Vancouver", "Australia/Lord_Howe",
-                             "Asia/Kathmandu", "America/Havana", "Pacific/Apia"})
+                             "Asia/Kathmandu", "America/Havana", "Pacific/Apia"}) {
         QTest::newRow(zone) << QByteArray(zone);
+    }
 }
 
 void TestWallClock::everyInstantOfAYearIsFoundAgain()

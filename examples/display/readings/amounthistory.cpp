@@ -40,17 +40,21 @@ void AmountHistory::add(const IntervalAmount &amount)
 std::optional<double> AmountHistory::amount(const Interval &interval) const
 {
     settle();
-    if (interval.isEmpty())
+    if (interval.isEmpty()) {
         return std::nullopt;
+    }
     const RowIterator first = startingNotBefore(interval.from);
-    if (first == rows.cend() || first->data.interval.from != interval.from)
+    if (first == rows.cend() || first->data.interval.from != interval.from) {
         return std::nullopt;
+    }
     const RowIterator afterLast = endingAfter(interval.to);
-    if (afterLast <= first)
+    if (afterLast <= first) {
         return std::nullopt;
+    }
     const RowIterator last = std::prev(afterLast);
-    if (last->data.interval.to != interval.to || last->run != first->run)
+    if (last->data.interval.to != interval.to || last->run != first->run) {
         return std::nullopt;
+    }
     return last->sumAfter() - first->sumBefore;
 }
 
@@ -65,16 +69,18 @@ double AmountHistory::total(const Interval &interval) const
 std::optional<qint64> AmountHistory::firstInstant() const
 {
     settle();
-    if (rows.empty())
+    if (rows.empty()) {
         return std::nullopt;
+    }
     return rows.front().data.interval.from;
 }
 
 std::optional<qint64> AmountHistory::lastInstant() const
 {
     settle();
-    if (rows.empty())
+    if (rows.empty()) {
         return std::nullopt;
+    }
     return rows.back().data.interval.to;
 }
 
@@ -82,8 +88,9 @@ std::optional<Interval> AmountHistory::lastStepUntil(qint64 instant) const
 {
     settle();
     const RowIterator after = endingAfter(instant);
-    if (after == rows.cbegin())
+    if (after == rows.cbegin()) {
         return std::nullopt;
+    }
     return std::prev(after)->data.interval;
 }
 
@@ -114,11 +121,13 @@ void AmountHistory::append(const IntervalAmount &amount) const
 // they came.
 void AmountHistory::settle() const
 {
-    if (late.empty())
+    if (late.empty()) {
         return;
+    }
     std::map<qint64, IntervalAmount> byStart;
-    for (const Row &row : rows)
+    for (const Row &row : rows) {
         byStart.emplace_hint(byStart.end(), row.data.interval.from, row.data);
+    }
     for (const IntervalAmount &added : late) {
         const auto next = byStart.lower_bound(added.interval.from);
         if (next != byStart.end() && overlap(next->second.interval, added.interval)) {
@@ -133,15 +142,17 @@ void AmountHistory::settle() const
     late.clear();
     rows.clear();
     rows.reserve(byStart.size());
-    for (const auto &entry : byStart)
+    for (const auto &entry : byStart) {
         append(entry.second);
+    }
 }
 
 void AmountHistory::reportDouble(const IntervalAmount &known, const IntervalAmount &added) const
 {
     const bool same = known.interval == added.interval;
-    if (same && known.amount == added.amount)
+    if (same && known.amount == added.amount) {
         return;
+    }
     foundFaults.push_back({same ? Fault::Kind::Contradiction : Fault::Kind::Overlap,
                            added.interval.from, added.amount, added.tag});
 }

@@ -20,30 +20,34 @@ Calendar::Calendar(const QTimeZone &zone) : clock(zone) { }
 
 Interval Calendar::hour(const QDate &date, int hour) const
 {
-    if (!date.isValid() || hour < 0 || hour >= HoursPerDay)
+    if (!date.isValid() || hour < 0 || hour >= HoursPerDay) {
         return {};
+    }
     return {border(date, hour), border(date, hour + 1)};
 }
 
 Interval Calendar::day(const QDate &date) const
 {
-    if (!date.isValid())
+    if (!date.isValid()) {
         return {};
+    }
     return {border(date, 0), border(date, HoursPerDay)};
 }
 
 Interval Calendar::week(const QDate &date) const
 {
-    if (!date.isValid())
+    if (!date.isValid()) {
         return {};
+    }
     const QDate monday = mondayOf(date);
     return {border(monday, 0), border(monday.addDays(DaysPerWeek), 0)};
 }
 
 Interval Calendar::month(const QDate &date) const
 {
-    if (!date.isValid())
+    if (!date.isValid()) {
         return {};
+    }
     const QDate first(date.year(), date.month(), 1);
     return {border(first, 0), border(first.addMonths(1), 0)};
 }
@@ -67,8 +71,9 @@ Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) 
 {
     Amounts amounts;
     amounts.reserve(HoursPerDay);
-    for (int slot = 0; slot < HoursPerDay; ++slot)
+    for (int slot = 0; slot < HoursPerDay; ++slot) {
         amounts.push_back(amountIn(meters, hour(date, slot)));
+    }
     return amounts;
 }
 
@@ -80,16 +85,18 @@ Calendar::Amounts Calendar::daysOfWeek(const Meters &meters, const QDate &date) 
 Calendar::Amounts Calendar::days(const Meters &meters, const QDate &first, int count) const
 {
     Amounts amounts;
-    for (int slot = 0; slot < count; ++slot)
+    for (int slot = 0; slot < count; ++slot) {
         amounts.push_back(amountIn(meters, day(first.addDays(slot))));
+    }
     return amounts;
 }
 
 Calendar::Amounts Calendar::weeks(const Meters &meters, const QDate &date, int count) const
 {
     Amounts amounts;
-    for (int slot = 0; slot < count; ++slot)
+    for (int slot = 0; slot < count; ++slot) {
         amounts.push_back(amountIn(meters, week(date.addDays(qint64(slot) * DaysPerWeek))));
+    }
     return amounts;
 }
 
@@ -97,8 +104,9 @@ Calendar::Amounts Calendar::monthsOfYear(const Meters &meters, int year) const
 {
     Amounts amounts;
     amounts.reserve(MonthsPerYear);
-    for (int slot = 1; slot <= MonthsPerYear; ++slot)
+    for (int slot = 1; slot <= MonthsPerYear; ++slot) {
         amounts.push_back(amountIn(meters, month(QDate(year, slot, 1))));
+    }
     return amounts;
 }
 
@@ -107,8 +115,9 @@ std::optional<double> Calendar::amountIn(const Meters &meters, const Interval &s
     Interval counted = slot;
     for (const Meter *meter : meters) {
         const std::optional<qint64> last = meter->lastInstant();
-        if (last && *last > slot.from)
+        if (last && *last > slot.from) {
             counted.to = std::min(counted.to, *last);
+        }
     }
     return sumOfAmounts(meters, counted);
 }

@@ -15,9 +15,10 @@ void CounterHistory::add(const Reading &reading)
         filter.append(reading);
         newest = reading;
     } else if (late.empty() && reading.instant == newest->instant) {
-        if (reading.value != newest->value)
+        if (reading.value != newest->value) {
             contradictions.push_back(
                 {Fault::Kind::Contradiction, reading.instant, reading.value, reading.tag});
+        }
     } else {
         late.push_back(reading);
     }
@@ -27,21 +28,24 @@ std::optional<double> CounterHistory::readingAt(qint64 instant) const
 {
     settle();
     const KeptReading found = find(instant);
-    if (found == filter.kept().cend())
+    if (found == filter.kept().cend()) {
         return std::nullopt;
+    }
     return found->reading.value;
 }
 
 std::optional<double> CounterHistory::amount(const Interval &interval) const
 {
     settle();
-    if (interval.isEmpty())
+    if (interval.isEmpty()) {
         return std::nullopt;
+    }
     const KeptReading start = find(interval.from);
     const KeptReading end = find(interval.to);
     const KeptReading none = filter.kept().cend();
-    if (start == none || end == none || start->segment != end->segment)
+    if (start == none || end == none || start->segment != end->segment) {
         return std::nullopt;
+    }
     return end->reading.value - start->reading.value;
 }
 
@@ -51,8 +55,9 @@ double CounterHistory::total(const Interval &interval) const
     const KeptReading start = notBefore(interval.from);
     KeptReading end = notBefore(interval.to);
     if (end == filter.kept().cend() || end->reading.instant > interval.to) {
-        if (end == filter.kept().cbegin())
+        if (end == filter.kept().cbegin()) {
             return 0.0;
+        }
         --end;
     }
     return start < end ? filter.counted(*end) - filter.counted(*start) : 0.0;
@@ -61,16 +66,18 @@ double CounterHistory::total(const Interval &interval) const
 std::optional<qint64> CounterHistory::firstInstant() const
 {
     settle();
-    if (filter.kept().empty())
+    if (filter.kept().empty()) {
         return std::nullopt;
+    }
     return filter.kept().front().reading.instant;
 }
 
 std::optional<qint64> CounterHistory::lastInstant() const
 {
     settle();
-    if (filter.kept().empty())
+    if (filter.kept().empty()) {
         return std::nullopt;
+    }
     return filter.kept().back().reading.instant;
 }
 
@@ -79,12 +86,14 @@ std::optional<Interval> CounterHistory::lastStepUntil(qint64 instant) const
     settle();
     KeptReading end = notBefore(instant);
     if (end == filter.kept().cend() || end->reading.instant > instant) {
-        if (end == filter.kept().cbegin())
+        if (end == filter.kept().cbegin()) {
             return std::nullopt;
+        }
         --end;
     }
-    if (end == filter.kept().cbegin())
+    if (end == filter.kept().cbegin()) {
         return std::nullopt;
+    }
     return Interval {(end - 1)->reading.instant, end->reading.instant};
 }
 
@@ -93,8 +102,9 @@ std::vector<Fault> CounterHistory::faults() const
     settle();
     std::vector<Fault> all = contradictions;
     all.insert(all.end(), filter.faults().cbegin(), filter.faults().cend());
-    if (const std::optional<Reading> &suspect = filter.undecided())
+    if (const std::optional<Reading> &suspect = filter.undecided()) {
         all.push_back({Fault::Kind::Undecided, suspect->instant, suspect->value, suspect->tag});
+    }
     return all;
 }
 
@@ -102,15 +112,18 @@ std::vector<Fault> CounterHistory::faults() const
 // looked like a break into a single wrong reading and the other way round.
 void CounterHistory::settle() const
 {
-    if (late.empty())
+    if (late.empty()) {
         return;
+    }
     std::vector<Reading> all;
     all.reserve(filter.kept().size() + filter.discarded().size() + late.size() + 1);
-    for (const ReadingFilter::Kept &kept : filter.kept())
+    for (const ReadingFilter::Kept &kept : filter.kept()) {
         all.push_back(kept.reading);
+    }
     all.insert(all.end(), filter.discarded().cbegin(), filter.discarded().cend());
-    if (filter.undecided())
+    if (filter.undecided()) {
         all.push_back(*filter.undecided());
+    }
     all.insert(all.end(), late.cbegin(), late.cend());
     late.clear();
     std::stable_sort(all.begin(), all.end(), [](const Reading &left, const Reading &right) {
@@ -142,8 +155,9 @@ CounterHistory::KeptReading CounterHistory::notBefore(qint64 instant) const
 CounterHistory::KeptReading CounterHistory::find(qint64 instant) const
 {
     const KeptReading found = notBefore(instant);
-    if (found == filter.kept().cend() || found->reading.instant == instant)
+    if (found == filter.kept().cend() || found->reading.instant == instant) {
         return found;
+    }
     return filter.kept().cend();
 }
 

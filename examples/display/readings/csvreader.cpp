@@ -22,33 +22,42 @@ CsvReader::CsvReader(const QString &filePath) : path(filePath), file(filePath) {
 QString CsvReader::open()
 {
     const QFileInfo info(path);
-    if (!info.exists())
+    if (!info.exists()) {
         return QStringLiteral("no such file");
-    if (info.isDir())
+    }
+    if (info.isDir()) {
         return QStringLiteral("is a directory");
-    if (!file.open(QIODevice::ReadOnly))
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
         return QStringLiteral("cannot be opened: %1").arg(file.errorString());
+    }
     return {};
 }
 
 bool CsvReader::nextLine()
 {
-    if (tooLong)
+    if (tooLong) {
         skipRestOfLine();
+    }
     const qint64 length = file.readLine(buffer.data(), buffer.size());
-    if (length <= 0)
+    if (length <= 0) {
         return false;
+    }
     ++number;
     text = std::string_view(buffer.data(), static_cast<std::size_t>(length));
     tooLong = length == LongestLine && text.back() != '\n';
-    if (tooLong)
+    if (tooLong) {
         return true;
-    if (text.back() == '\n')
+    }
+    if (text.back() == '\n') {
         text.remove_suffix(1);
-    if (!text.empty() && text.back() == '\r')
+    }
+    if (!text.empty() && text.back() == '\r') {
         text.remove_suffix(1);
-    if (number == 1 && text.substr(0, ByteOrderMark.size()) == ByteOrderMark)
+    }
+    if (number == 1 && text.substr(0, ByteOrderMark.size()) == ByteOrderMark) {
         text.remove_prefix(ByteOrderMark.size());
+    }
     return true;
 }
 
@@ -64,18 +73,21 @@ bool CsvReader::split(std::string_view line, char separator, std::vector<std::st
         std::size_t next = 0;
         if (!line.empty() && line.front() == '"') {
             const std::size_t end = line.find('"', 1);
-            if (end == std::string_view::npos)
+            if (end == std::string_view::npos) {
                 return false;
+            }
             fields.push_back(line.substr(1, end - 1));
             next = end + 1;
-            if (next < line.size() && line[next] != separator)
+            if (next < line.size() && line[next] != separator) {
                 return false;
+            }
         } else {
             next = std::min(line.find(separator), line.size());
             fields.push_back(line.substr(0, next));
         }
-        if (next >= line.size())
+        if (next >= line.size()) {
             return true;
+        }
         line.remove_prefix(next + 1);
     }
 }
@@ -86,8 +98,9 @@ void CsvReader::skipRestOfLine()
     std::array<char, LongestLine + 1> rest {};
     for (;;) {
         const qint64 length = file.readLine(rest.data(), rest.size());
-        if (length <= 0 || rest[static_cast<std::size_t>(length) - 1] == '\n')
+        if (length <= 0 || rest[static_cast<std::size_t>(length) - 1] == '\n') {
             return;
+        }
     }
 }
 
@@ -95,22 +108,25 @@ std::optional<double> parseNumber(std::string_view text, char decimalSign)
 {
     static constexpr std::string_view letters = "0123456789+-eE";
     std::array<char, LongestNumber> plain {};
-    if (text.size() > plain.size())
+    if (text.size() > plain.size()) {
         return std::nullopt;
+    }
     // Only what numbers are made of, so that "inf", "nan" and the other decimal sign do not pass.
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == decimalSign)
+        if (text[i] == decimalSign) {
             plain[i] = '.';
-        else if (letters.find(text[i]) != std::string_view::npos)
+        } else if (letters.find(text[i]) != std::string_view::npos) {
             plain[i] = text[i];
-        else
+        } else {
             return std::nullopt;
+        }
     }
     double value = 0.0;
     const char *const end = plain.data() + text.size();
     const std::from_chars_result result = std::from_chars(plain.data(), end, value);
-    if (result.ec != std::errc() || result.ptr != end || !std::isfinite(value))
+    if (result.ec != std::errc() || result.ptr != end || !std::isfinite(value)) {
         return std::nullopt;
+    }
     return value;
 }
 

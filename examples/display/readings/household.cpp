@@ -17,13 +17,15 @@ constexpr double SecondsPerHour = 3600.0;
 std::optional<double> sumOfAmounts(const std::vector<const Meter *> &meters,
                                    const Interval &interval)
 {
-    if (meters.empty())
+    if (meters.empty()) {
         return std::nullopt;
+    }
     double sum = 0.0;
     for (const Meter *meter : meters) {
         const std::optional<double> amount = meter->amount(interval);
-        if (!amount)
+        if (!amount) {
             return std::nullopt;
+        }
         sum += *amount;
     }
     return sum;
@@ -39,8 +41,9 @@ std::vector<const Meter *> Household::metersOf(Quantity quantity) const
 {
     std::vector<const Meter *> found;
     for (const auto &entry : meters) {
-        if (entry.first.quantity == quantity)
+        if (entry.first.quantity == quantity) {
             found.push_back(&entry.second);
+        }
     }
     return found;
 }
@@ -53,24 +56,27 @@ std::optional<double> Household::amount(Quantity quantity, const Interval &inter
 double Household::total(Quantity quantity, const Interval &interval) const
 {
     double sum = 0.0;
-    for (const Meter *meter : metersOf(quantity))
+    for (const Meter *meter : metersOf(quantity)) {
         sum += meter->total(interval);
+    }
     return sum;
 }
 
 double Household::total(Quantity quantity) const
 {
     double sum = 0.0;
-    for (const Meter *meter : metersOf(quantity))
+    for (const Meter *meter : metersOf(quantity)) {
         sum += meter->total();
+    }
     return sum;
 }
 
 std::optional<double> Household::consumption(const Interval &interval) const
 {
     const std::optional<double> imported = amount(Quantity::GridImport, interval);
-    if (!imported)
+    if (!imported) {
         return std::nullopt;
+    }
 
     const bool hasExport = !metersOf(Quantity::GridExport).empty();
     const bool hasSolar = !metersOf(Quantity::SolarProduction).empty();
@@ -78,10 +84,12 @@ std::optional<double> Household::consumption(const Interval &interval) const
         hasExport ? amount(Quantity::GridExport, interval) : std::optional<double>(0.0);
     const std::optional<double> produced =
         hasSolar ? amount(Quantity::SolarProduction, interval) : std::optional<double>(0.0);
-    if (!exported || !produced)
+    if (!exported || !produced) {
         return std::nullopt;
-    if (!hasSolar && *exported > 0.0)
+    }
+    if (!hasSolar && *exported > 0.0) {
         return std::nullopt;
+    }
     return *imported - *exported + *produced;
 }
 
@@ -89,8 +97,9 @@ std::optional<qint64> Household::firstInstant() const
 {
     std::optional<qint64> first;
     for (const auto &entry : meters) {
-        if (const std::optional<qint64> instant = entry.second.firstInstant())
+        if (const std::optional<qint64> instant = entry.second.firstInstant()) {
             first = first ? std::min(*first, *instant) : *instant;
+        }
     }
     return first;
 }
@@ -99,26 +108,30 @@ std::optional<qint64> Household::lastInstant() const
 {
     std::optional<qint64> last;
     for (const auto &entry : meters) {
-        if (const std::optional<qint64> instant = entry.second.lastInstant())
+        if (const std::optional<qint64> instant = entry.second.lastInstant()) {
             last = last ? std::max(*last, *instant) : *instant;
+        }
     }
     return last;
 }
 
 std::optional<GridPower> Household::latestPower() const
 {
-    if (measuredPower)
+    if (measuredPower) {
         return measuredPower;
+    }
     const std::vector<const Meter *> importers = metersOf(Quantity::GridImport);
     const std::vector<const Meter *> exporters = metersOf(Quantity::GridExport);
-    if (importers.empty())
+    if (importers.empty()) {
         return std::nullopt;
+    }
 
     std::optional<qint64> last = importers.front()->lastInstant();
     while (last) {
         const std::optional<Interval> step = importers.front()->lastStepUntil(*last);
-        if (!step)
+        if (!step) {
             return std::nullopt;
+        }
         const std::optional<double> imported = sumOfAmounts(importers, *step);
         const std::optional<double> exported =
             exporters.empty() ? std::optional<double>(0.0) : sumOfAmounts(exporters, *step);

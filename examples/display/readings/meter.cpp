@@ -16,8 +16,9 @@ bool isQuantity(double value)
 
 std::variant<CounterHistory, AmountHistory> newHistory(Meter::Kind kind, double mostPerHour)
 {
-    if (kind == Meter::Kind::Counter)
+    if (kind == Meter::Kind::Counter) {
         return CounterHistory(mostPerHour);
+    }
     return AmountHistory(mostPerHour);
 }
 
@@ -33,8 +34,9 @@ Meter::Kind Meter::kind() const
 bool Meter::addReading(qint64 instant, double value, qint64 tag)
 {
     auto *counter = std::get_if<CounterHistory>(&history);
-    if (!counter || !isQuantity(value))
+    if (!counter || !isQuantity(value)) {
         return false;
+    }
     counter->add({instant, value, tag});
     return true;
 }
@@ -42,8 +44,9 @@ bool Meter::addReading(qint64 instant, double value, qint64 tag)
 bool Meter::addAmount(const Interval &interval, double amount, qint64 tag)
 {
     auto *amounts = std::get_if<AmountHistory>(&history);
-    if (!amounts || interval.isEmpty() || !isQuantity(amount))
+    if (!amounts || interval.isEmpty() || !isQuantity(amount)) {
         return false;
+    }
     amounts->add({interval, amount, tag});
     return true;
 }

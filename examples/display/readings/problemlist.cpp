@@ -41,8 +41,9 @@ int ProblemList::addFile(const QString &path)
 void ProblemList::add(int file, int line, Kind kind, const QString &what)
 {
     const int count = ++counts[{file, kind}];
-    if (kind == Kind::File || count <= ToldPerKind)
+    if (kind == Kind::File || count <= ToldPerKind) {
         problems.push_back({file, line, what});
+    }
 }
 
 QStringList ProblemList::lines() const
@@ -50,9 +51,10 @@ QStringList ProblemList::lines() const
     std::vector<Problem> all = problems;
     for (const auto &entry : counts) {
         const int untold = entry.second - ToldPerKind;
-        if (entry.first.second != Kind::File && untold > 0)
+        if (entry.first.second != Kind::File && untold > 0) {
             all.push_back(
                 {entry.first.first, AfterLastLine, moreOf(entry.first.second).arg(untold)});
+        }
     }
     std::stable_sort(all.begin(), all.end(), [](const Problem &left, const Problem &right) {
         return std::pair(left.file, left.line) < std::pair(right.file, right.line);
@@ -61,8 +63,9 @@ QStringList ProblemList::lines() const
     QStringList texts;
     for (const Problem &problem : all) {
         QString text = files.at(problem.file) + QLatin1Char(':');
-        if (problem.line > 0 && problem.line != AfterLastLine)
+        if (problem.line > 0 && problem.line != AfterLastLine) {
             text += QString::number(problem.line) + QLatin1Char(':');
+        }
         texts.append(text + QLatin1Char(' ') + problem.what);
     }
     return texts;
@@ -75,11 +78,13 @@ QString quoted(std::string_view text)
     const std::string_view start = text.substr(0, MostBytes);
     QString shown = QString::fromUtf8(start.data(), static_cast<int>(start.size()));
     for (QChar &letter : shown) {
-        if (!letter.isPrint() && !letter.isSurrogate())
+        if (!letter.isPrint() && !letter.isSurrogate()) {
             letter = QLatin1Char('?');
+        }
     }
-    if (shown.size() > LongestQuotation)
+    if (shown.size() > LongestQuotation) {
         shown = shown.left(LongestQuotation) + QStringLiteral("...");
+    }
     return QLatin1Char('"') + shown + QLatin1Char('"');
 }
 

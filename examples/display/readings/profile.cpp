@@ -172,8 +172,9 @@ const Column *columnNamed(const Profile &profile, std::string_view name)
 
 bool recognises(const Profile &profile, const Fields &fields)
 {
-    if (profile.recognition == Recognition::TimeColumn)
+    if (profile.recognition == Recognition::TimeColumn) {
         return fields.front() == viewOf(profile.timeColumn);
+    }
     Fields wanted;
     CsvReader::split(viewOf(profile.header), profile.separator, wanted);
     return fields == wanted;
@@ -182,14 +183,17 @@ bool recognises(const Profile &profile, const Fields &fields)
 // Why a header with a free choice of columns cannot be read; empty if it can.
 QString problemOf(const Profile &profile, const Fields &fields)
 {
-    if (fields.size() < 2)
+    if (fields.size() < 2) {
         return QStringLiteral("there is no column but \"%1\"")
             .arg(QString::fromUtf8(profile.timeColumn));
+    }
     for (auto field = fields.cbegin() + 1; field != fields.cend(); ++field) {
-        if (!columnNamed(profile, *field))
+        if (!columnNamed(profile, *field)) {
             return QStringLiteral("unknown column %1").arg(quoted(*field));
-        if (std::find(fields.cbegin(), field, *field) != field)
+        }
+        if (std::find(fields.cbegin(), field, *field) != field) {
             return QStringLiteral("column %1 comes twice").arg(quoted(*field));
+        }
     }
     return {};
 }
@@ -200,10 +204,11 @@ HeaderMatch matchProfile(const Profile &profile, const Fields &fields)
     match.profile = &profile;
     match.fieldCount = fields.size();
     for (std::size_t field = 0; field < fields.size(); ++field) {
-        if (fields[field] == viewOf(profile.timeColumn))
+        if (fields[field] == viewOf(profile.timeColumn)) {
             match.timeField = field;
-        else if (const Column *column = columnNamed(profile, fields[field]))
+        } else if (const Column *column = columnNamed(profile, fields[field])) {
             match.columns.push_back({field, column});
+        }
     }
     return match;
 }
@@ -220,8 +225,9 @@ HeaderMatch matchHeader(std::string_view header)
 {
     Fields fields;
     for (const Profile &profile : profiles()) {
-        if (!CsvReader::split(header, profile.separator, fields) || !recognises(profile, fields))
+        if (!CsvReader::split(header, profile.separator, fields) || !recognises(profile, fields)) {
             continue;
+        }
         if (profile.recognition == Recognition::TimeColumn) {
             const QString problem = problemOf(profile, fields);
             if (!problem.isEmpty()) {

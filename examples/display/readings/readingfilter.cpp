@@ -59,10 +59,11 @@ void ReadingFilter::decide(const Reading &suspect, const Reading &next)
     // now to use as much; one that falls below where it came from was never up there.
     const bool comesDown =
         next.value < suspect.value && (nextFollowsLast || next.value < last.value);
-    if (comesDown)
+    if (comesDown) {
         discard(suspect, Fault::Kind::Leap);
-    else
+    } else {
         keepAfterBreak(suspect);
+    }
 }
 
 void ReadingFilter::accept(const Reading &reading)
@@ -97,8 +98,9 @@ void ReadingFilter::discard(const Reading &reading, Fault::Kind kind)
 
 bool ReadingFilter::lastWasWrong(const Reading &suspect) const
 {
-    if (keptReadings.size() < 2)
+    if (keptReadings.size() < 2) {
         return false;
+    }
     const Kept &last = keptReadings.back();
     const Kept &lastButOne = keptReadings[keptReadings.size() - 2];
     return lastButOne.segment == last.segment && follows(lastButOne.reading, suspect);

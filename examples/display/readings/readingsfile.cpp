@@ -42,10 +42,12 @@ int lineOf(qint64 tag)
 
 std::string_view trimmed(std::string_view text)
 {
-    while (!text.empty() && text.front() == ' ')
+    while (!text.empty() && text.front() == ' ') {
         text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
+    }
+    while (!text.empty() && text.back() == ' ') {
         text.remove_suffix(1);
+    }
     return text;
 }
 
@@ -115,17 +117,21 @@ bool FileLoader::load()
         problems.add(file, 0, Kind::File, obstacle);
         return false;
     }
-    if (!readHeader())
+    if (!readHeader()) {
         return false;
+    }
     readRows();
     const QString error = reader.readError();
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         problems.add(file, reader.lineNumber() + 1, Kind::File,
                      QStringLiteral("reading stopped: %1").arg(error));
-    if (rows.empty())
+    }
+    if (rows.empty()) {
         problems.add(file, 0, Kind::File, QStringLiteral("there are no readings in it"));
-    if (isWallClock(header.profile->timeFormat))
+    }
+    if (isWallClock(header.profile->timeFormat)) {
         resolveWallClock();
+    }
     feed();
     return true;
 }
@@ -158,10 +164,11 @@ bool FileLoader::readHeader()
 void FileLoader::readRows()
 {
     while (reader.nextLine()) {
-        if (reader.isTooLong())
+        if (reader.isTooLong()) {
             broken(QStringLiteral("the line is too long"));
-        else if (!trimmed(reader.line()).empty())
+        } else if (!trimmed(reader.line()).empty()) {
             readRow(reader.line());
+        }
     }
 }
 
@@ -184,8 +191,9 @@ void FileLoader::readRow(std::string_view line)
         broken(QStringLiteral("bad time stamp %1").arg(quoted(stamp)));
         return;
     }
-    if (!readValues())
+    if (!readValues()) {
         return;
+    }
     fillOtherTariffs();
     rows.push_back({*time, reader.lineNumber()});
     values.insert(values.end(), rowValues.cbegin(), rowValues.cend());
@@ -221,14 +229,16 @@ void FileLoader::fillOtherTariffs()
     std::set<Quantity> known;
     for (std::size_t column = 0; column < rowValues.size(); ++column) {
         const Quantity quantity = header.columns[column].column->meterRegister.quantity;
-        if (!std::isnan(rowValues[column]) && isTariff(column, quantity))
+        if (!std::isnan(rowValues[column]) && isTariff(column, quantity)) {
             known.insert(quantity);
+        }
     }
     for (std::size_t column = 0; column < rowValues.size(); ++column) {
         const Quantity quantity = header.columns[column].column->meterRegister.quantity;
         if (std::isnan(rowValues[column]) && isTariff(column, quantity)
-            && known.count(quantity) > 0)
+            && known.count(quantity) > 0) {
             rowValues[column] = 0.0;
+        }
     }
 }
 
@@ -253,16 +263,18 @@ void FileLoader::resolveWallClock()
         }
         row.time = moment.earlier;
     }
-    for (const auto &night : doubledTimes)
+    for (const auto &night : doubledTimes) {
         resolveDoubledTimes(night.second, clock);
+    }
 }
 
 void FileLoader::resolveDoubledTimes(const std::vector<std::size_t> &doubled,
                                      const WallClock &clock)
 {
     std::map<qint64, int> occurrences;
-    for (const std::size_t index : doubled)
+    for (const std::size_t index : doubled) {
         ++occurrences[rows[index].time];
+    }
     const bool bothThere = std::any_of(occurrences.cbegin(), occurrences.cend(),
                                        [](const auto &entry) { return entry.second > 1; });
     std::map<qint64, int> seen;
@@ -283,13 +295,15 @@ void FileLoader::feed()
     std::map<QString, QStringList> leftOut;
     for (std::size_t column = 0; column < header.columns.size(); ++column) {
         const Column &what = *header.columns[column].column;
-        if (what.role == Column::Role::Power)
+        if (what.role == Column::Role::Power) {
             continue;
+        }
         const QString obstacle = obstacleFor(what);
-        if (obstacle.isEmpty())
+        if (obstacle.isEmpty()) {
             feedColumn(column);
-        else
+        } else {
             leftOut[obstacle].append(QString::fromUtf8(what.name));
+        }
     }
     for (const auto &entry : leftOut) {
         problems.add(file, 1, Kind::File,
@@ -308,8 +322,9 @@ QString FileLoader::obstacleFor(const Column &column) const
         const bool sameTariffs =
             (known.tariff == Tariff::Single) == (wanted.tariff == Tariff::Single);
         const bool sameKind = entry.second.kind() == kindOf(column);
-        if (known.quantity != wanted.quantity || (sameTariffs && sameKind))
+        if (known.quantity != wanted.quantity || (sameTariffs && sameKind)) {
             continue;
+        }
         const bool isCounter = entry.second.kind() == Meter::Kind::Counter;
         const QString how =
             isCounter ? QStringLiteral("counter readings") : QStringLiteral("amounts");
@@ -329,12 +344,14 @@ void FileLoader::feedColumn(std::size_t column)
     for (std::size_t index = 0; index < rows.size(); ++index) {
         const Row &row = rows[index];
         const double number = value(index, column);
-        if (row.leftOut || std::isnan(number))
+        if (row.leftOut || std::isnan(number)) {
             continue;
-        if (isCounter)
+        }
+        if (isCounter) {
             meter.addReading(intervalOf(row).to, number, tagOf(file, row.line));
-        else
+        } else {
             meter.addAmount(intervalOf(row), number, tagOf(file, row.line));
+        }
     }
 }
 
@@ -345,26 +362,30 @@ void FileLoader::feedPower()
         bool hasPower = false;
         for (std::size_t column = 0; column < header.columns.size(); ++column) {
             const Column &what = *header.columns[column].column;
-            if (what.role != Column::Role::Power)
+            if (what.role != Column::Role::Power) {
                 continue;
+            }
             hasPower = true;
             const bool isImport = what.meterRegister.quantity == Quantity::GridImport;
             watts += isImport ? value(index, column) : -value(index, column);
         }
-        if (!hasPower)
+        if (!hasPower) {
             return;
+        }
         const qint64 end = intervalOf(rows[index]).to;
         const bool isNewest = !household.measuredPower || end > household.measuredPower->instant;
-        if (!rows[index].leftOut && !std::isnan(watts) && isNewest)
+        if (!rows[index].leftOut && !std::isnan(watts) && isNewest) {
             household.measuredPower = GridPower {watts, end};
+        }
     }
 }
 
 Interval FileLoader::intervalOf(const Row &row) const
 {
     const Profile &profile = *header.profile;
-    if (profile.stamp == Profile::Stamp::IntervalStart)
+    if (profile.stamp == Profile::Stamp::IntervalStart) {
         return {row.time, row.time + profile.step};
+    }
     return {row.time - profile.step, row.time};
 }
 
@@ -418,8 +439,9 @@ void tellFaults(const Household &household, ProblemList &problems)
     };
     std::vector<Told> all;
     for (const auto &entry : household.meters) {
-        for (const Fault &fault : entry.second.faults())
+        for (const Fault &fault : entry.second.faults()) {
             all.push_back({fault, entry.first});
+        }
     }
     // The first few that are told are to be the first in the file.
     std::stable_sort(all.begin(), all.end(), [](const Told &left, const Told &right) {
@@ -441,8 +463,9 @@ Household loadReadings(const QStringList &files)
     for (const QString &path : files) {
         const int file = problems.addFile(path);
         FileLoader loader(path, file, household, problems);
-        if (!loader.load())
+        if (!loader.load()) {
             continue;
+        }
         if (!zoneIsSet) {
             household.timeZone = loader.timeZone();
             zoneIsSet = true;

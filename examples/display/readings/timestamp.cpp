@@ -33,8 +33,9 @@ public:
         }
         int value = 0;
         for (const char letter : rest.substr(0, digits)) {
-            if (letter < '0' || letter > '9')
+            if (letter < '0' || letter > '9') {
                 bad = true;
+            }
             value = value * 10 + (letter - '0');
         }
         rest.remove_prefix(digits);
@@ -43,10 +44,11 @@ public:
 
     void skip(char wanted)
     {
-        if (startsWith(wanted))
+        if (startsWith(wanted)) {
             rest.remove_prefix(1);
-        else
+        } else {
             bad = true;
+        }
     }
 
 private:
@@ -57,8 +59,9 @@ private:
 std::optional<qint64> secondsOf(int year, int month, int day, int secondsOfDay)
 {
     const QDate date(year, month, day);
-    if (!date.isValid() || secondsOfDay < 0)
+    if (!date.isValid() || secondsOfDay < 0) {
         return std::nullopt;
+    }
     return WallClock::wallSeconds(date, secondsOfDay);
 }
 
@@ -73,8 +76,9 @@ int timeOfDay(Cursor &cursor, bool secondsMayLack)
         cursor.skip(':');
         second = cursor.number(2);
     }
-    if (hour >= HoursPerDay || minute >= MinutesPerHour || second >= SecondsPerMinute)
+    if (hour >= HoursPerDay || minute >= MinutesPerHour || second >= SecondsPerMinute) {
         return -1;
+    }
     return hour * SecondsPerHour + minute * SecondsPerMinute + second;
 }
 
@@ -83,11 +87,13 @@ int offset(Cursor &cursor)
     const int sign = cursor.startsWith('-') ? -1 : 1;
     cursor.skip(sign < 0 ? '-' : '+');
     const int hours = cursor.number(2);
-    if (cursor.startsWith(':'))
+    if (cursor.startsWith(':')) {
         cursor.skip(':');
+    }
     const int minutes = cursor.number(2);
-    if (hours >= HoursPerDay || minutes >= MinutesPerHour)
+    if (hours >= HoursPerDay || minutes >= MinutesPerHour) {
         cursor.skip('\0');
+    }
     return sign * (hours * SecondsPerHour + minutes * SecondsPerMinute);
 }
 
@@ -103,14 +109,16 @@ std::optional<qint64> parseYearFirst(std::string_view text, char between, bool w
     const int time = timeOfDay(cursor, withOffset);
     int seconds = 0;
     if (withOffset) {
-        if (cursor.startsWith('Z'))
+        if (cursor.startsWith('Z')) {
             cursor.skip('Z');
-        else
+        } else {
             seconds = offset(cursor);
+        }
     }
     const std::optional<qint64> wall = secondsOf(year, month, day, time);
-    if (!cursor.atEnd() || !wall)
+    if (!cursor.atEnd() || !wall) {
         return std::nullopt;
+    }
     return *wall - seconds;
 }
 
@@ -127,22 +135,26 @@ std::optional<qint64> parseDayFirst(std::string_view text)
     cursor.skip(' ');
     const int seconds = offset(cursor);
     const std::optional<qint64> wall = secondsOf(year, month, day, time);
-    if (!cursor.atEnd() || !wall)
+    if (!cursor.atEnd() || !wall) {
         return std::nullopt;
+    }
     return *wall - seconds;
 }
 
 std::optional<qint64> parseUnixSeconds(std::string_view text)
 {
-    if (text.empty())
+    if (text.empty()) {
         return std::nullopt;
+    }
     qint64 seconds = 0;
     for (const char letter : text) {
-        if (letter < '0' || letter > '9')
+        if (letter < '0' || letter > '9') {
             return std::nullopt;
+        }
         seconds = seconds * 10 + (letter - '0');
-        if (seconds > LastUnixSecond)
+        if (seconds > LastUnixSecond) {
             return std::nullopt;
+        }
     }
     return seconds;
 }

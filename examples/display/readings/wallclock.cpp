@@ -34,21 +34,25 @@ WallClock::WallClock(const QTimeZone &timeZone)
 WallClock::Moment WallClock::moment(qint64 wallSeconds) const
 {
     const qint64 day = dayOf(wallSeconds);
-    if (day != knownDay)
+    if (day != knownDay) {
         lookUpDay(day);
+    }
 
     Moment result;
     for (const Stretch &stretch : stretches) {
         const qint64 instant = wallSeconds - stretch.offset;
-        if (instant < stretch.from || instant >= stretch.to)
+        if (instant < stretch.from || instant >= stretch.to) {
             continue;
-        if (result.occurrences == 0)
+        }
+        if (result.occurrences == 0) {
             result.earlier = instant;
+        }
         result.later = instant;
         ++result.occurrences;
     }
-    if (result.occurrences > 0)
+    if (result.occurrences > 0) {
         return result;
+    }
 
     for (const Stretch &stretch : stretches) {
         if (wallSeconds < stretch.from + stretch.offset) {
@@ -74,8 +78,10 @@ void WallClock::lookUpDay(qint64 day) const
     const QTimeZone::OffsetDataList transitions = zone.transitions(utc(from), utc(to));
     for (const QTimeZone::OffsetData &transition : transitions) {
         const qint64 instant = transition.atUtc.toSecsSinceEpoch();
-        if (instant <= from || instant >= to || transition.offsetFromUtc == stretches.back().offset)
+        if (instant <= from || instant >= to
+            || transition.offsetFromUtc == stretches.back().offset) {
             continue;
+        }
         stretches.back().to = instant;
         stretches.push_back({instant, to, transition.offsetFromUtc});
     }
