@@ -28,7 +28,7 @@ Settings settingsOf(const QwtPlot *plot)
         settings[axis] = layout->canvasMargin(axis);
         settings[QwtPlot::axisCnt + axis] = layout->alignCanvasToScale(axis);
     }
-    settings[2 * QwtPlot::axisCnt] = layout->spacing();
+    settings.back() = layout->spacing();
     return settings;
 }
 

@@ -38,7 +38,7 @@ struct Axes
 std::optional<Axis> axisOf(const QwtScaleWidget &widget)
 {
     const QwtScaleDraw *draw = widget.scaleDraw();
-    const QFont font = widget.font();
+    const QFont &font = widget.font();
     const ScaleMeasure measure(widget);
     const auto minLength = measure.minLength();
     const auto borders = measure.borders(widget);
