@@ -101,6 +101,11 @@ class Mutants(unittest.TestCase):
     def test_comments_texts_and_declarations_stay(self):
         self.assertEqual(self.changes('// a + 1 is true\n#include "a1.h"\nu("1 + 2");\n'), set())
 
+    def test_equivalent_ones_are_known(self):
+        listed = "# Head.\n\na.cpp\n- update();\n+\nWhy.\n\nb.cpp\n- a = 1;\n+ a = 2;\nWhy.\n"
+        self.assertEqual(script("mutate").equivalent_mutants(listed),
+                         {("a.cpp", "update();", ""), ("b.cpp", "a = 1;", "a = 2;")})
+
 
 if __name__ == "__main__":
     unittest.main()
