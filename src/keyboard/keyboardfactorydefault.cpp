@@ -90,8 +90,8 @@ public:
     ZEMStyle style {nullptr};
     const QFont keyFont;
     const QMargins keyboardMargins {0, 46, 0, 2};
-    QHash<QSize, QPixmap> releasedBackgrounds;
-    QHash<QSize, QPixmap> pressedBackgrounds;
+    QHash<SizeKey, QPixmap> releasedBackgrounds;
+    QHash<SizeKey, QPixmap> pressedBackgrounds;
     QVector<QPointer<ZEMVirtualKeyboard>> keyboards;
 };
 
@@ -208,7 +208,7 @@ QPixmap KeyboardFactoryDefault::getBackground(QSize size, bool pressed)
     if (size.isEmpty() || size.width() > longestSide || size.height() > longestSide) {
         return {};
     }
-    QHash<QSize, QPixmap> &cache = pressed ? d->pressedBackgrounds : d->releasedBackgrounds;
+    QHash<SizeKey, QPixmap> &cache = pressed ? d->pressedBackgrounds : d->releasedBackgrounds;
     auto found = cache.constFind(size);
     if (found == cache.constEnd()) {
         found = cache.insert(size, renderKey(size, pressed));

@@ -6,10 +6,27 @@
 
 #include <QSize>
 
-/** Lets a QSize be the key of a QHash. In the global namespace, where QHash finds it. */
-inline uint qHash(const QSize &size)
+/**
+ * A QSize as the key of a QHash. A class of its own, since a qHash(QSize) would be one for the
+ * whole program, where a host or Qt itself may have another.
+ */
+class SizeKey
 {
-    return static_cast<uint>(size.width() ^ size.height());
-}
+public:
+    SizeKey(const QSize &keySize) : size(keySize) { }
+
+    friend bool operator==(const SizeKey &left, const SizeKey &right)
+    {
+        return left.size == right.size;
+    }
+
+    friend uint qHash(const SizeKey &key)
+    {
+        return static_cast<uint>(key.size.width() ^ key.size.height());
+    }
+
+private:
+    QSize size;
+};
 
 #endif

@@ -15,6 +15,8 @@
 
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
+#include <utility>
 
 using namespace KeyboardTest;
 using Intf = ZEMVirtualKeyboardFactoryIntf;
@@ -37,6 +39,7 @@ private Q_SLOTS:
     void panelBackground();
     void textIsBlack();
     void hashOfASize();
+    void hashOfASizeIsNotForAll();
     void pictureIsBuiltOnce();
     void picturesOfBothStates();
     void sizesWithoutAPicture();
@@ -256,9 +259,26 @@ void tst_KeyboardFactoryDefault::textIsBlack()
 
 void tst_KeyboardFactoryDefault::hashOfASize()
 {
-    QCOMPARE(qHash(QSize(50, 50)), 0U);
-    QCOMPARE(qHash(QSize(75, 50)), uint(75 ^ 50));
-    QCOMPARE(qHash(QSize(50, 75)), qHash(QSize(75, 50)));
+    QCOMPARE(qHash(SizeKey(QSize(50, 50))), 0U);
+    QCOMPARE(qHash(SizeKey(QSize(75, 50))), uint(75 ^ 50));
+    QCOMPARE(qHash(SizeKey(QSize(50, 75))), qHash(SizeKey(QSize(75, 50))));
+    QCOMPARE(SizeKey(QSize(50, 75)), SizeKey(QSize(50, 75)));
+    QVERIFY(!(SizeKey(QSize(50, 75)) == SizeKey(QSize(75, 50))));
+}
+
+template <typename T, typename = void>
+struct HasHash : std::false_type
+{
+};
+template <typename T>
+struct HasHash<T, std::void_t<decltype(qHash(std::declval<T>()))>> : std::true_type
+{
+};
+
+void tst_KeyboardFactoryDefault::hashOfASizeIsNotForAll()
+{
+    QVERIFY(HasHash<SizeKey>::value);
+    QVERIFY(!HasHash<QSize>::value);
 }
 
 void tst_KeyboardFactoryDefault::pictureIsBuiltOnce()
