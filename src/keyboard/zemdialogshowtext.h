@@ -70,7 +70,10 @@ public:
     void updateButtons();
 
 Q_SIGNALS:
-    /** The pencil button was touched. The dialog is already hidden, and exec() will return true. */
+    /**
+     * The pencil button was touched. The dialog is already hidden, and exec() will return true,
+     * unless a slot deletes the dialog.
+     */
     void sigBtnEditClicked();
 
 private Q_SLOTS:

@@ -39,13 +39,19 @@ public:
     void emitTextEdited(const QString &text);
 
 Q_SIGNALS:
-    /** The user has confirmed the input. The dialog is still open: read the value, then hide it. */
+    /**
+     * The user has confirmed the input. The dialog is still open: read the value, then hide or
+     * delete it.
+     */
     void sigSelect();
     /** The user wants to leave the dialog without a result. The dialog is still open. */
     void sigCancel();
     /** The search button was touched; from ZEMLineEditSearchDialog only. */
     void sigSearch();
-    /** The user has changed the text to @p text; from ZEMLineEditSearchDialog only. */
+    /**
+     * The user has changed the text to @p text; from ZEMLineEditSearchDialog only, which a slot
+     * ends by deleteLater().
+     */
     void sigTextEdited(const QString &text);
 
 private:

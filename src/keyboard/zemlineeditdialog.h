@@ -76,7 +76,10 @@ public:
     void setAsciiInputMode(bool ascii);
 
 Q_SIGNALS:
-    /** The dialog was shown; raised once the field has the focus. */
+    /**
+     * The dialog is being shown; raised once the field has the focus. A slot that ends the dialog
+     * calls deleteLater().
+     */
     void sigShown();
     /** The user has confirmed. The handler is told before other listeners. */
     void sigSelect();

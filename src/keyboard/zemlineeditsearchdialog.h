@@ -59,7 +59,10 @@ public:
     void setSearchCount(int count);
 
 Q_SIGNALS:
-    /** The dialog was shown; raised once the field has the focus. */
+    /**
+     * The dialog is being shown; raised once the field has the focus. A slot that ends the dialog
+     * calls deleteLater().
+     */
     void sigShown();
     /** The user has confirmed. The handler is told before other listeners. */
     void sigSelect();
@@ -67,7 +70,10 @@ Q_SIGNALS:
     void sigCancel();
     /** The search button was touched. The handler is told before other listeners. */
     void sigSearch();
-    /** The user has changed the text to @p text. The handler is told before other listeners. */
+    /**
+     * The user has changed the text to @p text. The handler is told before other listeners. A slot
+     * that ends the dialog, the handler's included, calls deleteLater().
+     */
     void sigTextEdited(QString text);
 
 protected:

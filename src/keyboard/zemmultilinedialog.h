@@ -57,7 +57,10 @@ public:
     void setActiveInputHandler(ZEMKeyboardInputHandler *handler);
 
 Q_SIGNALS:
-    /** The dialog was shown; raised once the field has the focus. */
+    /**
+     * The dialog is being shown; raised once the field has the focus. A slot that ends the dialog
+     * calls deleteLater().
+     */
     void sigShown();
     /** The confirm button was touched. The handler is told before other listeners. */
     void sigSelect();

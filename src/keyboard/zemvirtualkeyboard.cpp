@@ -15,7 +15,6 @@
 #include <QDomDocument>
 #include <QHBoxLayout>
 #include <QPointer>
-#include <QSignalMapper>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -100,17 +99,12 @@ public:
 
     void connectAlternativeKeys()
     {
-        delete alternativesMapper;
-        alternativesMapper = new QSignalMapper(keyboard);
         for (int i = 0; i < alternativeKeys.size(); ++i) {
-            if (ZEMVirtualKey *key = alternativeKeys.at(i)) {
-                alternativesMapper->setMapping(key, i);
-                connect(key, &ZEMVirtualKey::clicked, alternativesMapper,
-                        qOverload<>(&QSignalMapper::map));
+            if (const ZEMVirtualKey *key = alternativeKeys.at(i)) {
+                connect(key, &ZEMVirtualKey::clicked, keyboard,
+                        [this, i] { keyboard->slotSendAlternativeChar(i); });
             }
         }
-        connect(alternativesMapper, &QSignalMapper::mappedInt, keyboard,
-                &ZEMVirtualKeyboard::slotSendAlternativeChar);
     }
 
     void changeLook(ZEMVirtualKey *key, bool pressed) const
@@ -156,21 +150,33 @@ public:
 
     void appendSpace(QHBoxLayout *row, const QString &name) const
     {
-        const auto named = std::find_if(keys.cbegin(), keys.cend(),
-                                        [&](ZEMVirtualKey *key) { return key->name() == name; });
+        const auto named = std::find_if(keys.cbegin(), keys.cend(), [&](const ZEMVirtualKey *key) {
+            return key && key->name() == name;
+        });
         if (named != keys.cend() && factory) {
             row->insertSpacing(-1, (*named)->width() + factory->hSpacing());
         }
     }
 
+    /** Once for each file that is loaded, and each time for all keys. */
     template <typename Signal, typename Slot>
-    void connectKeys(QSignalMapper *mapper, Signal signal, Slot slot)
+    void connectKeys(Signal signal, Slot slot)
     {
         for (int i = 0; i < keys.size(); ++i) {
-            mapper->setMapping(keys.at(i), i);
-            connect(keys.at(i), signal, mapper, qOverload<>(&QSignalMapper::map));
+            if (const ZEMVirtualKey *key = keys.at(i)) {
+                connect(key, signal, keyboard, [this, i, slot] { callForEachFile(slot, i); });
+            }
         }
-        connect(mapper, &QSignalMapper::mappedInt, keyboard, slot);
+    }
+
+    /** With nothing behind the call but what outlives a keyboard that a listener deletes. */
+    template <typename Slot>
+    void callForEachFile(Slot slot, int index)
+    {
+        const QPointer<ZEMVirtualKeyboard> alive(keyboard);
+        for (int files = loadedFiles; files > 0 && alive; --files) {
+            (alive->*slot)(index);
+        }
     }
 
     bool isPanelOpen() const { return alternativesPanel && alternativesPanel->isVisible(); }
@@ -275,13 +281,12 @@ public:
     QPointer<QWidget> focusWidget;
     QStackedWidget *pageStack = nullptr;
     QMargins pageMargins;
-    QSignalMapper *pressMapper = nullptr;
-    QSignalMapper *releaseMapper = nullptr;
+    int loadedFiles = 0;
     ZEMVirtualKeyFactoryIntf *factory = nullptr;
     bool showKeyPreview = true;
     bool showAlternatives = true;
     QPointer<ZEMVirtualKey> previewKey;
-    QVector<ZEMVirtualKey *> keys;
+    QVector<QPointer<ZEMVirtualKey>> keys;
     QTimer *holdTimer = nullptr;
     int lastPressed = 0;
     KeyTouch touch;
@@ -291,7 +296,6 @@ public:
     QHBoxLayout *alternativesLayout = nullptr;
     QPointer<QWidget> alternativesBackground;
     QVector<QPointer<ZEMVirtualKey>> alternativeKeys;
-    QSignalMapper *alternativesMapper = nullptr;
     ZEMVirtualKeyboardFactoryIntf::KeyboardPopupStyle popupStyle =
         ZEMVirtualKeyboardFactoryIntf::PopupAbove;
 };
@@ -325,10 +329,6 @@ void ZEMVirtualKeyboard::setFactory(ZEMVirtualKeyFactoryIntf *factory)
     d->factory = factory;
     d->deletePopups();
     d->createPopups();
-    if (!d->pressMapper) {
-        d->pressMapper = new QSignalMapper(this);
-        d->releaseMapper = new QSignalMapper(this);
-    }
     d->connectAlternativeKeys();
 }
 
@@ -364,8 +364,9 @@ bool ZEMVirtualKeyboard::load(const QString &fileName)
     }
     d->pageStack->adjustSize();
 
-    d->connectKeys(d->pressMapper, &ZEMVirtualKey::pressed, &ZEMVirtualKeyboard::buttonPressed);
-    d->connectKeys(d->releaseMapper, &ZEMVirtualKey::released, &ZEMVirtualKeyboard::buttonReleased);
+    ++d->loadedFiles;
+    d->connectKeys(&ZEMVirtualKey::pressed, &ZEMVirtualKeyboard::buttonPressed);
+    d->connectKeys(&ZEMVirtualKey::released, &ZEMVirtualKeyboard::buttonReleased);
     return true;
 }
 
@@ -445,7 +446,10 @@ void ZEMVirtualKeyboard::parseRow(QHBoxLayout *row, const QDomElement &element)
 
 void ZEMVirtualKeyboard::switchButtonCaps(t_caps state)
 {
-    for (ZEMVirtualKey *key : qAsConst(d->keys)) {
+    for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->keys)) {
+        if (!key) {
+            continue;
+        }
         switch (state) {
         case CapsOff:
             key->toLower();
@@ -528,7 +532,7 @@ void ZEMVirtualKeyboard::slotUpdateLastPressedButton()
 void ZEMVirtualKeyboard::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    for (ZEMVirtualKey *key : qAsConst(d->keys)) {
+    for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->keys)) {
         d->changeLook(key, false);
     }
     for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->alternativeKeys)) {

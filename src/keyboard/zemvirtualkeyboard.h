@@ -135,7 +135,10 @@ public:
     void parseRow(QHBoxLayout *row, const QDomElement &element);
 
 Q_SIGNALS:
-    /** An Enter key was touched; its event is on its way to the target, if there is one. */
+    /**
+     * An Enter key was touched; its event is on its way to the target, if there is one. A slot may
+     * delete the keyboard, as may one of the signals of its keys.
+     */
     void sigKey_enter();
 
 protected:

@@ -21,6 +21,8 @@
 #include <QTimer>
 #include <QVector>
 
+#include <functional>
+
 /** What the tests of keyboards and their dialogs share. */
 namespace KeyboardTest {
 
@@ -41,7 +43,11 @@ public:
     ZEMVirtualKey *createKey(const QString &name) override
     {
         log.append(QStringLiteral("key ") + name);
-        return sized(new ZEMVirtualKey(name), keySide);
+        ZEMVirtualKey *key = sized(new ZEMVirtualKey(name), keySide);
+        if (withKey) {
+            withKey(key);
+        }
+        return key;
     }
     ZEMVirtualKey *createAlternateKey() override
     {
@@ -78,6 +84,7 @@ public:
     }
 
     bool hasPreview = true;
+    std::function<void(ZEMVirtualKey *)> withKey; ///< gets each key, if set, before its keyboard
     mutable QStringList log;
     QStringList looks;
     ZEMVirtualKey *preview = nullptr;
