@@ -14,9 +14,7 @@
 #include <QLabel>
 #include <QMargins>
 #include <QPalette>
-#include <QPointer>
 #include <QPushButton>
-#include <QVector>
 
 namespace {
 
@@ -62,8 +60,6 @@ public:
     {
         auto *keyboard = new ZEMVirtualKeyboard;
         keyboard->setFactory(factory);
-        keyboards.removeAll(nullptr);
-        keyboards.append(keyboard);
         return keyboard;
     }
 
@@ -92,7 +88,6 @@ public:
     const QMargins keyboardMargins {0, 46, 0, 2};
     QHash<SizeKey, QPixmap> releasedBackgrounds;
     QHash<SizeKey, QPixmap> pressedBackgrounds;
-    QVector<QPointer<ZEMVirtualKeyboard>> keyboards;
 };
 
 KeyboardFactoryDefault::KeyboardFactoryDefault(const QString &keyboardPath, const QString &language)
@@ -100,14 +95,7 @@ KeyboardFactoryDefault::KeyboardFactoryDefault(const QString &keyboardPath, cons
 {
 }
 
-KeyboardFactoryDefault::~KeyboardFactoryDefault()
-{
-    for (const QPointer<ZEMVirtualKeyboard> &keyboard : qAsConst(d->keyboards)) {
-        if (keyboard) {
-            keyboard->forgetFactory(this);
-        }
-    }
-}
+KeyboardFactoryDefault::~KeyboardFactoryDefault() = default;
 
 ZEMVirtualKeyboard *KeyboardFactoryDefault::createKeyboard(KeyboardPopupStyle style)
 {

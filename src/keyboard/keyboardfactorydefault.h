@@ -38,8 +38,7 @@
  *
  * Make one factory and keep it until the last of its keyboards is gone, so that all of them share
  * the pictures of the keys. A picture is rendered once for each size and state, and kept, together
- * with the hidden button that it was taken from, which is never deleted. A keyboard that outlives
- * the factory goes on typing, but its keys keep the look that they have.
+ * with the hidden button that it was taken from, which is never deleted.
  *
  * A host may derive from it to change the look. The class has no virtual destructor: delete an
  * object as what it is.

@@ -8,6 +8,8 @@
 
 #include <QString>
 
+#include <memory>
+
 class QWidget;
 class ZEMVirtualKey;
 class ZEMVirtualKeyboard;
@@ -29,8 +31,8 @@ class ZEMVirtualKeyboard;
  * }
  * @endcode
  *
- * Every call makes a new keyboard, which has no parent and belongs to the caller. The interface has
- * no destructor: delete an object as what it is, never through this class.
+ * Every call makes a new keyboard, which has no parent and belongs to the caller. The interface
+ * declares no destructor: delete an object as what it is, never through this class.
  */
 class ZEM_EXPORT ZEMVirtualKeyboardFactoryIntf
 {
@@ -58,9 +60,10 @@ public:
  * What a ZEMVirtualKeyboard asks while it is built and used: its keys, their looks and distances.
  * To be implemented by whoever wants other keys than those of KeyboardFactoryDefault.
  *
- * The widgets are made without a parent; the keyboard that asked takes them over. The factory has
- * to live as long as the keyboards that use it. The interface has no destructor: delete an object
- * as what it is, never through this class.
+ * The widgets are made without a parent; the keyboard that asked takes them over. Keep a factory
+ * until the last of its keyboards is gone: a keyboard notices when its factory goes first and types
+ * on, but its keys keep the look that they have, and it loads no further file. The interface
+ * declares no destructor: delete an object as what it is, never through this class.
  */
 class ZEM_EXPORT ZEMVirtualKeyFactoryIntf
 {
@@ -91,6 +94,24 @@ public:
 
     /** The distance of two rows, in pixels. */
     virtual int vSpacing() const = 0;
+
+private:
+    friend class ZEMVirtualKeyboard;
+
+    /** Goes with the factory, whatever that is; a copy has a life of its own. */
+    class Life
+    {
+    public:
+        Life() = default;
+        Life(const Life &) { }
+        Life &operator=(const Life &) { return *this; }
+
+        std::weak_ptr<const bool> watch() const { return mark; }
+
+    private:
+        std::shared_ptr<const bool> mark = std::make_shared<const bool>(true);
+    };
+    Life life;
 };
 
 #if defined(__GNUC__)

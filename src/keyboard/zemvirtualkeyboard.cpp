@@ -78,7 +78,13 @@ public:
         }
     }
 
-    void createPopups()
+    /** Null if there is none, or none any more. */
+    ZEMVirtualKeyFactoryIntf *factory() const
+    {
+        return factoryLife.expired() ? nullptr : lastFactory;
+    }
+
+    void createPopups(ZEMVirtualKeyFactoryIntf *factory)
     {
         for (int i = 0; i < alternativeKeyCount; ++i) {
             ZEMVirtualKey *key = factory->createAlternateKey();
@@ -109,8 +115,8 @@ public:
 
     void changeLook(ZEMVirtualKey *key, bool pressed) const
     {
-        if (factory && key) {
-            factory->changeKeyStylesheet(key, pressed);
+        if (factory() && key) {
+            factory()->changeKeyStylesheet(key, pressed);
         }
     }
 
@@ -153,8 +159,8 @@ public:
         const auto named = std::find_if(keys.cbegin(), keys.cend(), [&](const ZEMVirtualKey *key) {
             return key && key->name() == name;
         });
-        if (named != keys.cend() && factory) {
-            row->insertSpacing(-1, (*named)->width() + factory->hSpacing());
+        if (named != keys.cend() && factory()) {
+            row->insertSpacing(-1, (*named)->width() + factory()->hSpacing());
         }
     }
 
@@ -282,7 +288,8 @@ public:
     QStackedWidget *pageStack = nullptr;
     QMargins pageMargins;
     int loadedFiles = 0;
-    ZEMVirtualKeyFactoryIntf *factory = nullptr;
+    ZEMVirtualKeyFactoryIntf *lastFactory = nullptr;
+    std::weak_ptr<const bool> factoryLife;
     bool showKeyPreview = true;
     bool showAlternatives = true;
     QPointer<ZEMVirtualKey> previewKey;
@@ -326,22 +333,16 @@ void ZEMVirtualKeyboard::setFactory(ZEMVirtualKeyFactoryIntf *factory)
     if (!factory) {
         return;
     }
-    d->factory = factory;
+    d->lastFactory = factory;
+    d->factoryLife = factory->life.watch();
     d->deletePopups();
-    d->createPopups();
+    d->createPopups(factory);
     d->connectAlternativeKeys();
-}
-
-void ZEMVirtualKeyboard::forgetFactory(const ZEMVirtualKeyFactoryIntf *factory)
-{
-    if (d->factory == factory) {
-        d->factory = nullptr;
-    }
 }
 
 bool ZEMVirtualKeyboard::load(const QString &fileName)
 {
-    if (!d->factory) {
+    if (!d->factory()) {
         qDebug() << "Error: Cannot load a keyboard that has no factory";
         return false;
     }
@@ -354,7 +355,7 @@ bool ZEMVirtualKeyboard::load(const QString &fileName)
     d->showKeyPreview = popups.preview;
     d->showAlternatives = popups.alternatives;
 
-    const int spacing = d->factory->vSpacing();
+    const int spacing = d->factory()->vSpacing();
     for (auto page = root.firstChildElement(QStringLiteral("layout")); !page.isNull();
          page = page.nextSiblingElement(QStringLiteral("layout"))) {
         const int position = KeyboardFile::position(page.attribute(QStringLiteral("id")));
@@ -402,7 +403,7 @@ QString ZEMVirtualKeyboard::decodeValue(const QString &value) const
 
 ZEMVirtualKey *ZEMVirtualKeyboard::createButton(const QString &name)
 {
-    ZEMVirtualKey *key = d->factory ? d->factory->createKey(name) : nullptr;
+    ZEMVirtualKey *key = d->factory() ? d->factory()->createKey(name) : nullptr;
     if (key) {
         key->setParent(this);
         key->setType(KeyboardFile::typeOf(name));
@@ -414,7 +415,7 @@ ZEMVirtualKey *ZEMVirtualKeyboard::createButton(const QString &name)
 
 void ZEMVirtualKeyboard::parseLayout(QVBoxLayout *layout, const QDomElement &element)
 {
-    const int spacing = d->factory ? d->factory->hSpacing() : 0;
+    const int spacing = d->factory() ? d->factory()->hSpacing() : 0;
     for (auto child = element.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         if (child.tagName() == QLatin1String("row")) {

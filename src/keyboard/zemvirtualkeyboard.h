@@ -84,9 +84,10 @@ public:
     ~ZEMVirtualKeyboard() override;
 
     /**
-     * Takes keys and spacings from @p factory, which stays the caller's and must outlive the
-     * keyboard; null is ignored. The popups are made at once, the keys by load(). Calling it again
-     * renews the popups and leaves the keys that there are.
+     * Takes keys and spacings from @p factory, which stays the caller's; null is ignored. The
+     * popups are made at once, the keys by load(). Calling it again renews the popups and leaves
+     * the keys that there are. If the factory goes before the keyboard, that types on, but its keys
+     * keep the look that they have.
      */
     void setFactory(ZEMVirtualKeyFactoryIntf *factory);
 
@@ -156,9 +157,6 @@ private Q_SLOTS:
 
 private:
     Q_DISABLE_COPY(ZEMVirtualKeyboard)
-
-    friend class KeyboardFactoryDefault;
-    void forgetFactory(const ZEMVirtualKeyFactoryIntf *factory);
 
     class Private;
     std::unique_ptr<Private> d;

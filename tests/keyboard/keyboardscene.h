@@ -48,6 +48,7 @@ struct Scene
     QPointer<QWidget> page;
     QPointer<QWidget> dialog;
     QPointer<ZEMVirtualKeyboard> keyboard;
+    KeyboardTest::Target *target = nullptr; ///< of a keyboard without a dialog
 };
 
 using ScenePtr = std::shared_ptr<Scene>;
@@ -64,7 +65,8 @@ inline ScenePtr keyboardScene()
     if (!keyboard->load(scene->keyboards.files.write(KeyboardTest::keyboardFile(row)))) {
         qFatal("cannot load a test keyboard");
     }
-    keyboard->setFocusWidget(new KeyboardTest::Target(scene->page));
+    scene->target = new KeyboardTest::Target(scene->page);
+    keyboard->setFocusWidget(scene->target);
     keyboard->setPopupParent(scene->page);
     keyboard->move(30, 200);
     keyboard->resize(keyboard->sizeHint());
@@ -119,6 +121,17 @@ inline ZEMVirtualKey *openPanel(const ScenePtr &scene)
         }
     }
     qFatal("no panel");
+}
+
+/** What is left of the keyboard goes on: it changes all keys, and their looks. */
+inline void goOn(const ScenePtr &scene)
+{
+    QCoreApplication::processEvents();
+    if (scene->keyboard) {
+        scene->keyboard->switchButtonCaps(ZEMVirtualKeyboard::CapsLock);
+        scene->keyboard->resize(scene->keyboard->size() + QSize(10, 10));
+    }
+    QCoreApplication::processEvents();
 }
 
 } // namespace KeyboardScene

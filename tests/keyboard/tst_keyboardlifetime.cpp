@@ -15,6 +15,7 @@
 
 using InputDialogTest::keyOf;
 using InputDialogTest::withClass;
+using KeyboardScene::goOn;
 using KeyboardScene::hiddenDialog;
 using KeyboardScene::holdOn;
 using KeyboardScene::keyboardScene;
@@ -56,17 +57,6 @@ struct Row
     Ends ends;
     std::function<Stage()> stage;
 };
-
-/** What is left of the keyboard goes on: it changes all keys, and their looks. */
-void goOn(const ScenePtr &scene)
-{
-    QCoreApplication::processEvents();
-    if (scene->keyboard) {
-        scene->keyboard->switchButtonCaps(ZEMVirtualKeyboard::CapsLock);
-        scene->keyboard->resize(scene->keyboard->size() + QSize(10, 10));
-    }
-    QCoreApplication::processEvents();
-}
 
 /** @p act and what follows it; the keyboard is that of @p scene. */
 Stage stageOf(const ScenePtr &scene, QObject *object, const std::function<void()> &act)
