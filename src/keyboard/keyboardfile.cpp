@@ -6,11 +6,14 @@
 #include <QDebug>
 #include <QDomDocument>
 #include <QFile>
+#include <QHash>
+#include <QRegularExpression>
 #include <QWidget>
 #include <QXmlStreamReader>
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace KeyboardFile {
 
@@ -22,24 +25,100 @@ void reportParseError(qint64 line, qint64 column, const QString &message)
              << "column " << column << ": " << message;
 }
 
-/** Whether QDomDocument can be trusted with the nesting of @p device, which is read. */
-bool isFlatEnough(QIODevice *device)
+/** Takes an entity that nobody declared for empty, as QDomDocument does. */
+class UnknownEntities : public QXmlStreamEntityResolver
 {
-    QXmlStreamReader reader(device);
+public:
+    QString resolveUndeclaredEntity(const QString &) override { return QStringLiteral(""); }
+};
+
+/** The entities that a file declares, and what they make of it. */
+class Entities
+{
+public:
+    explicit Entities(QString content) : text(std::move(content))
+    {
+        // An escaped sign of a reference is one when the entity around it is used.
+        static const QRegularExpression escaped(QStringLiteral("&#(?:0*38|x0*26);"));
+        static const QRegularExpression escapedPercent(QStringLiteral("&#(?:0*37|x0*25);"));
+        static const QRegularExpression declaration(
+            QStringLiteral("<!ENTITY\\s+(%\\s+)?([^\\s\"']+)\\s+(?:\"([^\"]*)\"|'([^']*)')"));
+        text.replace(escaped, QStringLiteral("&"));
+        text.replace(escapedPercent, QStringLiteral("%"));
+        auto matches = declaration.globalMatch(text);
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            const QChar sign = QLatin1Char(match.capturedLength(1) > 0 ? '%' : '&');
+            // Of several meanings all count.
+            meanings[sign + match.captured(2)] += match.captured(3) + match.captured(4);
+        }
+    }
+
+    /** By how many characters the file grows at most; no more than just beyond the limit. */
+    qint64 growth() { return growthOf(text, 0); }
+
+private:
+    qint64 growthOf(const QString &content, int level)
+    {
+        constexpr int levelLimit = 16;
+        static const QRegularExpression reference(QStringLiteral("([&%][^\\s;&%<]+);"));
+        qint64 growth = 0;
+        auto matches = reference.globalMatch(content);
+        while (matches.hasNext() && growth <= growthLimit) {
+            const QString name = matches.next().captured(1);
+            if (!meanings.contains(name)) {
+                continue;
+            }
+            if (!lengths.contains(name)) {
+                const QString meaning = meanings.value(name);
+                lengths[name] = level < levelLimit ? meaning.size() + growthOf(meaning, level + 1)
+                                                   : growthLimit + 1;
+            }
+            growth += lengths.value(name);
+        }
+        return growth;
+    }
+
+    QString text;
+    QHash<QString, QString> meanings; // by the sign and the name of a reference
+    QHash<QString, qint64> lengths;
+};
+
+/** Whether what the entities of @p content make of it is small enough to be read at all. */
+bool growsLittle(const QByteArray &content)
+{
+    const int place = content.indexOf("<!ENTITY");
+    if (place < 0 || Entities(QString::fromLatin1(content)).growth() <= growthLimit) {
+        return true;
+    }
+    const QByteArray before = content.left(place);
+    reportParseError(before.count('\n') + 1, place - before.lastIndexOf('\n'),
+                     QStringLiteral("entities make the file too large"));
+    return false;
+}
+
+/** Whether QDomDocument can be trusted with the nesting of @p content; it calls itself for each. */
+bool isFlatEnough(const QByteArray &content)
+{
+    UnknownEntities unknownEntities;
+    QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
+    reader.setEntityResolver(&unknownEntities);
+    reader.setEntityExpansionLimit(growthLimit);
     int depth = 0;
-    while (!reader.atEnd()) {
+    while (!reader.atEnd() && depth <= depthLimit) {
         reader.readNext();
         depth += reader.isStartElement() ? 1 : 0;
         depth -= reader.isEndElement() ? 1 : 0;
-        if (depth > depthLimit) {
-            reportParseError(reader.lineNumber(), reader.columnNumber(),
-                             QStringLiteral("elements are nested too deeply"));
-            return false;
-        }
     }
-    // Errors are left to the real parser, which tells them in its own words.
-    return true;
+    // Errors are left to QDomDocument, which tells them in its own words or forgives them.
+    if (depth <= depthLimit && !(reader.hasError() && content.count('<') > depthLimit)) {
+        return true;
+    }
+    reportParseError(reader.lineNumber(), reader.columnNumber(),
+                     reader.hasError() ? reader.errorString()
+                                       : QStringLiteral("elements are nested too deeply"));
+    return false;
 }
 
 bool fitsInt(double value)
@@ -64,18 +143,15 @@ bool read(const QString &fileName, QDomDocument *document)
         qDebug() << "Error: Cannot read file " << fileName << ": " << file.errorString();
         return false;
     }
-    // A pipe can be read only once.
-    if (!file.isSequential()) {
-        if (!isFlatEnough(&file)) {
-            return false;
-        }
-        file.seek(0);
+    const QByteArray content = file.readAll();
+    // Without the zeros of UTF-16, what declares and uses entities is there to be found.
+    if (!growsLittle(QByteArray(content).replace('\0', QByteArray())) || !isFlatEnough(content)) {
+        return false;
     }
-
     QString message;
     int line = 0;
     int column = 0;
-    if (!document->setContent(&file, false, &message, &line, &column)) {
+    if (!document->setContent(content, false, &message, &line, &column)) {
         reportParseError(line, column, message);
         return false;
     }

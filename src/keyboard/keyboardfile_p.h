@@ -16,9 +16,12 @@ namespace KeyboardFile {
 /** Elements may be nested this deep; the XML parser calls itself for each level. */
 constexpr int depthLimit = 1000;
 
+/** Entities may make a file this much longer, in characters; the document holds all of them. */
+constexpr int growthLimit = 100000;
+
 /**
  * Reads the file @p fileName into @p document. False, with the reason on qDebug(), if it cannot be
- * opened, is not XML, is nested too deeply or has another root than @c keyboard.
+ * opened, is not XML, is beyond one of the limits or has another root than @c keyboard.
  */
 bool read(const QString &fileName, QDomDocument *document);
 

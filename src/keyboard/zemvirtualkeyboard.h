@@ -93,10 +93,12 @@ public:
 
     /**
      * Builds pages and keys as the file @p fileName describes, and returns whether it could be
-     * read. If it is not a well-formed XML file with a root @c keyboard, or there is no factory
-     * yet, nothing is changed, so another file may be tried; the reason goes to qDebug(). All flaws
-     * below the root are passed over in silence: a page without a valid id, a key without a value
-     * and unknown elements are left out, a bad number counts as its default.
+     * read. If it is not a well-formed XML file with a root @c keyboard, or there is no factory,
+     * nothing is changed, so another file may be tried; the reason goes to qDebug(). Refused as not
+     * well-formed are also elements that are nested more than 1,000 deep, and entities that may
+     * make the file longer by more than 100,000 characters. All flaws below the root are passed
+     * over in silence: a page without a valid id, a key without a value and unknown elements are
+     * left out, a bad number counts as its default.
      *
      * To be called once. A second file adds its pages and keys to those of the first, whose keys
      * are sent several times from then on.

@@ -33,7 +33,33 @@ private Q_SLOTS:
     void readsWhatIsNestedUpToTheLimit();
     void refusesDeeperNesting_data();
     void refusesDeeperNesting();
+    void readsWhatEntitiesAddUpToTheLimit();
+    void refusesWhatEntitiesMakeTooLarge_data();
+    void refusesWhatEntitiesMakeTooLarge();
+    void flawedFilesAreNoWayAroundTheLimits_data();
+    void flawedFilesAreNoWayAroundTheLimits();
 };
+
+namespace {
+
+/** A keyboard file with the entity "e", whose replacement is @p text. */
+QByteArray withEntity(const QByteArray &text, const QByteArray &content)
+{
+    return "<!DOCTYPE keyboard [<!ENTITY e \"" + text + "\">]><keyboard>" + content + "</keyboard>";
+}
+
+/** What is said when the file of this content is refused; empty if it is read. */
+QStringList refusal(const QByteArray &content)
+{
+    const Files files;
+    const QString name = files.write(content);
+    QDomDocument document;
+    MessageLog log;
+    const bool isRead = KeyboardFile::read(name, &document);
+    return isRead ? QStringList() : log.take();
+}
+
+} // namespace
 
 void tst_KeyboardFile::decodesOnce_data()
 {
@@ -289,6 +315,79 @@ void tst_KeyboardFile::refusesDeeperNesting()
                  QStringLiteral("Error: Parse error at line  1 ,  column  3010 :  ")),
              qPrintable(messages.first()));
     QVERIFY(document.isNull());
+}
+
+void tst_KeyboardFile::readsWhatEntitiesAddUpToTheLimit()
+{
+    const QByteArray half(KeyboardFile::growthLimit / 2, 'x');
+    const Files files;
+    QDomDocument document;
+    QVERIFY(KeyboardFile::read(files.write(withEntity(half, "<a>&e;</a>")), &document));
+    QCOMPARE(document.documentElement().text().size(), half.size());
+    // A file may be large by itself.
+    const QByteArray text(3 * KeyboardFile::growthLimit, 'x');
+    const QByteArray large = withEntity("y", "<a b='" + text + "'>&e;" + text + "</a>");
+    QVERIFY(KeyboardFile::read(files.write(large), &document));
+    QCOMPARE(document.documentElement().text().size(), text.size() + 1);
+}
+
+void tst_KeyboardFile::refusesWhatEntitiesMakeTooLarge_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray longText(60000, 'x');
+    QTest::newRow("text") << withEntity(longText, QByteArray("&e;").repeated(20000));
+    QTest::newRow("elements with text")
+        << withEntity(longText, QByteArray("<a>&e;</a>").repeated(20000));
+    QTest::newRow("attributes") << withEntity(longText, QByteArray("<a b='&e;'/>").repeated(20000));
+    QTest::newRow("elements") << withEntity(QByteArray("<a/>").repeated(15000),
+                                            QByteArray("&e;").repeated(20000));
+    QTest::newRow("comments") << withEntity(QByteArray("<!---->").repeated(9000),
+                                            QByteArray("&e;").repeated(20000));
+    QTest::newRow("instructions") << withEntity(QByteArray("<?a?>").repeated(9000),
+                                                QByteArray("&e;").repeated(20000));
+    QTest::newRow("in turn") << "<!DOCTYPE keyboard [<!ENTITY a \"" + QByteArray(1000, 'x')
+            + "\"><!ENTITY b \"" + QByteArray("&a;").repeated(60) + "\">]><keyboard>"
+            + QByteArray("&b;").repeated(20000) + "</keyboard>";
+    QTest::newRow("of the second meaning") << "<!DOCTYPE keyboard [<!ENTITY e \"" + longText
+            + "\"><!ENTITY e \"x\">]><keyboard>" + QByteArray("&e;").repeated(20000)
+            + "</keyboard>";
+    QTest::newRow("behind an escape") << "<!DOCTYPE keyboard [<!ENTITY a \"" + longText
+            + "\"><!ENTITY e \"" + QByteArray("&#38;a;").repeated(9) + "\">]><keyboard>"
+            + QByteArray("&e;").repeated(20000) + "</keyboard>";
+    QTest::newRow("too long by itself")
+        << withEntity(QByteArray(KeyboardFile::growthLimit + 1, 'x'), "<a>&e;&e;</a>");
+}
+
+void tst_KeyboardFile::refusesWhatEntitiesMakeTooLarge()
+{
+    QFETCH(QByteArray, content);
+    const QStringList messages = refusal(content);
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().startsWith(QStringLiteral("Error: Parse error at line  1 ")),
+             qPrintable(messages.first()));
+}
+
+/** What one parser calls an error another may forgive. */
+void tst_KeyboardFile::flawedFilesAreNoWayAroundTheLimits_data()
+{
+    QTest::addColumn<QByteArray>("flaw");
+    QTest::newRow("attribute given twice") << QByteArray("<a b='1' b='2'/>");
+    QTest::newRow("unknown entity") << QByteArray("<a>&unknown;</a>");
+    QTest::newRow("control character") << QByteArray("<a>\x01</a>");
+    QTest::newRow("prefix without a name") << QByteArray("<:a/>");
+}
+
+void tst_KeyboardFile::flawedFilesAreNoWayAroundTheLimits()
+{
+    QFETCH(QByteArray, flaw);
+    const int depth = 20000;
+    QCOMPARE(refusal("<keyboard>" + flaw + QByteArray("<a>").repeated(depth)
+                     + QByteArray("</a>").repeated(depth) + "</keyboard>")
+                 .size(),
+             1);
+    QCOMPARE(refusal(withEntity(QByteArray(60000, 'x'), flaw + QByteArray("&e;").repeated(20000)))
+                 .size(),
+             1);
 }
 
 QTEST_MAIN(tst_KeyboardFile)
