@@ -185,6 +185,12 @@ public:
         }
     }
 
+    /** A key does not tell that a host puts it up, or that it is no longer seen. */
+    bool isHeld(const ZEMVirtualKey *key) const
+    {
+        return key->isVisible() && (key->isDown() || !isTouched);
+    }
+
     bool isPanelOpen() const { return alternativesPanel && alternativesPanel->isVisible(); }
 
     void hidePanel() const
@@ -296,6 +302,7 @@ public:
     QVector<QPointer<ZEMVirtualKey>> keys;
     QTimer *holdTimer = nullptr;
     int lastPressed = 0;
+    bool isTouched = false; // or pressed by something else than a finger
     KeyTouch touch;
     t_caps capsState = CapsOff;
     // The popups live in a widget of the host, with which they may go.
@@ -474,6 +481,7 @@ void ZEMVirtualKeyboard::buttonPressed(int index)
     }
     d->hidePanel();
     d->lastPressed = index;
+    d->isTouched = key->isDown();
     d->changeLook(key, true);
     if (key->type() != ZEMVirtualKey::Character) {
         return;
@@ -512,7 +520,7 @@ void ZEMVirtualKeyboard::slotDisplayAlternatives()
     setShown(d->previewKey, false);
     const ZEMVirtualKey *key = d->keys.value(d->lastPressed);
     // A key of another type may have been touched while a character key was held.
-    if (key && key->type() == ZEMVirtualKey::Character && d->alternativesPanel) {
+    if (key && key->type() == ZEMVirtualKey::Character && d->isHeld(key) && d->alternativesPanel) {
         d->showPanel(key);
     }
 }

@@ -38,9 +38,11 @@ class ZEMVirtualKey;
  * QCoreApplication::postEvent(), that is, on a later turn of the event loop; there are no events
  * for releases. A character is sent with its own Unicode value as key code, so that "a" is 97.
  *
- * A key is sent when it is released. While it is down, a character key shows its character in a
- * popup; after 750 ms it opens a panel with its alternative characters, if it has any, and will not
- * be sent itself. The panel stays until one of its keys or any other key is touched.
+ * A key is sent when it is released, and so when the finger is moved off it. While it is down, a
+ * character key shows its character in a popup; after 750 ms it opens a panel with its alternative
+ * characters, if it has any, and will not be sent itself. The panel opens only if key and keyboard
+ * are still to be seen and the key is still held. It stays until one of its keys or any other key
+ * is touched, or the keyboard is hidden.
  *
  * The caps key leads from small letters to one capital, then to capitals, and back. One capital
  * ends with the next key that sends anything, but not with an alternative character. A keyboard

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "inputdialogtest.h"
 #include "keyboardtest.h"
+
+#include <ZEMLineEditDialog>
 
 #include <QElapsedTimer>
 
@@ -35,6 +38,9 @@ private Q_SLOTS:
     void secondKeyWithoutAlternatives();
     void specialKeyIsNeverOffered();
     void hiddenDuringTheHold();
+    void keyThatIsPutUp();
+    void heldKeyOfAnotherPage();
+    void holdOutlivesASwitchOfKeyboards();
     void releasedWhileHidden();
     void shownAgainDuringTheHold();
     void hideClosesThePanel();
@@ -359,12 +365,65 @@ void tst_KeyboardPopups::hiddenDuringTheHold()
     QVERIFY(!board.factory.preview->isVisible());
     QVERIFY(board.isPanelClosed());
     QVERIFY(board.holdOn()); // a hold outlives the keyboard's being seen
-    QVERIFY(board.isPanelOpen());
-    QCOMPARE(board.offered(), QStringLiteral("xyz"));
+    QVERIFY(board.isPanelClosed());
     board.keyboard->show();
+    QVERIFY(board.isPanelClosed());
     board.tap("b");
     QVERIFY(board.isPanelClosed());
     QCOMPARE(board.target->takeText(), QStringLiteral("b"));
+}
+
+/** A key that a host puts up does not tell of it. */
+void tst_KeyboardPopups::keyThatIsPutUp()
+{
+    Board board(row);
+    QVERIFY(board.show());
+    board.press("a");
+    board.key("a")->setDown(false);
+    QVERIFY(board.holdOn());
+    QVERIFY(board.isPanelClosed());
+    QVERIFY(!board.factory.preview->isVisible());
+    QVERIFY(board.target->take().isEmpty());
+}
+
+void tst_KeyboardPopups::heldKeyOfAnotherPage()
+{
+    Board board("<row><key value='1' layout='1'/></row></layout><layout id='1'>"
+                "<row><key value='a' alternate='xyz'/></row>");
+    QVERIFY(board.show());
+    board.tap("1");
+    board.press("a");
+    board.keyboard->hide();
+    board.keyboard->show(); // with its first page
+    QVERIFY(board.key("a")->isDown());
+    QVERIFY(board.holdOn());
+    QVERIFY(board.isPanelClosed());
+}
+
+/** The keyboards of a dialog take turns in one place. */
+void tst_KeyboardPopups::holdOutlivesASwitchOfKeyboards()
+{
+    InputDialogTest::Stage<ZEMLineEditDialog> stage;
+    QVERIFY(stage.isReady);
+    auto *letters = stage.dialog->findChild<ZEMVirtualKeyboard *>();
+    ZEMVirtualKey *held = InputDialogTest::keyOf(*letters, "a");
+    held->setAlternateKeys(QStringLiteral(";:"));
+    auto *ascii = stage.keyboards.make();
+    stage.dialog->setAsciiKeyboard(ascii);
+    stage.dialog->setAutoSelect(false);
+    stage.dialog->show();
+    QCoreApplication::processEvents();
+    ZemTest::press(held, held->rect().center());
+    stage.dialog->setAsciiInputMode(true);
+    auto *timer = letters->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(timer->isActive());
+    timer->setInterval(1);
+    QTRY_VERIFY(!timer->isActive());
+    for (const ZEMVirtualKey *key : stage.dialog->findChildren<ZEMVirtualKey *>()) {
+        QVERIFY(!key->isVisible() || ascii->isAncestorOf(key)); // nothing covers the keyboard
+    }
+    InputDialogTest::type(ascii, "b");
+    QTRY_COMPARE(stage.dialog->text(), QStringLiteral("b"));
 }
 
 void tst_KeyboardPopups::releasedWhileHidden()
