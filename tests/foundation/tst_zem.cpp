@@ -8,6 +8,26 @@
 
 #include <type_traits>
 
+namespace Host {
+
+/** Hides every operator of the global namespace from the code of this one. */
+struct Shape
+{
+};
+[[maybe_unused]] Shape operator|(Shape, Shape)
+{
+    return {};
+}
+
+static ZEM::ZEMTabs gasByDay()
+{
+    ZEM::ZEMTabs tabs = ZEM::TabDay | ZEM::TabGas;
+    tabs |= ZEM::TabWeek | ZEM::ZEMTabs(ZEM::TabMonth);
+    return tabs;
+}
+
+} // namespace Host
+
 class tst_ZEM : public QObject
 {
     Q_OBJECT
@@ -16,6 +36,7 @@ private Q_SLOTS:
     void tabs_data();
     void tabs();
     void tabsAreFlags();
+    void tabsCombineInANamespaceWithAnOperatorOfItsOwn();
     void tabsAreKnownToTheMetaObject();
 };
 
@@ -54,6 +75,11 @@ void tst_ZEM::tabsAreFlags()
     QCOMPARE(int(tabs), 257);
     QVERIFY(tabs.testFlag(ZEM::TabSolar));
     QVERIFY(!tabs.testFlag(ZEM::TabGas));
+}
+
+void tst_ZEM::tabsCombineInANamespaceWithAnOperatorOfItsOwn()
+{
+    QCOMPARE(int(Host::gasByDay()), 1 | 2 | 4 | 32);
 }
 
 void tst_ZEM::tabsAreKnownToTheMetaObject()
