@@ -15,7 +15,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
-#include <QFont>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QStyleFactory>
@@ -54,9 +53,7 @@ Options optionsOf(int argc, char *argv[])
 void setLook()
 {
     QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
-    QFont::insertSubstitution(QStringLiteral("Quicksand Book"), QStringLiteral("Quicksand"));
-    QFont::insertSubstitution(QStringLiteral("MS Shell Dlg 2"), QStringLiteral("Cabin"));
-    QApplication::setFont(QFont(QStringLiteral("Cabin"), 11));
+    ZEMStyle::setApplicationFonts();
     // The chart page of the library traces every press.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
 }

@@ -51,7 +51,7 @@ bool hasDisplay()
 void setLook()
 {
     QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
-    QApplication::setFont(QFont(QStringLiteral("Cabin"), 11));
+    ZEMStyle::setApplicationFonts();
     // A blinking cursor would make a picture differ from the next.
     QApplication::setCursorFlashTime(0);
     // All that keyboards trace is told in better words.

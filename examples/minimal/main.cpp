@@ -11,6 +11,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setStyle(new ZEMStyle(nullptr));
+    ZEMStyle::setApplicationFonts();
 
     ZEMPageBackground page;
     page.setBackgroundColor(QColor(22, 32, 40));

@@ -23,7 +23,9 @@ class ZEMCurrentStatusDetailsItem;
  * The host gives the totals; they are not summed up from the items. The total of the grid is
  * consumption minus production. All are shown as ZEMUtils::wattToStringAutoScale() words them.
  *
- * Items that are added become children of the panel. Its size is fixed, 493 by 262 pixels.
+ * The panel owns the items that are added. It is 493 by 262 pixels and a layout does not stretch
+ * it; there its height follows that of the title, and is 265 pixels in "Cabin". The fonts are the
+ * host's, see ZEMStyle::setApplicationFonts(); all texts have the colour of QPalette::WindowText.
  */
 class ZEM_EXPORT ZEMCurrentStatusDetails : public ZEMLabeledButton
 {

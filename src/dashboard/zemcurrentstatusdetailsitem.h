@@ -24,7 +24,8 @@
  * details->addConsumptionItem(boiler); // the panel owns it from now on
  * boiler->setValue(1500.0);
  * @endcode
- * Without arrows and icons of its own, which is how it is new, an item is a number.
+ * Without arrows and icons of its own, which is how it is new, an item is a number, in 11 point
+ * "Cabin", a font of the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMCurrentStatusDetailsItem : public QWidget
 {

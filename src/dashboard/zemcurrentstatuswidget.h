@@ -22,8 +22,10 @@
  * the consumption is. The arrows of the production are as fast as its share of maxProduction.
  *
  * All powers are in watts and shown as ZEMUtils::wattToStringAutoScale() words them, without their
- * sign. Every setter brings the whole tile up to date. The whole tile is one button; its size is
- * fixed.
+ * sign. Every setter brings the whole tile up to date. The whole tile is one button of 322 by 174
+ * pixels, which a layout does not stretch; there its height follows that of the title, and is 175
+ * pixels in "Cabin". The fonts are the host's, see ZEMStyle::setApplicationFonts(); the title has
+ * the colour of QPalette::WindowText, the powers are white.
  */
 class ZEM_EXPORT ZEMCurrentStatusWidget : public ZEMLabeledButton
 {

@@ -28,7 +28,8 @@ class ZEMMiniDayHistogram;
  * connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, this, &Page::openConsumption);
  * @endcode
  * The two charts do not share a scale. The tile keeps its size of 152 by 175 pixels. The captions
- * have the colour of QPalette::WindowText.
+ * have the colour of QPalette::WindowText. The font, "Cabin", is the host's; see
+ * ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMTotalsTodayWidget : public QWidget
 {

@@ -3,6 +3,7 @@
 
 #include "zemstyle.h"
 
+#include <QApplication>
 #include <QBrush>
 #include <QFont>
 #include <QPalette>
@@ -77,4 +78,14 @@ void ZEMStyle::polish(QPalette &palette)
 void ZEMStyle::polish(QFont &font)
 {
     font.setFamily(QStringLiteral("Cabin"));
+}
+
+void ZEMStyle::setApplicationFonts()
+{
+    constexpr int pointSize = 11;
+    const QString family = QStringLiteral("Cabin");
+    // Of the page header, the menu overlay and the text of a letter.
+    QFont::insertSubstitution(QStringLiteral("Quicksand Book"), QStringLiteral("Quicksand"));
+    QFont::insertSubstitution(QStringLiteral("MS Shell Dlg 2"), family);
+    QApplication::setFont(QFont(family, pointSize));
 }

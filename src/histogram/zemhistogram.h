@@ -46,6 +46,8 @@ class ZEMHistogramSeries;
  *
  * Before init() there is no mover: setScalePeriod(), setScaleInterval(), has_page() and the three
  * paging slots must not be used.
+ *
+ * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMHistogram : public QWidget
 {

@@ -25,6 +25,8 @@ class ZEMHistogram;
  * The button is as large as its picture, 322 by 152 pixels; the chart keeps 10 from its edges. A
  * chart that is dragged keeps the touches on its canvas for itself; a ZEMMiniDayHistogram leaves
  * them to the button.
+ *
+ * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMHistogramButton : public QWidget
 {

@@ -30,6 +30,8 @@ class ZEMHistogram;
  * dragging the chart. A page without a chart is empty, and leaves the headline as it was.
  *
  * The page traces what it does with qDebug().
+ *
+ * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMHistogramWidget : public QWidget
 {

@@ -34,7 +34,7 @@
  * | createAsciiKeyboard() | keyboard_ascii.xml |
  *
  * ZEMVirtualKeyboard tells what is in such a file. The text of the keys is in the font "Cabin",
- * which has to be installed.
+ * which is the host's; see ZEMStyle::setApplicationFonts().
  *
  * Make one factory and keep it until the last of its keyboards is gone, so that all of them share
  * the pictures of the keys. A picture is rendered once for each size and state, and kept, together

@@ -26,6 +26,8 @@ class ZEMVirtualKeyboard;
  * @endcode
  * The dialog does not close itself: hide it in answer to a signal. A new dialog is 892 by 531
  * pixels.
+ *
+ * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMLineEditSearchDialog : public ZEMPageBackground
 {

@@ -31,6 +31,8 @@ class ZEMVirtualKeyboard;
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
  * in answer, and empty the field once the secret has been read, for the dialog never does. A new
  * dialog is 724 by 480 pixels.
+ *
+ * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMPasswordDialog : public ZEMPageBackground
 {

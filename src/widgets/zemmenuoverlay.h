@@ -25,7 +25,9 @@ class QFont;
  * connect(power, &ZEMButton::clicked, menu, &QWidget::raise);
  * @endcode
  * A new overlay is 640 by 480 pixels and has three buttons, "afsluiten", "standby" and "annuleren";
- * the fourth, "status", is hidden. Texts are in black, 18 point bold "Quicksand Book".
+ * the fourth, "status", is hidden. Texts are in black, whatever the palette, on nearly white
+ * buttons, and in 18 point bold "Quicksand Book", a font of the host's; see
+ * ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMMenuOverlay : public ZEMPageBackground
 {

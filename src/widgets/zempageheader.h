@@ -27,7 +27,8 @@ class QLabel;
  * header->addButton(mail);
  * @endcode
  * A new header is 640 by 74 pixels, and in a layout as wide as there is room; it has two dots, one
- * empty action tile, no application buttons and sample texts, which the host replaces.
+ * empty action tile, no application buttons and sample texts, which the host replaces. The texts
+ * are in "Quicksand Book", a font of the host's; see ZEMStyle::setApplicationFonts().
  */
 class ZEM_EXPORT ZEMPageHeader : public ZEMPageBackground, public ZEMPageHeaderInterface
 {

@@ -13,7 +13,8 @@
 
 /**
  * The small title strip above a composite widget: one line of shadowed text in 12 point "Cabin",
- * 5 pixels from the left.
+ * 5 pixels from the left. The font is the host's, see ZEMStyle::setApplicationFonts(), and so is
+ * the colour, QPalette::WindowText.
  *
  * @code
  * auto *strip = new ZEMWidgetLabel(tile);

@@ -3,8 +3,13 @@
 
 #include <ZEMStyle>
 
+#include <QApplication>
+#include <QFile>
 #include <QFont>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPalette>
+#include <QRegularExpression>
 #include <QTest>
 
 class tst_ZEMStyle : public QObject
@@ -21,6 +26,9 @@ private Q_SLOTS:
     void polishLeavesOtherRolesAlone();
     void polishIsVirtual();
     void polishFontSetsTheFamilyOnly();
+    void headerGivesEveryColor();
+    void fontsOfTheApplication();
+    void quicksandStandsIn();
 };
 
 void tst_ZEMStyle::colorTable_data()
@@ -170,6 +178,52 @@ void tst_ZEMStyle::polishFontSetsTheFamilyOnly()
     QCOMPARE(font.family(), QStringLiteral("Cabin"));
     QCOMPARE(font.pointSize(), 20);
     QVERIFY(font.bold());
+}
+
+void tst_ZEMStyle::headerGivesEveryColor()
+{
+    QFile header(QStringLiteral(ZEMSTYLE_HEADER));
+    QVERIFY(header.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(header.readAll());
+    const QRegularExpression entry(
+        QStringLiteral("///< (\\d+), (\\d+), (\\d+)(?:, alpha (\\d+))?(?:;|\n)"));
+    int index = 0;
+    for (auto found = entry.globalMatch(text); found.hasNext(); ++index) {
+        const QRegularExpressionMatch match = found.next();
+        const QString alpha = match.captured(4);
+        const QColor told(match.captured(1).toInt(), match.captured(2).toInt(),
+                          match.captured(3).toInt(), alpha.isEmpty() ? 255 : alpha.toInt());
+        QVERIFY(index <= ZEMStyle::SpringGreen);
+        QCOMPARE(told, ZEMStyle(nullptr).color(ZEMStyle::ZEMColor(index)));
+    }
+    QCOMPARE(index, 32);
+}
+
+void tst_ZEMStyle::fontsOfTheApplication()
+{
+    ZEMStyle::setApplicationFonts();
+    QCOMPARE(QApplication::font().family(), QStringLiteral("Cabin"));
+    QCOMPARE(QApplication::font().pointSize(), 11);
+
+    const QStringList forTitles = QFont::substitutes(QStringLiteral("Quicksand Book"));
+    const QStringList forLetters = QFont::substitutes(QStringLiteral("MS Shell Dlg 2"));
+    ZEMStyle::setApplicationFonts();
+    QCOMPARE(QFont::substitutes(QStringLiteral("Quicksand Book")), forTitles);
+    QCOMPARE(QFont::substitutes(QStringLiteral("MS Shell Dlg 2")), forLetters);
+    QCOMPARE(forTitles.count(QStringLiteral("quicksand")), 1);
+    QCOMPARE(forLetters.count(QStringLiteral("cabin")), 1);
+}
+
+void tst_ZEMStyle::quicksandStandsIn()
+{
+    const QStringList families = QFontDatabase().families();
+    if (!families.contains(QStringLiteral("Quicksand"))
+        || families.contains(QStringLiteral("Quicksand Book"))) {
+        QSKIP("There is no Quicksand here, or nothing to stand in for.");
+    }
+    ZEMStyle::setApplicationFonts();
+    QCOMPARE(QFontInfo(QFont(QStringLiteral("Quicksand Book"))).family(),
+             QStringLiteral("Quicksand"));
 }
 
 QTEST_MAIN(tst_ZEMStyle)
