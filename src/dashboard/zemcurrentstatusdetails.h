@@ -39,7 +39,7 @@ public:
     void addConsumptionItem(ZEMCurrentStatusDetailsItem *item);
     /**
      * Takes the newest item out of the row of consumption, and the plus sign before it. @p item is
-     * neither hidden nor deleted and stays a child of the panel; the caller disposes of it.
+     * neither hidden nor deleted and stays the panel's; the caller disposes of it.
      *
      * Only for the newest one: whatever @p item is, the last entry of a row that still has several
      * is deleted, which after an earlier item is the newest item itself.
@@ -53,8 +53,8 @@ public:
     /** Whether the grid meter gives valid data; true by default. */
     bool getMeteringStatus() const;
     /**
-     * With false the totals of consumption and grid show "?". It is passed on to all items of
-     * consumption, see ZEMCurrentStatusDetailsItem::setValid(); the others keep their own.
+     * With false the totals of consumption and grid show "?". It is passed on to the items that
+     * consumption has now, see ZEMCurrentStatusDetailsItem::setValid(); the others keep their own.
      */
     void setMeteringStatus(bool ok);
 

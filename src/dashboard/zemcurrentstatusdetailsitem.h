@@ -55,7 +55,10 @@ public:
      */
     void setValue(double value);
 
-    /** The power in watts at which the arrows are fastest; with 0, the default, all are Medium. */
+    /**
+     * The power in watts that counts as full, see ZEMUtils::calculateSpeed(); with 0, the default,
+     * any flow is Medium.
+     */
     double getMaxValue() const;
     /** Sets the speed of the arrows, visible or not, valid or not; it does not start them. */
     void setMaxValue(double value);
@@ -67,7 +70,8 @@ public:
 
     /** Whether the arrows are visible: false as long as the item itself is not on the screen. */
     bool getShowArrows() const;
-    /** Shows or hides the arrows; hidden by default. */
+    /** Shows or hides the arrows; hidden by default. Shown ones follow from the next setValue() on.
+     */
     void setShowArrows(bool show);
 
     /**

@@ -8,7 +8,8 @@
 #include "zemenergyicon.h"
 
 /**
- * A tab for an energy: a button with a big ZEMEnergyIcon on it, 47 by 40 pixels.
+ * A tab for an energy: a button with a big ZEMEnergyIcon on it, 47 by 40 pixels. In a layout it is
+ * as high as its icon and the style's margins need, 43 pixels with Fusion.
  *
  * It is not checkable when new. Tabs of one parent that are checkable and auto-exclusive form a
  * row; ZEMEnergyTabWidget is one with all five energies.
@@ -38,7 +39,10 @@ public:
     using ZEMButton::clicked;
 
 Q_SIGNALS:
-    /** Follows each clicked(bool), also of a tab that was checked already. */
+    /**
+     * Follows each clicked(bool), also of a tab that was checked already. To connect to either of
+     * the two takes QOverload, as in the example.
+     */
     void clicked(ZEMEnergyIcon::Type type);
 
 private Q_SLOTS:

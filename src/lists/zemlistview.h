@@ -40,8 +40,10 @@ class QModelIndex;
  * page neither hides nor closes itself. Do not delete it in a slot that hears of a pick or a
  * cancel, use deleteLater().
  *
- * A new page is 640 by 480 pixels. The list has no ground of its own and takes its text colours
- * from the palette. For pictures to tap on, see ZEMSimpleListView.
+ * A new page is 640 by 480 pixels. The panel is nearly black, and the texts take their colours from
+ * the palette: they are read with ZEMStyle or another palette of light texts, and are black on
+ * black without. The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
+ * For pictures to tap on, see ZEMSimpleListView.
  */
 class ZEM_EXPORT ZEMListView : public ZEMPageBackground, public ZEMListViewInterface
 {

@@ -39,8 +39,10 @@ class QModelIndex;
  * neither hides nor closes itself. Do not delete it in a slot that hears of a pick or a cancel, use
  * deleteLater().
  *
- * A new page is 640 by 480 pixels. The list has no ground of its own and takes its text colours
- * from the palette. For a list of texts, see ZEMListView.
+ * A new page is 640 by 480 pixels. The panel is nearly black, and the texts take their colours from
+ * the palette: they are read with ZEMStyle or another palette of light texts, and are black on
+ * black without. The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
+ * For a list of texts, see ZEMListView.
  */
 class ZEM_EXPORT ZEMSimpleListView : public ZEMPageBackground, public ZEMListViewInterface
 {

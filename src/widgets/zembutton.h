@@ -24,10 +24,10 @@
  *
  * A button is on while it is enabled and, if it is checkable, also checked; in all other states it
  * is off. This decides everything:
- * - Background: on, background(); off, backgroundOff(), or backgroundDisabled() for a checkable
- *   button that is disabled. Where the picture is not set, a disabled one falls back to the off
- *   one and that to background(). A button that is not checkable never shows backgroundDisabled.
- *   The picture is stretched over the whole button.
+ * - Background: on, getBackground(); off, getBackgroundOff(), or getBackgroundDisabled() for a
+ *   checkable button that is disabled. Where the picture is not set, the disabled one falls back to
+ *   the off one and that to getBackground(). A button that is not checkable never shows
+ *   getBackgroundDisabled(). The picture is stretched over the whole button.
  * - Icon: in the mode and state QIcon::Normal and QIcon::On when on, QIcon::Disabled and QIcon::Off
  *   when off, in its largest size that fits; QAbstractButton::iconSize plays no part.
  * - Text: in the colour of QPalette::ButtonText, active group when on, disabled group when off.

@@ -16,14 +16,16 @@
  *
  * exec() and info() show the dialog and return when the user has answered. Until then a local event
  * loop serves timers, other widgets and the host's slots, so the display lives on. The dialog is an
- * ordinary widget: make it a child of the page, above all else on it, to cover the page.
+ * ordinary widget: make it a child of the page, above all else on it, to cover the page. Its texts
+ * have the colour of QPalette::WindowText on a nearly black ground: they are read with ZEMStyle or
+ * another palette of light texts, and are black on black without.
  * @code
  * ZEMDialogPopup sure(page);
  * sure.setTextLine1(tr("Alles wissen?"));
  * sure.setTextLine2(tr("Dit kan niet ongedaan worden."));
  * sure.setTextLine3(QString());
  * if (sure.exec()) {
- *     wipe();
+ *     page.close();
  * }
  * @endcode
  * A notice that the user cannot close, with a spinner, until a job is done:

@@ -12,8 +12,11 @@
 /**
  * A text with a shadow on a picture.
  *
- * The picture is that of ZEMPixmap and locks the size of the widget; without one the widget is a
- * plain label, in white, or grey while it is disabled, and is as large as its text asks for.
+ * The picture is that of ZEMPixmap and locks the size of the widget. Without one a new label is 64
+ * by 31 pixels, and in a layout as large as its text asks for.
+ *
+ * The text is white, or grey while the label is disabled. On a button it has the button's colour,
+ * QPalette::ButtonText, which is black without ZEMStyle.
  * @code
  * auto *value = new ZEMLabel(page);
  * value->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/main/text_bg_medium.png")));

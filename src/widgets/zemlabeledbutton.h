@@ -16,7 +16,7 @@
 class ZEMButton;
 
 /**
- * A ZEMButton with a title strip above it. The base of the tiles of a dashboard.
+ * A ZEMButton with a title strip above it, a ZEMWidgetLabel. The base of the tiles of a dashboard.
  *
  * @code
  * auto *tile = new ZEMLabeledButton(page);

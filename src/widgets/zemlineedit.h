@@ -23,10 +23,11 @@ class QValidator;
  * name->setPlaceholderText(tr("naam"));
  * @endcode
  * The field has neither frame nor ground while enabled, and an opaque light grey ground while
- * disabled. Without a picture a new widget is 640 by 480 pixels.
+ * disabled. Its text has the colour of QPalette::Text. Without a picture a new widget is 640 by 480
+ * pixels.
  *
- * Text, placeholder, the flags, length and validator are those of the QLineEdit, named "lineEdit",
- * and behave as there.
+ * Text, placeholder, the flags, length and validator are those of the QLineEdit, and behave as
+ * there. It is a child named "lineEdit"; a host connects to its signals, as this class has none.
  */
 class ZEM_EXPORT ZEMLineEdit : public ZEMPixmap
 {
@@ -64,7 +65,10 @@ public:
     /** Sets the validator, which stays the caller's; null removes it. */
     void setValidator(const QValidator *validator);
 
-    /** Pixels between the edges of the picture and the field; 0 by default. */
+    /**
+     * Pixels between the edges of the picture and the room of the field; 0 by default. The field
+     * takes all of its width and stands, one line high, in the middle of its height.
+     */
     int layoutLeft() const;
     void setLayoutLeft(int margin);
     int layoutTop() const;

@@ -21,8 +21,9 @@
  * name->setText(userName);
  * connect(name, &ZEMLineEditButton::clicked, page, &SettingsPage::askForName);
  * @endcode
- * The text is that of a ZEMTextLabel named "textLabel", without a shadow, and takes the place of
- * the text of other buttons. A new button is 64 by 32 pixels.
+ * The text is that of a ZEMTextLabel named "textLabel", without a shadow and in the colour of
+ * QPalette::ButtonText. It takes the place of the text of other buttons. A new button is 64 by 32
+ * pixels.
  */
 class ZEM_EXPORT ZEMLineEditButton : public ZEMButton
 {

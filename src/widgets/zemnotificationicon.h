@@ -23,7 +23,9 @@
  * The badge shows "!" for a warning, or else the count, "9+" if it is above 9, and is absent if
  * that is 0. Without a picture for its state, enabled or disabled, the widget is empty.
  *
- * A new icon is 45 by 45 pixels; its texts are in 9 point bold, or one point more or less.
+ * A new icon is 45 by 45 pixels, but asks a layout for no room, where it is 0 wide in a row: give
+ * it a fixed size there, or take a ZEMNotificationButton, which keeps its size. The text of the
+ * badge is magenta, in 9 point bold, or one point more or less.
  */
 class ZEM_EXPORT ZEMNotificationIcon : public QWidget
 {

@@ -96,9 +96,9 @@ public:
      */
     void enableButton(int index, bool enable);
 
-    /** The label of the title, to style it; 18 point "Quicksand Book" in magenta by default. */
+    /** The label of the title, to style it; 18 point "Quicksand Book" in magenta. */
     QLabel *getTitleWidget() const;
-    /** The label of the subtitle, to style it; 10 point bold in sky blue by default. */
+    /** The label of the subtitle, to style it; 10 point bold "Quicksand Book" in sky blue. */
     QLabel *getSubtitleWidget() const;
 
 public Q_SLOTS:

@@ -15,7 +15,7 @@
  * and the star at the top is the last.
  *
  * The stars keep their size and stand in the corners and at the top of the widget, whose size is
- * the owner's business:
+ * the owner's business; it asks a layout for no room:
  * @code
  * auto *rating = new ZEMThreeStars(page);
  * rating->resize(90, 80); // room for stars of 43 by 39 pixels; the small ones have 22 by 20
