@@ -16,12 +16,19 @@
  * for the size of the flow; ZEMUtils::calculateSpeed() makes one of a power.
  *
  * @code
+ * #include <ZEMAnimatedArrows>
+ * #include <ZEMPageBackground>
+ * #include <ZEMUtils>
+ *
+ * ZEMPageBackground page;
+ * auto *arrows = new ZEMAnimatedArrows(&page);
  * arrows->setDirection(ZEMAnimatedArrows::Right);
- * const int speed = ZEMUtils::calculateSpeed(maximum, watt);
+ * const int speed = ZEMUtils::calculateSpeed(3000.0, 1480.0); // the most, and now
  * arrows->setSpeed(ZEMAnimatedArrows::Speed(speed));
  * if (speed != ZEMAnimatedArrows::Stopped && !arrows->getRunning()) {
  *     arrows->start();
  * }
+ * page.show();
  * @endcode
  * New arrows do not run and are not seen. While they run the three are painted at most 20 times in
  * a second; while they are hidden or stopped nothing is painted, and stopped arrows have no timer.

@@ -13,12 +13,23 @@ class ZEMCurrentStatusDetailsItem;
  * of items, one for each device or source.
  *
  * @code
- * auto *details = new ZEMCurrentStatusDetails(page);
- * details->addConsumptionItem(house);
- * details->addConsumptionItem(car); // house + car
- * details->addProductionItem(solar);
- * details->setTotalConsumptionValue(3040.0); // watts
+ * #include <QApplication>
+ * #include <ZEMCurrentStatusDetails>
+ * #include <ZEMCurrentStatusDetailsItem>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * auto *details = new ZEMCurrentStatusDetails(&page);
+ * for (const double watt : {340.0, 2700.0}) {
+ *     auto *device = new ZEMCurrentStatusDetailsItem;
+ *     device->setValue(watt);
+ *     details->addConsumptionItem(device); // 340 W + 2,7 kW
+ * }
+ * details->setTotalConsumptionValue(3040.0);
  * details->setTotalProductionValue(250.0);
+ * page.show();
  * @endcode
  * The host gives the totals; they are not summed up from the items. The total of the grid is
  * consumption minus production. All are shown as ZEMUtils::wattToStringAutoScale() words them.

@@ -17,12 +17,22 @@
  * the icon of the source that the power comes from, with arrows for the flow.
  *
  * @code
- * auto *boiler = new ZEMCurrentStatusDetailsItem;
- * boiler->setIcon(QPixmap(QStringLiteral(":/host/boiler.png")));
- * boiler->setMaxValue(2000.0); // watts
- * boiler->setShowArrows(true);
- * details->addConsumptionItem(boiler); // the panel owns it from now on
- * boiler->setValue(1500.0);
+ * #include <QApplication>
+ * #include <ZEMCurrentStatusDetails>
+ * #include <ZEMCurrentStatusDetailsItem>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * auto *details = new ZEMCurrentStatusDetails(&page);
+ * auto *house = new ZEMCurrentStatusDetailsItem;
+ * house->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/icons_14.png")));
+ * house->setMaxValue(2000.0); // watts
+ * house->setShowArrows(true);
+ * details->addConsumptionItem(house); // the panel owns it from now on
+ * house->setValue(1500.0);
+ * page.show();
  * @endcode
  * Without arrows and icons of its own, which is how it is new, an item is a number, in 11 point
  * "Cabin", a font of the host's; see ZEMStyle::setApplicationFonts().

@@ -11,11 +11,20 @@
  * power that flows between them, and under each picture its power.
  *
  * @code
- * auto *status = new ZEMCurrentStatusWidget(page);
+ * #include <QApplication>
+ * #include <ZEMCurrentStatusWidget>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(22, 32, 40));
+ * auto *status = new ZEMCurrentStatusWidget(&page);
  * status->setMaxProduction(3000.0); // watts
- * connect(meter, &Meter::consumptionChanged, status, &ZEMCurrentStatusWidget::setConsumption);
- * connect(meter, &Meter::productionChanged, status, &ZEMCurrentStatusWidget::setProduction);
- * connect(status, &ZEMCurrentStatusWidget::clicked, this, &Page::openDetails);
+ * status->setProduction(2100.0);
+ * status->setConsumption(340.0);
+ * QObject::connect(status, &ZEMCurrentStatusWidget::clicked, &page, &QWidget::close);
+ * page.show();
  * @endcode
  * The power of the grid is consumption minus production. Its arrows run from the pylon to the house
  * while power is taken and the other way while it is delivered, the faster the larger its share of

@@ -15,8 +15,13 @@
  * names an energy.
  *
  * @code
- * auto *icon = new ZEMEnergyIcon(tile);
+ * #include <ZEMEnergyIcon>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * auto *icon = new ZEMEnergyIcon(&page);
  * icon->setEnergyType(ZEMEnergyIcon::Gas);
+ * page.show();
  * @endcode
  * The widget is locked to the size of its badge, 16 by 16 pixels or 25 by 25 for the big one.
  */

@@ -14,12 +14,18 @@
  * It is not checkable when new. Tabs of one parent that are checkable and auto-exclusive form a
  * row; ZEMEnergyTabWidget is one with all five energies.
  * @code
- * auto *gas = new ZEMEnergyTab(row);
+ * #include <QDebug>
+ * #include <ZEMEnergyTab>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground row;
+ * auto *gas = new ZEMEnergyTab(&row);
  * gas->setCheckable(true);
  * gas->setAutoExclusive(true);
  * gas->setEnergyType(ZEMEnergyIcon::Gas);
- * connect(gas, QOverload<ZEMEnergyIcon::Type>::of(&ZEMEnergyTab::clicked), this,
- * &Page::showEnergy);
+ * QObject::connect(gas, QOverload<ZEMEnergyIcon::Type>::of(&ZEMEnergyTab::clicked), &row,
+ *                  [](ZEMEnergyIcon::Type energy) { qDebug() << energy; });
+ * row.show();
  * @endcode
  */
 class ZEM_EXPORT ZEMEnergyTab : public ZEMButton

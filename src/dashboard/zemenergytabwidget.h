@@ -17,9 +17,15 @@
  * from left to right. The row of a ZEMHistogramWidget.
  *
  * @code
- * auto *tabs = new ZEMEnergyTabWidget(page);
- * tabs->showTabs(ZEM::TabElectricity | ZEM::TabGas);
- * connect(tabs, &ZEMEnergyTabWidget::btn_clicked, page, &Page::showEnergy);
+ * #include <QDebug>
+ * #include <ZEM>
+ * #include <ZEMEnergyTabWidget>
+ *
+ * ZEMEnergyTabWidget tabs;
+ * tabs.showTabs(ZEM::TabElectricity | ZEM::TabGas);
+ * QObject::connect(&tabs, &ZEMEnergyTabWidget::btn_clicked,
+ *                  [](ZEMEnergyIcon::Type energy) { qDebug() << energy; });
+ * tabs.show();
  * @endcode
  * A new row shows all five; electricity is checked.
  */

@@ -21,11 +21,33 @@ class ZEMMiniDayHistogram;
  *
  * The tile holds no values. The host feeds the charts, which are ready when the tile is made:
  * @code
- * auto *totals = new ZEMTotalsTodayWidget(page);
- * totals->getTopHistogram()->addSeries(consumption);
- * totals->getTopHistogram()->setValueLimits(data->valueLimits());
- * totals->getTopHistogram()->replot();
- * connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, this, &Page::openConsumption);
+ * #include <QApplication>
+ * #include <ZEMHistogramData>
+ * #include <ZEMHistogramSeries>
+ * #include <ZEMMiniDayHistogram>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ * #include <ZEMTotalsTodayWidget>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * auto *data = new ZEMHistogramData; // the series takes ownership
+ * data->setWindowSize(24);
+ * data->setNrWindows(1);
+ * const double hours[] = {0.2, 0.2, 0.2, 0.3, 0.3, 0.6, 1.4, 1.1}; // kWh since midnight
+ * data->setWindowValues(0, 0, 8, hours, false);
+ * auto *series = new ZEMHistogramSeries(QStringLiteral("Verbruik"), QBrush(Qt::yellow), false);
+ * series->setData(data);
+ *
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(22, 32, 40));
+ * auto *totals = new ZEMTotalsTodayWidget(&page);
+ * ZEMMiniDayHistogram *chart = totals->getTopHistogram();
+ * chart->addSeries(series); // the chart takes ownership
+ * chart->setValueLimits(QwtInterval(0.0, data->valueLimits().maxValue()));
+ * chart->replot();
+ * QObject::connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, &page,
+ *                  &QWidget::close);
+ * page.show();
  * @endcode
  * The two charts do not share a scale. The tile keeps its size of 152 by 175 pixels. The captions
  * have the colour of QPalette::WindowText. The font, "Cabin", is the host's; see

@@ -17,8 +17,12 @@ Q_NAMESPACE_EXPORT(ZEM_EXPORT)
  * The tabs of a chart page. Used singly, a period or an energy, to name one tab; or-ed together to
  * name those to show:
  * @code
- * page->showTabs(ZEM::TabDay | ZEM::TabWeek | ZEM::TabElectricity | ZEM::TabGas);
- * page->selectTab(ZEM::TabDay, ZEM::TabGas);
+ * #include <ZEMEnergyTabWidget>
+ *
+ * ZEMEnergyTabWidget tabs;
+ * tabs.showTabs(ZEM::TabElectricity | ZEM::TabGas);
+ * tabs.selectTab(ZEM::TabGas);
+ * tabs.show();
  * @endcode
  */
 enum ZEMTab {

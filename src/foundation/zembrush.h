@@ -10,7 +10,16 @@
 
 class QColor;
 
-/** Makes the striped brush of the library. A service for hosts. */
+/**
+ * Makes the striped brush of the library. A service for hosts.
+ * @code
+ * #include <ZEMBrush>
+ * #include <ZEMHistogramSeries>
+ *
+ * const QBrush stripes = ZEMBrush::getBrush(Qt::gray);
+ * ZEMHistogramSeries lastYear(QStringLiteral("Vorig jaar"), stripes, false);
+ * @endcode
+ */
 class ZEM_EXPORT ZEMBrush
 {
 public:

@@ -14,6 +14,16 @@ class QPixmap;
 /**
  * Loads pictures through Qt's global QPixmapCache, so that many widgets with the same picture share
  * one copy and read the file once. A service for hosts.
+ * @code
+ * #include <QLabel>
+ * #include <ZEMPixmapCache>
+ *
+ * QLabel house;
+ * QPixmap picture;
+ * ZEMPixmapCache::load(picture, QStringLiteral(":/zem/graphics/icons/icons_14.png"));
+ * house.setPixmap(picture);
+ * house.show();
+ * @endcode
  */
 class ZEM_EXPORT ZEMPixmapCache : public QObject
 {

@@ -14,6 +14,15 @@
  *
  * Power is in watts and signed. The sign never reaches a text: the direction of a flow is shown by
  * arrows. Numbers follow the default QLocale.
+ * @code
+ * #include <QLabel>
+ * #include <QLocale>
+ * #include <ZEMUtils>
+ *
+ * QLocale::setDefault(QLocale(QLocale::Dutch));
+ * QLabel power(ZEMUtils::wattToStringAutoScale(1480.0)); // "1,5 kW"
+ * power.show();
+ * @endcode
  */
 class ZEM_EXPORT ZEMUtils : public QObject
 {

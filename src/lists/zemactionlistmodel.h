@@ -18,11 +18,23 @@ class QAction;
  * Shows a menu of actions in a list: one row for each action, with its text, icon and font.
  *
  * @code
- * auto *menu = new ZEMActionListModel(this);
- * menu->setTitle(tr("Menu"));
+ * #include <QAction>
+ * #include <QApplication>
+ * #include <ZEMActionListModel>
+ * #include <ZEMSimpleListView>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMSimpleListView page;
+ * const QList<QAction *> actions {new QAction(QStringLiteral("Gas"), &page),
+ *                                 new QAction(QStringLiteral("Water"), &page)};
+ * auto *menu = new ZEMActionListModel(&page);
+ * menu->setTitle(QStringLiteral("Energie"));
  * menu->setActionList(actions);
- * page->setModel(menu); // a ZEMSimpleListView
- * connect(page, &ZEMSimpleListView::sigSelect, this, [=](int row) { actions.at(row)->trigger(); });
+ * page.setModel(menu);
+ * QObject::connect(&page, &ZEMSimpleListView::sigSelect,
+ *                  [=](int row) { actions.at(row)->trigger(); });
+ * page.show();
  * @endcode
  *
  * The actions stay the host's. The model does not watch them: after an action has changed its text,

@@ -22,18 +22,27 @@ class QModelIndex;
  * has a heading, the list, and four buttons: page up, page down, select and cancel.
  *
  * @code
- * auto *page = new ZEMListView(window);
- * page->setHeader(tr("Kies een taal"));
- * page->setModel(languages);
+ * #include <QApplication>
+ * #include <QDebug>
+ * #include <QStringListModel>
+ * #include <ZEMListView>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * QStringListModel languages({QStringLiteral("Nederlands"), QStringLiteral("English")});
+ * ZEMPageBackground window;
+ * auto *page = new ZEMListView(&window);
+ * page->setHeader(QStringLiteral("Kies een taal"));
+ * page->setModel(&languages);
  * page->setNrPageItems(6);
  * page->fitContents(6);
- * page->setIndex(current);
- * connect(page, &ZEMListView::sigSelect, this, [=](int row) {
- *     useLanguage(row);
+ * page->setIndex(0);
+ * QObject::connect(page, &ZEMListView::sigSelect, [=](int row) {
+ *     qDebug() << page->data(row);
  *     page->deleteLater();
  * });
- * connect(page, &ZEMListView::sigCancel, page, &QObject::deleteLater);
- * page->show();
+ * QObject::connect(page, &ZEMListView::sigCancel, page, &QObject::deleteLater);
+ * window.show();
  * @endcode
  *
  * A tap on an item, and paging, only make it current; the user picks it with the select button. The

@@ -27,6 +27,19 @@ class QAbstractItemModel;
  * the one of the view, which taps and paging move as well. Rows are counted from 0 and always those
  * of column 0 at the top level of the model.
  *
+ * @code
+ * #include <QStringListModel>
+ * #include <ZEMListView>
+ *
+ * const auto fill = [](ZEMListViewInterface &list, QAbstractItemModel *model) {
+ *     list.setModel(model);
+ *     list.setNrPageItems(6);
+ *     list.setIndex(0);
+ * };
+ * QStringListModel towns({QStringLiteral("Delft"), QStringLiteral("Gouda")});
+ * ZEMListView page;
+ * fill(page, &towns);
+ * @endcode
  * The interface has no destructor: delete an object as what it is, never through this class.
  */
 class ZEM_EXPORT ZEMListViewInterface

@@ -22,15 +22,35 @@ class QListView;
  * Moves a list view by whole pages, for lists that have two buttons and no scroll bar.
  *
  * @code
- * auto *pages = new ZEMListViewLogic(listView);
- * connect(up, &ZEMButton::clicked, pages, &ZEMListViewLogic::page_previous);
- * connect(down, &ZEMButton::clicked, pages, &ZEMListViewLogic::page_next);
- * connect(pages, &ZEMListViewLogic::has_page, this, [=](bool previous, bool next) {
+ * #include <QListView>
+ * #include <QStringListModel>
+ * #include <QVBoxLayout>
+ * #include <ZEMButton>
+ * #include <ZEMListViewLogic>
+ *
+ * QStringListModel towns({QStringLiteral("Delft"), QStringLiteral("Gouda")});
+ * QWidget page;
+ * auto *up = new ZEMButton;
+ * auto *list = new QListView;
+ * auto *down = new ZEMButton;
+ * auto *layout = new QVBoxLayout(&page);
+ * for (QWidget *widget : QList<QWidget *> {up, list, down}) {
+ *     layout->addWidget(widget);
+ * }
+ * up->setText(QStringLiteral("op"));
+ * down->setText(QStringLiteral("neer"));
+ *
+ * auto *pages = new ZEMListViewLogic(list);
+ * QObject::connect(up, &ZEMButton::clicked, pages, &ZEMListViewLogic::page_previous);
+ * QObject::connect(down, &ZEMButton::clicked, pages, &ZEMListViewLogic::page_next);
+ * QObject::connect(pages, &ZEMListViewLogic::has_page, [=](bool previous, bool next) {
  *     up->setEnabled(previous);
  *     down->setEnabled(next);
  * });
- * pages->setModel(model);
+ * pages->setModel(&towns);
+ * pages->setNrPageItems(1);
  * pages->setIndex(0);
+ * page.show();
  * @endcode
  *
  * Pages of nrPageItems() rows lie end to end from row 0 on, and the last one may be short. The page

@@ -23,16 +23,30 @@ class QModelIndex;
  * by 60. A tap on an item picks it, a press beside the list cancels.
  *
  * @code
- * auto *actions = new ZEMActionListModel(this);
- * actions->setTitle(tr("Energie"));
- * actions->setActionList({electricity, gas, water});
- * auto *page = new ZEMSimpleListView(window);
+ * #include <QAction>
+ * #include <QApplication>
+ * #include <QDebug>
+ * #include <ZEMActionListModel>
+ * #include <ZEMSimpleListView>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground window;
+ * auto *page = new ZEMSimpleListView(&window);
+ * const QString icons = QStringLiteral(":/zem/graphics/icons/");
+ * auto *actions = new ZEMActionListModel(page);
+ * actions->setTitle(QStringLiteral("Bron"));
+ * actions->appendAction(
+ *     new QAction(QIcon(icons + QStringLiteral("icons_03.png")), QStringLiteral("Net"), page));
+ * actions->appendAction(
+ *     new QAction(QIcon(icons + QStringLiteral("icons_11.png")), QStringLiteral("Zon"), page));
  * page->setModel(actions);
- * page->fitContents(3);
- * connect(page, &ZEMSimpleListView::sigSelect, this, &Window::showEnergy);
- * connect(page, &ZEMSimpleListView::sigSelect, page, &QObject::deleteLater);
- * connect(page, &ZEMSimpleListView::sigCancel, page, &QObject::deleteLater);
- * page->show();
+ * page->fitContents(2);
+ * QObject::connect(page, &ZEMSimpleListView::sigSelect,
+ *                  [=](int row) { qDebug() << page->data(row); });
+ * QObject::connect(page, &ZEMSimpleListView::sigSelect, page, &QObject::deleteLater);
+ * QObject::connect(page, &ZEMSimpleListView::sigCancel, page, &QObject::deleteLater);
+ * window.show();
  * @endcode
  *
  * The list is for as many items as the panel has room for: there is nothing to page with. The page

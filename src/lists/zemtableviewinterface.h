@@ -25,6 +25,20 @@ class QAbstractItemModel;
  * the one of the view, which taps and paging move as well. Rows and columns are counted from 0, at
  * the top level of the model.
  *
+ * @code
+ * #include <QStandardItemModel>
+ * #include <QTableView>
+ * #include <ZEMTableViewLogic>
+ *
+ * const auto fill = [](ZEMTableViewInterface &table, QAbstractItemModel *model) {
+ *     table.setModel(model);
+ *     table.setNrPageItems(6);
+ *     table.setIndex(0);
+ * };
+ * QStandardItemModel readings(31, 2);
+ * QTableView view;
+ * fill(*new ZEMTableViewLogic(&view), &readings);
+ * @endcode
  * The interface has no destructor: delete an object as what it is, never through this class.
  */
 class ZEM_EXPORT ZEMTableViewInterface

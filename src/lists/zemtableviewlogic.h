@@ -22,11 +22,30 @@ class QTableView;
  * Moves a table view by whole pages, for tables that have two buttons and no scroll bar.
  *
  * @code
- * auto *pages = new ZEMTableViewLogic(tableView);
- * connect(up, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_previous);
- * connect(down, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_next);
- * pages->setModel(model);
+ * #include <QStandardItemModel>
+ * #include <QTableView>
+ * #include <QVBoxLayout>
+ * #include <ZEMButton>
+ * #include <ZEMTableViewLogic>
+ *
+ * QStandardItemModel readings(31, 2);
+ * QWidget page;
+ * auto *up = new ZEMButton;
+ * auto *table = new QTableView;
+ * auto *down = new ZEMButton;
+ * auto *layout = new QVBoxLayout(&page);
+ * for (QWidget *widget : QList<QWidget *> {up, table, down}) {
+ *     layout->addWidget(widget);
+ * }
+ * up->setText(QStringLiteral("op"));
+ * down->setText(QStringLiteral("neer"));
+ *
+ * auto *pages = new ZEMTableViewLogic(table);
+ * QObject::connect(up, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_previous);
+ * QObject::connect(down, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_next);
+ * pages->setModel(&readings);
  * pages->setIndex(0);
+ * page.show();
  * @endcode
  *
  * A page move is a jump by the length of a page, at most to the first or last row: the current row

@@ -16,10 +16,16 @@
  * another, with an optional marker line at a second value.
  *
  * @code
- * auto *budget = new ZEMBarIndicator(page);
- * budget->resize(200, 12);
- * budget->setMaxValue(3500.0);
- * budget->setValue(usedKWh);
+ * #include <ZEMBarIndicator>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *budget = new ZEMBarIndicator(&page);
+ * budget->setGeometry(20, 20, 200, 12);
+ * budget->setMaxValue(3500.0); // kWh
+ * budget->setValue(1200.0);
+ * page.show();
  * @endcode
  * Between two lines there is a gap as wide as the pen. The size of the widget is the owner's
  * business.

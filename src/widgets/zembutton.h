@@ -16,10 +16,16 @@
  * icon and a text. The base of the library's keys, tabs and header buttons.
  *
  * @code
- * auto *ok = new ZEMButton(page);
+ * #include <ZEMButton>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *ok = new ZEMButton(&page);
  * ok->setBackground(QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_square_small.png")));
  * ok->setIcon(QIcon(QStringLiteral(":/zem/graphics/icons/green-ok-icon_small.png")));
- * connect(ok, &ZEMButton::clicked, page, &QWidget::hide);
+ * QObject::connect(ok, &ZEMButton::clicked, &page, &QWidget::close);
+ * page.show();
  * @endcode
  *
  * A button is on while it is enabled and, if it is checkable, also checked; in all other states it

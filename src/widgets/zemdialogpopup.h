@@ -20,9 +20,16 @@
  * have the colour of QPalette::WindowText on a nearly black ground: they are read with ZEMStyle or
  * another palette of light texts, and are black on black without.
  * @code
- * ZEMDialogPopup sure(page);
- * sure.setTextLine1(tr("Alles wissen?"));
- * sure.setTextLine2(tr("Dit kan niet ongedaan worden."));
+ * #include <QApplication>
+ * #include <ZEMDialogPopup>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * page.show();
+ * ZEMDialogPopup sure(&page);
+ * sure.setTextLine1(QStringLiteral("Afsluiten?"));
+ * sure.setTextLine2(QStringLiteral("Er wordt niets meer gemeten."));
  * sure.setTextLine3(QString());
  * if (sure.exec()) {
  *     page.close();
@@ -30,14 +37,20 @@
  * @endcode
  * A notice that the user cannot close, with a spinner, until a job is done:
  * @code
- * auto *busy = new ZEMDialogPopup(page);
- * busy->hide();
- * busy->setTextLine1(tr("Even geduld"));
- * busy->setTextLine2(QString());
- * busy->setTextLine3(QStringLiteral("<throbber>"));
- * connect(job, &Job::finished, busy, &ZEMDialogPopup::reset);
- * job->start();
- * busy->info(true);
+ * #include <QApplication>
+ * #include <QTimer>
+ * #include <ZEMDialogPopup>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * page.show();
+ * ZEMDialogPopup busy(&page);
+ * busy.setTextLine1(QStringLiteral("Even geduld"));
+ * busy.setTextLine2(QString());
+ * busy.setTextLine3(QStringLiteral("<throbber>"));
+ * QTimer::singleShot(2000, &busy, &ZEMDialogPopup::reset); // the job is done
+ * busy.info(true);
  * @endcode
  * A new dialog is 640 by 480 pixels and shows a sample text in all lines, and the spinner; set all
  * three lines, or call clearText() first. It is not shown, but like every child it would appear

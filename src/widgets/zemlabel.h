@@ -18,9 +18,14 @@
  * The text is white, or grey while the label is disabled. On a button it has the button's colour,
  * QPalette::ButtonText, which is black without ZEMStyle.
  * @code
- * auto *value = new ZEMLabel(page);
+ * #include <ZEMLabel>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * auto *value = new ZEMLabel(&page);
  * value->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/main/text_bg_medium.png")));
- * value->setText(tr("1,5 kW"));
+ * value->setText(QStringLiteral("1,5 kW"));
+ * page.show();
  * @endcode
  * The text is drawn by a ZEMTextLabel named "label" that fills the widget but for one pixel at each
  * edge; all properties below are those of that label and behave as in QLabel.

@@ -19,10 +19,20 @@ class ZEMButton;
  * A ZEMButton with a title strip above it, a ZEMWidgetLabel. The base of the tiles of a dashboard.
  *
  * @code
- * auto *tile = new ZEMLabeledButton(page);
- * tile->setTitle(tr("huidige status"));
+ * #include <QApplication>
+ * #include <ZEMLabeledButton>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // a light title
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(22, 32, 40));
+ * auto *tile = new ZEMLabeledButton(&page);
+ * tile->setTitle(QStringLiteral("huidige status"));
  * tile->setBackground(QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_med.png")));
- * connect(tile, &ZEMLabeledButton::clicked, this, &Page::openDetails);
+ * tile->adjustSize();
+ * QObject::connect(tile, &ZEMLabeledButton::clicked, &page, &QWidget::close);
+ * page.show();
  * @endcode
  */
 class ZEM_EXPORT ZEMLabeledButton : public QWidget

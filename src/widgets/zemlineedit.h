@@ -16,11 +16,20 @@ class QValidator;
  * A QLineEdit on a picture, which is that of ZEMPixmap and locks the size of the widget. The
  * margins of the layout place the field inside the art of the picture:
  * @code
- * auto *name = new ZEMLineEdit(page);
+ * #include <QApplication>
+ * #include <ZEMLineEdit>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *name = new ZEMLineEdit(&page);
  * name->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_xs_wide.png")));
  * name->setLayoutLeft(12);
  * name->setLayoutRight(12);
- * name->setPlaceholderText(tr("naam"));
+ * name->setText(QStringLiteral("Keuken"));
+ * page.show();
  * @endcode
  * The field has neither frame nor ground while enabled, and an opaque light grey ground while
  * disabled. Its text has the colour of QPalette::Text. Without a picture a new widget is 640 by 480

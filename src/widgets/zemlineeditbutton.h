@@ -15,11 +15,20 @@
  * A button that looks like a text field: a text on a picture, to open an input dialog with. The
  * margins of the layout place the text inside the art of the picture:
  * @code
- * auto *name = new ZEMLineEditButton(page);
+ * #include <QApplication>
+ * #include <ZEMLineEditButton>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *name = new ZEMLineEditButton(&page);
  * name->setBackground(QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_xs_wide.png")));
  * name->setLayoutLeft(12);
- * name->setText(userName);
- * connect(name, &ZEMLineEditButton::clicked, page, &SettingsPage::askForName);
+ * name->setText(QStringLiteral("Keuken"));
+ * QObject::connect(name, &ZEMLineEditButton::clicked, &page, &QWidget::close);
+ * page.show();
  * @endcode
  * The text is that of a ZEMTextLabel named "textLabel", without a shadow and in the colour of
  * QPalette::ButtonText. It takes the place of the text of other buttons. A new button is 64 by 32

@@ -18,11 +18,19 @@ class QFont;
  *
  * Make it a child of the page, above all else on it, and show it when it is wanted:
  * @code
- * auto *menu = new ZEMMenuOverlay(page);
+ * #include <QCoreApplication>
+ * #include <ZEMButton>
+ * #include <ZEMMenuOverlay>
+ *
+ * ZEMPageBackground page;
+ * auto *power = new ZEMButton(&page);
+ * power->setIcon(QIcon(QStringLiteral(":/tango/graphics/tango/actions/process-stop-icon.png")));
+ * auto *menu = new ZEMMenuOverlay(&page);
  * menu->hide();
- * connect(menu, &ZEMMenuOverlay::button1_clicked, qApp, &QCoreApplication::quit);
- * connect(power, &ZEMButton::clicked, menu, &QWidget::show);
- * connect(power, &ZEMButton::clicked, menu, &QWidget::raise);
+ * QObject::connect(menu, &ZEMMenuOverlay::button1_clicked, &QCoreApplication::quit);
+ * QObject::connect(power, &ZEMButton::clicked, menu, &QWidget::show);
+ * QObject::connect(power, &ZEMButton::clicked, menu, &QWidget::raise);
+ * page.show();
  * @endcode
  * A new overlay is 640 by 480 pixels and has three buttons, "afsluiten", "standby" and "annuleren";
  * the fourth, "status", is hidden. Texts are in black, whatever the palette, on nearly white

@@ -15,10 +15,15 @@
  * touch.
  *
  * @code
+ * #include <ZEMNotificationButton>
+ * #include <ZEMPageHeader>
+ *
+ * ZEMPageHeader header;
  * auto *mail = new ZEMNotificationButton;
- * mail->setIcon(QPixmap(QStringLiteral(":/host/mail.png")));
- * connect(inbox, &Inbox::countChanged, mail, &ZEMNotificationButton::setNotifyCount);
- * header->addButton(mail);
+ * mail->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/icon_pencil.png")));
+ * mail->setNotifyCount(3);
+ * header.addButton(mail);
+ * header.show();
  * @endcode
  * A new button is 45 by 45 pixels and has no background of its own. Its icon is the picture of the
  * ZEMNotificationIcon and takes the place of the QIcon of other buttons. All properties below are

@@ -16,9 +16,14 @@
  * something is wrong.
  *
  * @code
- * auto *mail = new ZEMNotificationIcon(page);
- * mail->setIcon(QPixmap(QStringLiteral(":/host/mail.png")));
+ * #include <ZEMNotificationIcon>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * auto *mail = new ZEMNotificationIcon(&page);
+ * mail->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/icon_pencil.png")));
  * mail->setNotifyCount(3);
+ * page.show();
  * @endcode
  * The badge shows "!" for a warning, or else the count, "9+" if it is above 9, and is absent if
  * that is 0. Without a picture for its state, enabled or disabled, the widget is empty.

@@ -18,9 +18,14 @@
  *
  * Put the other widgets of the page on it, with or without a layout:
  * @code
- * auto *page = new ZEMPageBackground;
- * page->setBackgroundColor(QColor(16, 24, 32));
- * auto *label = new ZEMLabel(page);
+ * #include <ZEMLabel>
+ * #include <ZEMPageBackground>
+ *
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(16, 24, 32));
+ * auto *label = new ZEMLabel(&page);
+ * label->setText(QStringLiteral("1,5 kW"));
+ * page.show();
  * @endcode
  * A new page is 640 by 480 pixels and cannot be made smaller until it gets a picture. With neither
  * picture nor colour it is black. A colour with an alpha below 255 lets what lies beneath shine

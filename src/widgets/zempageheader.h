@@ -18,13 +18,19 @@ class QLabel;
  * dots and a line under it, and at the right up to five application buttons.
  *
  * @code
- * auto *header = new ZEMPageHeader(page);
- * header->setTitle(tr("instellingen"));
- * header->setSubtitle(QLocale().toString(QDateTime::currentDateTime(), QLocale::LongFormat));
- * header->setNrOfPages(3);
+ * #include <QDateTime>
+ * #include <QLocale>
+ * #include <ZEMNotificationButton>
+ * #include <ZEMPageHeader>
+ *
+ * ZEMPageHeader header;
+ * header.setTitle(QStringLiteral("instellingen"));
+ * header.setSubtitle(QLocale().toString(QDateTime::currentDateTime(), QLocale::LongFormat));
+ * header.setNrOfPages(3);
  * auto *mail = new ZEMNotificationButton;
- * mail->setIcon(QPixmap(QStringLiteral(":/host/mail.png")));
- * header->addButton(mail);
+ * mail->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/icon_pencil.png")));
+ * header.addButton(mail);
+ * header.show();
  * @endcode
  * A new header is 640 by 74 pixels, and in a layout as wide as there is room; it has two dots, one
  * empty action tile, no application buttons and sample texts, which the host replaces. The texts

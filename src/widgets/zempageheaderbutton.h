@@ -16,7 +16,13 @@
  * ZEMPageHeader makes its tiles itself; a host meets this class to give all of them another look,
  * which it does before it makes the first header:
  * @code
- * ZEMPageHeaderButton::setDefaultBackgroundImage(QStringLiteral(":/host/tile.png"));
+ * #include <ZEMPageHeader>
+ * #include <ZEMPageHeaderButton>
+ *
+ * ZEMPageHeaderButton::setDefaultBackgroundImage(
+ *     QStringLiteral(":/zem/graphics/main/buttons/selector_btn.png"));
+ * ZEMPageHeader header;
+ * header.show();
  * @endcode
  * In a layout a tile is at least as large as its picture, 54 by 54 pixels by default.
  */

@@ -16,11 +16,15 @@ class QWidget;
  * implementation, and tells the limits that it has; a host may have others.
  *
  * @code
- * void Charts::describe(ZEMPageHeaderInterface *header)
- * {
- *     header->setTitle(tr("verbruik"));
- *     header->setNrOfPages(3);
- * }
+ * #include <ZEMPageHeader>
+ *
+ * const auto describe = [](ZEMPageHeaderInterface &header) {
+ *     header.setTitle(QStringLiteral("verbruik"));
+ *     header.setNrOfPages(3);
+ * };
+ * ZEMPageHeader header;
+ * describe(header);
+ * header.show();
  * @endcode
  * A header cannot be deleted through its interface: who made it owns it.
  */

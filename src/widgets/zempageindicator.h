@@ -14,9 +14,20 @@
  * A row of dots that tells which of several pages is shown. It takes no touches.
  *
  * @code
- * auto *dots = new ZEMPageIndicator(page);
- * dots->setNrPages(3);
- * connect(pages, &QStackedWidget::currentChanged, dots, &ZEMPageIndicator::setCurrentPage);
+ * #include <QStackedWidget>
+ * #include <ZEMPageHeader>
+ * #include <ZEMPageIndicator>
+ *
+ * QStackedWidget pages;
+ * for (int page = 0; page < 3; ++page) {
+ *     pages.addWidget(new ZEMPageHeader);
+ * }
+ * ZEMPageIndicator dots;
+ * dots.setNrPages(pages.count());
+ * QObject::connect(&pages, &QStackedWidget::currentChanged, &dots,
+ *                  &ZEMPageIndicator::setCurrentPage);
+ * pages.setCurrentIndex(2);
+ * dots.show();
  * @endcode
  * A new indicator has no dots and current page 0.
  */

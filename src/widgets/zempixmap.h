@@ -16,9 +16,14 @@
  * A picture of fixed size with an opacity: an icon, an arrow, the ground of a text.
  *
  * @code
- * auto *house = new ZEMPixmap(page);
+ * #include <ZEMPageBackground>
+ * #include <ZEMPixmap>
+ *
+ * ZEMPageBackground page;
+ * auto *house = new ZEMPixmap(&page);
  * house->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/icons/icons_14.png")));
  * house->setOpacity(0.5);
+ * page.show();
  * @endcode
  * The widget is as large as its picture and stays so; in a layout it is never stretched.
  */

@@ -15,10 +15,23 @@
  * the one in use is another thing, told with setActivated(). The mark is green for the profile in
  * use, grey for a row that is selected and not in use, and absent for all others.
  * @code
- * auto *away = new ZEMProfileButton(page);
- * away->setTitle(tr("Afwezig"));
- * away->setActivated(currentProfile == Away);
- * group->addButton(away); // an exclusive QButtonGroup
+ * #include <QButtonGroup>
+ * #include <QVBoxLayout>
+ * #include <ZEMPageBackground>
+ * #include <ZEMProfileButton>
+ *
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *rows = new QVBoxLayout(&page);
+ * auto *profiles = new QButtonGroup(&page); // of which one is checked
+ * for (const QString &title : {QStringLiteral("Thuis"), QStringLiteral("Afwezig")}) {
+ *     auto *profile = new ZEMProfileButton;
+ *     profile->setTitle(title);
+ *     profiles->addButton(profile);
+ *     rows->addWidget(profile);
+ * }
+ * static_cast<ZEMProfileButton *>(profiles->buttons().first())->setActivated(true);
+ * page.show();
  * @endcode
  * A new row is 233 by 50 pixels, the size of its pictures. In a layout it is as high as its image
  * and the style's margins need, 53 pixels with Fusion. The title is white, a fifth of it

@@ -16,10 +16,20 @@
  *
  * It looks the same enabled and disabled. Group several with a QButtonGroup to have one checked:
  * @code
- * auto *dots = new QButtonGroup(this);
- * for (int page = 0; page < pages; ++page) {
- *     dots->addButton(new ZEMRadioButton(indicator), page);
+ * #include <QButtonGroup>
+ * #include <QHBoxLayout>
+ * #include <ZEMRadioButton>
+ *
+ * QWidget indicator;
+ * auto *row = new QHBoxLayout(&indicator);
+ * auto *dots = new QButtonGroup(&indicator);
+ * for (int page = 0; page < 3; ++page) {
+ *     auto *dot = new ZEMRadioButton;
+ *     dots->addButton(dot, page);
+ *     row->addWidget(dot);
  * }
+ * dots->button(1)->setChecked(true);
+ * indicator.show();
  * @endcode
  * A new one is checkable, unchecked and as large as its default picture, 13 by 12 pixels.
  */

@@ -17,9 +17,19 @@
  * The shadow has the colour of QPalette::Shadow and the text that of the label's foreground role,
  * both in the palette's current colour group.
  * @code
- * auto *power = new ZEMTextLabel(page);
+ * #include <QApplication>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ * #include <ZEMTextLabel>
+ * #include <ZEMUtils>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // white on a half transparent shadow
+ * ZEMPageBackground page;
+ * page.setBackgroundColor(QColor(96, 112, 128));
+ * auto *power = new ZEMTextLabel(&page);
  * power->setShadow(true);
- * power->setText(ZEMUtils::wattToStringAutoScale(watt));
+ * power->setText(ZEMUtils::wattToStringAutoScale(1480.0));
+ * page.show();
  * @endcode
  */
 class ZEM_EXPORT ZEMTextLabel : public QLabel

@@ -17,9 +17,14 @@
  * The stars keep their size and stand in the corners and at the top of the widget, whose size is
  * the owner's business; it asks a layout for no room:
  * @code
- * auto *rating = new ZEMThreeStars(page);
+ * #include <ZEMPageBackground>
+ * #include <ZEMThreeStars>
+ *
+ * ZEMPageBackground page;
+ * auto *rating = new ZEMThreeStars(&page);
  * rating->resize(90, 80); // room for stars of 43 by 39 pixels; the small ones have 22 by 20
  * rating->setStars(2);
+ * page.show();
  * @endcode
  */
 class ZEM_EXPORT ZEMThreeStars : public QWidget

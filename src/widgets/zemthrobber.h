@@ -15,8 +15,14 @@
  * the display is busy.
  *
  * @code
- * auto *spinner = new ZEMThrobber(page);
- * connect(job, &Job::finished, spinner, &ZEMThrobber::stop);
+ * #include <QTimer>
+ * #include <ZEMPageBackground>
+ * #include <ZEMThrobber>
+ *
+ * ZEMPageBackground page;
+ * auto *spinner = new ZEMThrobber(&page);
+ * QTimer::singleShot(2000, spinner, &ZEMThrobber::stop); // the job is done
+ * page.show();
  * @endcode
  * It runs from its construction on until pause() or stop(), shown or not. The default strip,
  * ":/zem/graphics/icons/throbber.png", has 12 frames of 32 by 32 pixels, a turn in 1.2 seconds.

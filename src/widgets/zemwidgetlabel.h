@@ -17,8 +17,16 @@
  * the colour, QPalette::WindowText.
  *
  * @code
- * auto *strip = new ZEMWidgetLabel(tile);
- * strip->setTitle(tr("totaal vandaag"));
+ * #include <QApplication>
+ * #include <ZEMPageBackground>
+ * #include <ZEMStyle>
+ * #include <ZEMWidgetLabel>
+ *
+ * QApplication::setStyle(new ZEMStyle(nullptr)); // light texts
+ * ZEMPageBackground page;
+ * auto *strip = new ZEMWidgetLabel(&page);
+ * strip->setTitle(QStringLiteral("totaal vandaag"));
+ * page.show();
  * @endcode
  */
 class ZEM_EXPORT ZEMWidgetLabel : public QWidget

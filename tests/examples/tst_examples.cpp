@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "examples.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTest>
+#include <QTimer>
+#include <Zemkit>
+
+#include <algorithm>
+
+namespace {
+
+QStringList documents()
+{
+    return QStringLiteral(DOCUMENTS).split(QLatin1Char('\n'));
+}
+
+/** What the names of the blocks of @p document begin with. */
+QByteArray stemOf(const QString &document)
+{
+    return QFileInfo(document).baseName().toLower().toUtf8() + '_';
+}
+
+int examplesOf(const QString &document)
+{
+    const QByteArray stem = stemOf(document);
+    const std::vector<Example> &all = examples();
+    return int(std::count_if(all.begin(), all.end(), [&](const Example &example) {
+        return QByteArray(example.name).startsWith(stem);
+    }));
+}
+
+/** How often a block of C++ begins in @p document. */
+int beginsIn(const QString &document)
+{
+    QFile file(document);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return -1;
+    }
+    const QByteArray text = file.readAll();
+    if (document.endsWith(QLatin1String(".md"))) {
+        return text.count("```cpp");
+    }
+    return text.count("@code\n") + text.count("@code{.cpp}");
+}
+
+/** Ends what waits for an answer of the user. */
+void answer()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *popup = qobject_cast<ZEMDialogPopup *>(widget)) {
+            popup->reset();
+        } else if (auto *letter = qobject_cast<ZEMDialogShowText *>(widget)) {
+            letter->reset();
+        }
+    }
+}
+
+} // namespace
+
+class tst_Examples : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyBlockIsCompiled_data();
+    void everyBlockIsCompiled();
+    void everyClassHasAnExample_data();
+    void everyClassHasAnExample();
+    void exampleRuns_data();
+    void exampleRuns();
+};
+
+void tst_Examples::everyBlockIsCompiled_data()
+{
+    QTest::addColumn<QString>("document");
+    const QStringList all = documents();
+    for (const QString &document : all) {
+        QTest::newRow(qPrintable(QFileInfo(document).fileName())) << document;
+    }
+}
+
+void tst_Examples::everyBlockIsCompiled()
+{
+    QFETCH(QString, document);
+    QCOMPARE(examplesOf(document), beginsIn(document));
+}
+
+void tst_Examples::everyClassHasAnExample_data()
+{
+    QTest::addColumn<QString>("header");
+    // Classes that a host meets by way of another one, whose example shows them.
+    const QStringList shownElsewhere {
+        QStringLiteral("qwtlegenditem.h"),
+        QStringLiteral("zemhistogramlegenditem.h"),
+        QStringLiteral("zemscaledraw.h"),
+        QStringLiteral("zemsmartdayhistogram.h"),
+        QStringLiteral("zemsmarthistogram.h"),
+        QStringLiteral("zemsmartmonthhistogram.h"),
+        QStringLiteral("zemsmartweekhistogram.h"),
+        QStringLiteral("zemweekhistogram.h"),
+        QStringLiteral("zemplotzoomer.h"),
+        QStringLiteral("zemplotzoomeradvanced.h"),
+        QStringLiteral("zemqwtpickerdraw.h"),
+        QStringLiteral("zemqwtpickerdrawadvanced.h"),
+        QStringLiteral("zemtrackerpickermachine.h"),
+    };
+    const QStringList all = documents();
+    for (const QString &document : all) {
+        const QString name = QFileInfo(document).fileName();
+        if (name.endsWith(QLatin1String(".h")) && !shownElsewhere.contains(name)) {
+            QTest::newRow(qPrintable(name)) << document;
+        }
+    }
+}
+
+void tst_Examples::everyClassHasAnExample()
+{
+    QFETCH(QString, header);
+    QVERIFY(examplesOf(header) > 0);
+}
+
+void tst_Examples::exampleRuns_data()
+{
+    QTest::addColumn<int>("index");
+    const std::vector<Example> &all = examples();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        QTest::newRow(all[i].name) << int(i);
+    }
+}
+
+void tst_Examples::exampleRuns()
+{
+    QFETCH(int, index);
+    const QPalette palette = QApplication::palette();
+    const QFont font = QApplication::font();
+    QTimer user;
+    connect(&user, &QTimer::timeout, &user, &answer);
+    user.start(10);
+
+    examples().at(std::size_t(index)).run();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    const QWidgetList left = QApplication::allWidgets();
+    for (const QWidget *widget : left) {
+        // Qt keeps the desktop as a widget of its own.
+        QVERIFY2(widget->windowType() == Qt::Desktop, widget->metaObject()->className());
+    }
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
+    QApplication::setFont(font);
+    ZEMPageHeaderButton::setDefaultBackgroundImage(QString());
+}
+
+QTEST_MAIN(tst_Examples)
+#include "tst_examples.moc"
