@@ -11,6 +11,7 @@
 #include <QBrush>
 #include <QPalette>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
@@ -20,9 +21,34 @@
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
+#include <algorithm>
+
+namespace {
+
+/** A grid that leaves null in its place when a program deletes it. */
+class Grid : public QwtPlotGrid
+{
+public:
+    explicit Grid(QwtPlotGrid *&placeOfGrid) : place(placeOfGrid) { }
+    ~Grid() override { place = nullptr; }
+
+private:
+    QwtPlotGrid *&place;
+};
+
+} // namespace
+
 class ZEMPlot::Private
 {
 public:
+    /** Nothing but the address of @p item is left if it is being deleted. */
+    void handleDetached(const QwtPlotItem *item)
+    {
+        if (item != curveBeingRemoved) {
+            curves.erase(std::remove(curves.begin(), curves.end(), item), curves.end());
+        }
+    }
+
     // A program that gives the plot another canvas deletes the old one and both of these with it.
     QPointer<QwtPlotPanner> panner;
     QPointer<ZEMPlotZoomerAdvanced> zoomer;
@@ -30,6 +56,8 @@ public:
     QwtPlotGrid *grid = nullptr;
     ZEMQwtPlotCurvePointGetter *curvePointGetter = nullptr;
     QList<QwtPlotCurve *> curves;
+    const QwtPlotItem *curveBeingRemoved = nullptr;
+    QObject listener; // the last member: it hears of items only as long as the others live
 };
 
 ZEMPlot::ZEMPlot(ZEMPlotStyler *styler, QWidget *parent)
@@ -39,8 +67,13 @@ ZEMPlot::ZEMPlot(ZEMPlotStyler *styler, QWidget *parent)
     d->panner = new QwtPlotPanner(canvas());
     d->zoomer = new ZEMPlotZoomerAdvanced(qobject_cast<QwtPlotCanvas *>(canvas()), true);
     d->styler = styler;
-    d->grid = new QwtPlotGrid;
+    d->grid = new Grid(d->grid);
     d->curvePointGetter = new ZEMQwtPlotCurvePointGetter(this);
+    connect(this, &QwtPlot::itemAttached, &d->listener, [this](QwtPlotItem *item, bool on) {
+        if (!on) {
+            d->handleDetached(item);
+        }
+    });
 }
 
 ZEMPlot::~ZEMPlot()
@@ -52,7 +85,9 @@ ZEMPlot::~ZEMPlot()
 
 void ZEMPlot::init()
 {
-    d->grid->attach(this);
+    if (d->grid) {
+        d->grid->attach(this);
+    }
     restyle();
     if (d->panner) {
         d->panner->setMouseButton(Qt::RightButton, Qt::NoModifier);
@@ -64,7 +99,9 @@ void ZEMPlot::init()
 void ZEMPlot::restyle()
 {
     d->styler->stylePlot(this);
-    d->styler->styleGrid(d->grid);
+    if (d->grid) {
+        d->styler->styleGrid(d->grid);
+    }
     for (int i = 0; i < d->curves.size(); ++i) {
         d->styler->styleCurve(d->curves.at(i), i);
     }
@@ -181,6 +218,8 @@ void ZEMPlot::addCurve(QwtPlotCurve *curve, bool updateZoomBase)
 
 void ZEMPlot::removeCurve(QwtPlotCurve *curve)
 {
+    // Of a curve that is listed twice one place goes, not all that detaching would take.
+    const QScopedValueRollback<const QwtPlotItem *> removal(d->curveBeingRemoved, curve);
     curve->detach();
     d->curves.removeOne(curve);
     replot();

@@ -36,9 +36,8 @@ class ZEMQwtPlotCurvePointGetter;
  * @endcode
  *
  * A plot has no legend, title or axis range of its own. Curves, markers and the grid are items of
- * QwtPlot: those that are attached when the plot dies are deleted with it, as autoDelete() says.
- * Do not delete the items of this plot with QwtPlotDict::detachItems(): the plot still has its grid
- * and its list of curves.
+ * QwtPlot: those that are attached when the plot dies are deleted with it, as autoDelete() says. A
+ * program may also delete them at any time, one by one or with QwtPlotDict::detachItems().
  *
  * For zooming see ZEMPlotZoomerAdvanced, for picking ZEMQwtPlotPointPicker, for following the mouse
  * ZEMQwtPlotTracker.
@@ -64,7 +63,10 @@ public:
      */
     void init();
 
-    /** Has the styler style the plot, the grid and the curves, in this order, and replots. */
+    /**
+     * Has the styler style the plot, the grid and the curves of the list, in this order, and
+     * replots. A grid that was deleted is left out.
+     */
     void restyle();
 
     /** The styler, which is not owned. Setting one, which must not be null, restyles at once. */
@@ -83,7 +85,10 @@ public:
      */
     ZEMQwtPlotCurvePointGetter *getCurvePointGetter();
 
-    /** The curves in the order in which they were added. */
+    /**
+     * The curves in the order in which they were added. A curve leaves the list when it is removed,
+     * and also when it is deleted, detached or attached to another plot.
+     */
     const QList<QwtPlotCurve *> &getCurves() const;
     int getNumCurves() const;
     /** The first place of @p curve in the list, -1 if it is not there. */
@@ -117,15 +122,16 @@ public:
      * Styles @p curve, attaches it and puts it at the end of the list. It is seen at the next
      * replot().
      *
-     * @param curve not null; to be removed before it is deleted
+     * @param curve not null; one that is added twice is listed twice
      * @param updateZoomBase replots, forgets all zooming and takes what is then shown as the view
      *                       to which the zoomer returns
      */
     virtual void addCurve(QwtPlotCurve *curve, bool updateZoomBase);
 
     /**
-     * Detaches @p curve, takes it from the list and replots. The caller has to delete it. The zoom
-     * base stays. A curve that is not in the list is detached all the same.
+     * Detaches @p curve, takes its first place from the list and replots. The caller has to delete
+     * it, one that was added twice not before it is removed twice. The zoom base stays. A curve
+     * that is not in the list is detached all the same.
      */
     virtual void removeCurve(QwtPlotCurve *curve);
 

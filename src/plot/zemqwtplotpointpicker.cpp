@@ -8,6 +8,8 @@
 
 #include <QPointer>
 
+#include <qwt_plot_curve.h>
+
 #include <utility>
 
 class ZEMQwtPlotPointPicker::Private
@@ -31,6 +33,11 @@ ZEMQwtPlotPointPicker::ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
     setStateMachine(new ZEMTrackerPickerMachine(pattern));
     // The base's signal and the slot here share their name, so that only strings tell them apart.
     connect(this, SIGNAL(selected(QPointF)), this, SLOT(selected(QPointF)));
+    connect(plot, &QwtPlot::itemAttached, this, [this](QwtPlotItem *item, bool on) {
+        if (!on && item == d->currentPoint.curve) {
+            clearPickedPlotPoint();
+        }
+    });
 }
 
 ZEMQwtPlotPointPicker::~ZEMQwtPlotPointPicker() = default;
@@ -53,6 +60,16 @@ void ZEMQwtPlotPointPicker::pickNextCurve()
 void ZEMQwtPlotPointPicker::pickPrevCurve()
 {
     updateCurrentPoint(d->curvePointGetter->getPrevCurveForPoint(d->currentPoint));
+}
+
+ZEMQwtPlotCurvePointGetter::PlotCurvePoint ZEMQwtPlotPointPicker::getPickedPlotPoint() const
+{
+    return d->currentPoint;
+}
+
+void ZEMQwtPlotPointPicker::clearPickedPlotPoint()
+{
+    d->currentPoint = {};
 }
 
 void ZEMQwtPlotPointPicker::selected(const QPointF &pos)

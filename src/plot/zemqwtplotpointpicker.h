@@ -44,14 +44,23 @@ public:
     ~ZEMQwtPlotPointPicker() override;
 
     /**
-     * Picks the next or previous sample of the curve of the picked point, which must still live, or
-     * the sample of the same index on the next or previous curve. Where there is none, the picked
-     * point is signalled again. Does nothing before the first point is picked.
+     * Picks the next or previous sample of the curve of the picked point, or the sample of the same
+     * index on the next or previous curve. Where there is none, the picked point is signalled
+     * again. Does nothing while no point is picked.
      */
     void pickNextPlotPoint();
     void pickPrevPlotPoint();
     void pickNextCurve();
     void pickPrevCurve();
+
+    /**
+     * The point that was picked last. It is not valid if none was, if it was cleared, or if its
+     * curve has left the plot since: deleted, detached or attached to another plot.
+     */
+    ZEMQwtPlotCurvePointGetter::PlotCurvePoint getPickedPlotPoint() const;
+
+    /** Forgets the picked point. Emits nothing. */
+    void clearPickedPlotPoint();
 
 public Q_SLOTS:
     /** Picks the curve point at @p pos, in plot coordinates; what a tap does. */
@@ -62,7 +71,7 @@ Q_SIGNALS:
     void selectedPlotPoint(ZEMQwtPlotCurvePointGetter::PlotCurvePoint plotCurvePoint);
 
 protected:
-    /** Takes @p point as the picked one and signals it, if it is valid. */
+    /** Takes @p point, of a curve on the plot, as the picked one and signals it, if it is valid. */
     void updateCurrentPoint(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point);
 
     void widgetKeyPressEvent(QKeyEvent *event) override;

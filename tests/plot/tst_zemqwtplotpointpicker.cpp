@@ -43,6 +43,8 @@ private Q_SLOTS:
     void missKeepsTheOldPoint();
     void invalidPointIsNotTaken();
     void stepsBeforeTheFirstTapAreSilent();
+    void pickedPointCanBeRead();
+    void clearedPointIsForgotten();
     void stepsAlongTheCurve();
     void pointIsTakenBeforeItIsSignalled();
     void stepsBeyondTheEndSignalAgain();
@@ -150,6 +152,35 @@ void tst_ZEMQwtPlotPointPicker::stepsBeforeTheFirstTapAreSilent()
     picker->pickNextCurve();
     picker->pickPrevCurve();
     QCOMPARE(spy->count(), 0);
+}
+
+void tst_ZEMQwtPlotPointPicker::pickedPointCanBeRead()
+{
+    QVERIFY(!picker->getPickedPlotPoint().valid);
+    picker->selected(QPointF(100.0, 195.0));
+    const Point picked = picker->getPickedPlotPoint();
+    QVERIFY(picked.valid);
+    QCOMPARE(picked.curve, upper);
+    QCOMPARE(picked.index, 50u);
+    QCOMPARE(picked.point, QPointF(100.0, 200.0));
+    QCOMPARE(picked.distance, 5.0);
+    picker->pickNextCurve();
+    QCOMPARE(picker->getPickedPlotPoint().curve, lower);
+    picker->selected(QPointF(100.0, 120.0)); // beside all curves
+    QCOMPARE(picker->getPickedPlotPoint().curve, lower);
+}
+
+void tst_ZEMQwtPlotPointPicker::clearedPointIsForgotten()
+{
+    picker->selected(QPointF(100.0, 200.0));
+    spy->clear();
+    picker->clearPickedPlotPoint();
+    QVERIFY(!picker->getPickedPlotPoint().valid);
+    picker->pickNextPlotPoint();
+    picker->pickNextCurve();
+    QCOMPARE(spy->count(), 0);
+    picker->selected(QPointF(100.0, 200.0));
+    QCOMPARE(spy->count(), 1);
 }
 
 void tst_ZEMQwtPlotPointPicker::stepsAlongTheCurve()
