@@ -18,6 +18,7 @@ public:
 
     ZEMQwtPickerDraw ownDraw;
     ZEMQwtPickerDraw *pickerDraw;
+    bool isAtLimit = false; // the drag has begun where only the way back is open
 };
 
 ZEMPlotZoomer::ZEMPlotZoomer(QwtPlotCanvas *canvas, bool doReplot)
@@ -69,13 +70,25 @@ void ZEMPlotZoomer::zoom(int up)
 
 void ZEMPlotZoomer::begin()
 {
+    if (isActive()) {
+        return;
+    }
     QwtPlotZoomer::begin();
+    // It refuses at the least size and at the depth, from where a drag must still lead back. With
+    // a depth of 0 there is no zooming at all.
+    d->isAtLimit = !isActive() && maxStackDepth() != 0;
+    if (d->isAtLimit) {
+        QwtPicker::begin(); // NOLINT(bugprone-parent-virtual-call)
+    }
 }
 
 bool ZEMPlotZoomer::end(bool ok)
 {
+    const QPolygon dragged = selection();
+    const bool isReset = dragged.size() >= 2 && !isZoomQuadrant(dragged.at(0), dragged.at(1));
+    const bool counts = ok && (isReset || !d->isAtLimit);
     // Who hears of the selection in there may take the canvas away from its plot.
-    if (!QwtPlotPicker::end(ok) || !plot()) {
+    if (!QwtPlotPicker::end(counts) || !plot()) {
         return false;
     }
     const QPolygon points = selection();

@@ -17,9 +17,14 @@ class ZEMQwtPickerDraw;
  * A zoomer for one finger: a drag to the upper left takes all zooming back, a drag in any other
  * direction zooms to the dragged rectangle. Neither other mouse buttons nor keys zoom.
  *
- * The zoom stack, zoomed(), the least size of a view and the depth are those of QwtPlotZoomer. A
- * selection may be one pixel wide as long as it is longer in the other direction; one without any
- * extent does nothing. The rubber band is painted by a ZEMQwtPickerDraw.
+ * The zoom stack, zoomed(), the least size of a view and the depth are those of QwtPlotZoomer. At
+ * that size or depth a drag begins all the same, and only one to the upper left does something.
+ * With a depth of 0, which turns zooming off, none begins.
+ *
+ * A selection may be one pixel wide as long as it is longer in the other direction; one without any
+ * extent does nothing. So a finger that trembles zooms far: in a ZEMPlotZoomerAdvanced a drag of
+ * one pixel along an axis goes to the least size at once, by default a 100,000th of the base. The
+ * rubber band is painted by a ZEMQwtPickerDraw.
  */
 class ZEM_EXPORT ZEMPlotZoomer : public QwtPlotZoomer
 {
@@ -52,9 +57,13 @@ public Q_SLOTS:
     void zoom(int up) override;
 
 protected:
+    /** Begins a drag also where zooming has come to its limit. */
     void begin() override;
 
-    /** Zooms to the selection, or back to the base. Returns whether it did. */
+    /**
+     * Zooms to the selection, or back to the base; from the limit at which the drag began, only
+     * back. Returns whether it did.
+     */
     bool end(bool ok = true) override;
 
     /** Whether the selection has an extent; leaves the points as they are. */
