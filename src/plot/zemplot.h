@@ -39,6 +39,8 @@ class ZEMQwtPlotCurvePointGetter;
  * QwtPlot: those that are attached when the plot dies are deleted with it, as autoDelete() says. A
  * program may also delete them at any time, one by one or with QwtPlotDict::detachItems().
  *
+ * Slots of QwtPlot's own signals may delete the plot only with deleteLater().
+ *
  * For zooming see ZEMPlotZoomerAdvanced, for picking ZEMQwtPlotPointPicker, for following the mouse
  * ZEMQwtPlotTracker.
  */

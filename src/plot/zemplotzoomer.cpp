@@ -3,9 +3,11 @@
 
 #include "zemplotzoomer.h"
 
+#include "pickerevents_p.h"
 #include "zemqwtpickerdraw.h"
 #include "zoomgesture_p.h"
 
+#include <QPointer>
 #include <QtDebug>
 
 #include <qwt_plot.h>
@@ -30,6 +32,11 @@ ZEMPlotZoomer::ZEMPlotZoomer(QwtPlotCanvas *canvas, bool doReplot)
 }
 
 ZEMPlotZoomer::~ZEMPlotZoomer() = default;
+
+bool ZEMPlotZoomer::eventFilter(QObject *watched, QEvent *event)
+{
+    return PickerEvents::filtered<QwtPlotZoomer>(this, watched, event);
+}
 
 void ZEMPlotZoomer::setPickerDraw(ZEMQwtPickerDraw *draw)
 {
@@ -87,8 +94,9 @@ bool ZEMPlotZoomer::end(bool ok)
     const QPolygon dragged = selection();
     const bool isReset = dragged.size() >= 2 && !isZoomQuadrant(dragged.at(0), dragged.at(1));
     const bool counts = ok && (isReset || !d->isAtLimit);
-    // Who hears of the selection in there may take the canvas away from its plot.
-    if (!QwtPlotPicker::end(counts) || !plot()) {
+    // Who hears of the selection in there may delete the zoomer, or take the canvas from its plot.
+    const QPointer<QObject> self(this);
+    if (!QwtPlotPicker::end(counts) || !self || !plot()) {
         return false;
     }
     const QPolygon points = selection();

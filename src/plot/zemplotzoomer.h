@@ -25,6 +25,9 @@ class ZEMQwtPickerDraw;
  * extent does nothing. So a finger that trembles zooms far: in a ZEMPlotZoomerAdvanced a drag of
  * one pixel along an axis goes to the least size at once, by default a 100,000th of the base. The
  * rubber band is painted by a ZEMQwtPickerDraw.
+ *
+ * The slots of zoomed(), selected(QRectF) and moved(QPointF) may delete the zoomer and its plot;
+ * those of the other signals, as always with Qwt, only with deleteLater().
  */
 class ZEM_EXPORT ZEMPlotZoomer : public QwtPlotZoomer
 {
@@ -39,6 +42,9 @@ public:
      */
     explicit ZEMPlotZoomer(QwtPlotCanvas *canvas, bool doReplot);
     ~ZEMPlotZoomer() override;
+
+    /** As in QwtPicker. An event in which the canvas was deleted goes no further. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /**
      * Sets who paints the rubber band. The zoomer never deletes what it is given, neither now nor

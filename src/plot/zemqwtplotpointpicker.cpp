@@ -3,6 +3,7 @@
 
 #include "zemqwtplotpointpicker.h"
 
+#include "pickerevents_p.h"
 #include "zemplot.h"
 #include "zemtrackerpickermachine.h"
 
@@ -41,6 +42,11 @@ ZEMQwtPlotPointPicker::ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
 }
 
 ZEMQwtPlotPointPicker::~ZEMQwtPlotPointPicker() = default;
+
+bool ZEMQwtPlotPointPicker::eventFilter(QObject *watched, QEvent *event)
+{
+    return PickerEvents::filtered<QwtPlotPicker>(this, watched, event);
+}
 
 void ZEMQwtPlotPointPicker::pickNextPlotPoint()
 {

@@ -28,6 +28,9 @@ class ZEMPlot;
  *
  * QwtPlotPicker has signals named selected, and this class a slot of that name: name the signals
  * with their class, as in QOverload<const QPointF &>::of(&QwtPlotPicker::selected).
+ *
+ * The slots of selectedPlotPoint() and selected(QPointF) may delete the picker and its plot; those
+ * of the other signals, as always with Qwt, only with deleteLater().
  */
 class ZEM_EXPORT ZEMQwtPlotPointPicker : public QwtPlotPicker
 {
@@ -42,6 +45,9 @@ public:
     explicit ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
                                    QwtEventPattern::MousePatternCode pattern);
     ~ZEMQwtPlotPointPicker() override;
+
+    /** As in QwtPicker. An event in which the canvas was deleted goes no further. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /**
      * Picks the next or previous sample of the curve of the picked point, or the sample of the same

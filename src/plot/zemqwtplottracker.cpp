@@ -3,8 +3,10 @@
 
 #include "zemqwtplottracker.h"
 
+#include "pickerevents_p.h"
 #include "zemplot.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <qwt_picker_machine.h>
@@ -28,14 +30,21 @@ ZEMQwtPlotTracker::ZEMQwtPlotTracker(ZEMPlot *plot)
 
 ZEMQwtPlotTracker::~ZEMQwtPlotTracker() = default;
 
+bool ZEMQwtPlotTracker::eventFilter(QObject *watched, QEvent *event)
+{
+    return PickerEvents::filtered<QwtPlotPicker>(this, watched, event);
+}
+
 void ZEMQwtPlotTracker::move(const QPoint &pos)
 {
+    const QPointer<QObject> self(this);
     const auto found = d->curvePointGetter->getCurvePoint(invTransform(pos));
     if (found.valid != d->lastValid) {
         d->lastValid = found.valid;
         curvePointValidChanged(found.valid);
     }
-    if (found.valid) {
+    // Who hears of it may have deleted the tracker or the curve.
+    if (self && found.valid && d->curvePointGetter->getCurveIndex(found) >= 0) {
         curvePointMoved(found);
     }
 }

@@ -31,6 +31,10 @@ class ZEMPlot;
  *
  * The tracker paints nothing itself, emits no moved(), and takes no keys. The canvas keeps mouse
  * tracking on.
+ *
+ * The two operations may delete the tracker, its plot and any curve, and the slots of
+ * appended(QPointF) the tracker and its plot; those of the other signals, as always with Qwt, only
+ * with deleteLater().
  */
 class ZEM_EXPORT ZEMQwtPlotTracker : public QwtPlotPicker
 {
@@ -41,6 +45,9 @@ public:
     explicit ZEMQwtPlotTracker(ZEMPlot *plot);
     ~ZEMQwtPlotTracker() override;
 
+    /** As in QwtPicker. An event in which the canvas was deleted goes no further. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     /**
      * The mouse has come onto a curve point, or has left all of them. Called when that changes, at
@@ -50,7 +57,7 @@ protected:
 
     /**
      * The point under the mouse, which is valid. Called at every move that finds one, also the same
-     * again, and after curvePointValidChanged().
+     * again, and after curvePointValidChanged(), unless that has taken the curve off the plot.
      */
     virtual void curvePointMoved(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point) = 0;
 

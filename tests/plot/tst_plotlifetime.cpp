@@ -1,17 +1,212 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include <ZEMPlotZoomer>
 #include <ZEMQwtPlotPointPicker>
+#include <ZEMQwtPlotTracker>
 
+#include "lifetime.h"
 #include "plotfixture.h"
 
+#include <QFrame>
 #include <QSignalSpy>
 
+#include <cstring>
+#include <functional>
+
 using namespace PlotTest;
+using Lifetime::End;
 
 namespace {
 
 using Point = ZEMQwtPlotCurvePointGetter::PlotCurvePoint;
+
+/** Does something in the callbacks of a tracker. */
+class Tracker : public ZEMQwtPlotTracker
+{
+public:
+    using ZEMQwtPlotTracker::ZEMQwtPlotTracker;
+
+    std::function<void()> whenValidChanged = [] {};
+    std::function<void()> whenMoved = [] {};
+
+protected:
+    void curvePointValidChanged(bool) override { runCopyOf(whenValidChanged); }
+    void curvePointMoved(Point) override { runCopyOf(whenMoved); }
+
+private:
+    /** The function may end the tracker, and itself with it. */
+    static void runCopyOf(std::function<void()> function) { function(); } // NOLINT
+};
+
+/** A signal, and whether anything may be deleted in its slots at once. */
+struct Row
+{
+    const char *className;
+    const char *signal;
+    bool anyWay;
+};
+
+const QVector<Row> rows = {
+    {"ZEMPlot", "axisChanged(int)", true},
+    {"ZEMPlot", "itemAttached(QwtPlotItem*,bool)", false},
+    {"ZEMPlot", "legendDataChanged(QVariant,QList<QwtLegendData>)", false},
+    {"ZEMPlotZoomer", "activated(bool)", false},
+    {"ZEMPlotZoomer", "appended(QPoint)", false},
+    {"ZEMPlotZoomer", "appended(QPointF)", false},
+    {"ZEMPlotZoomer", "changed(QPolygon)", false},
+    {"ZEMPlotZoomer", "moved(QPoint)", false},
+    {"ZEMPlotZoomer", "moved(QPointF)", true},
+    {"ZEMPlotZoomer", "selected(QPolygon)", false},
+    {"ZEMPlotZoomer", "selected(QRectF)", true},
+    {"ZEMPlotZoomer", "zoomed(QRectF)", true},
+    {"ZEMPlotZoomerAdvanced", "activated(bool)", false},
+    {"ZEMPlotZoomerAdvanced", "moved(QPointF)", true},
+    {"ZEMPlotZoomerAdvanced", "selected(QRectF)", true},
+    {"ZEMPlotZoomerAdvanced", "zoomed(QRectF)", true},
+    {"ZEMQwtPlotPointPicker", "activated(bool)", false},
+    {"ZEMQwtPlotPointPicker", "appended(QPoint)", false},
+    {"ZEMQwtPlotPointPicker", "appended(QPointF)", false},
+    {"ZEMQwtPlotPointPicker", "selected(QPolygon)", false},
+    {"ZEMQwtPlotPointPicker", "selected(QPointF)", true},
+    {"ZEMQwtPlotPointPicker", "selectedPlotPoint(ZEMQwtPlotCurvePointGetter::PlotCurvePoint)",
+     true},
+    {"ZEMQwtPlotTracker", "activated(bool)", false},
+    {"ZEMQwtPlotTracker", "appended(QPoint)", false},
+    {"ZEMQwtPlotTracker", "appended(QPointF)", true},
+    {"ZEMQwtPlotTracker", "changed(QPolygon)", false},
+    {"ZEMQwtPlotTracker", "removed(QPoint)", false},
+    {"ZEMQwtPlotTracker", "selected(QPolygon)", false},
+};
+
+/** The signals of Qwt's pickers that do not belong to the way in which a class selects. */
+const QHash<QByteArray, QSet<QByteArray>> neverEmitted = {
+    {"ZEMPlotZoomer", {"removed(QPoint)", "selected(QPointF)", "selected(QVector<QPointF>)"}},
+    {"ZEMQwtPlotPointPicker",
+     {"changed(QPolygon)", "moved(QPoint)", "moved(QPointF)", "removed(QPoint)", "selected(QRectF)",
+      "selected(QVector<QPointF>)"}},
+    {"ZEMQwtPlotTracker",
+     {"moved(QPoint)", "moved(QPointF)", "selected(QPointF)", "selected(QRectF)",
+      "selected(QVector<QPointF>)"}},
+};
+
+const QPoint pressed(100, 100);
+const QPoint released(250, 200);
+
+using Canvas = QPointer<QWidget>;
+
+/** Lets a selection in progress hear that the canvas has become smaller. */
+void shrink(const Canvas &canvas)
+{
+    if (canvas) {
+        canvas->resize(canvas->size() - QSize(50, 50));
+    }
+}
+
+/** A drag that goes on as long as there is a canvas. */
+void dragOn(const Canvas &canvas)
+{
+    ZemTest::press(canvas, pressed);
+    for (const QPoint &place : {(pressed + released) / 2, released}) {
+        if (canvas) {
+            ZemTest::moveTo(canvas, place);
+        }
+    }
+    shrink(canvas);
+    if (canvas) {
+        ZemTest::release(canvas, released);
+    }
+}
+
+void tapOn(const Canvas &canvas, const QPoint &place)
+{
+    ZemTest::press(canvas, place);
+    if (canvas) {
+        ZemTest::release(canvas, place);
+    }
+}
+
+/** The mouse comes, moves and leaves. */
+void moveOver(const Canvas &canvas)
+{
+    ZemTest::moveTo(canvas, pressed);
+    for (const QPoint &place : {(pressed + released) / 2, released}) {
+        if (canvas) {
+            ZemTest::moveTo(canvas, place);
+        }
+    }
+    shrink(canvas);
+    QEvent leave(QEvent::Leave);
+    if (canvas) {
+        QCoreApplication::sendEvent(canvas, &leave);
+    }
+}
+
+/** A page with a plot and a level curve. */
+class Scene
+{
+public:
+    Scene() : page(Lifetime::shownPage()), plot(new ZEMPlot(&styler, page))
+    {
+        getter.reset(plot->getCurvePointGetter());
+        auto *curve = new QwtPlotCurve;
+        curve->setSamples(levelRow(wholeRow, 100.0));
+        plot->init();
+        plot->addCurve(curve, false);
+        plot->setAxisScale(QwtPlot::xBottom, 0.0, 350.0);
+        plot->setAxisScale(QwtPlot::yLeft, 0.0, 110.0);
+        plot->resize(page->size());
+        plot->show();
+        plot->updateLayout();
+        plot->getZoomer()->setZoomBase(true);
+    }
+
+    /** The object of a row, and what makes it emit. */
+    Lifetime::Stage stageOf(const QString &className)
+    {
+        const Canvas canvas = plot->canvas();
+        auto *const plotCanvas = qobject_cast<QwtPlotCanvas *>(canvas.data());
+        if (className == QLatin1String("ZEMPlot")) {
+            return {page, plot.data(), [this] { attachAnItem(); }};
+        }
+        delete plot->getZoomer();
+        QwtPicker *picker = nullptr;
+        std::function<void()> act = [canvas] { dragOn(canvas); };
+        if (className == QLatin1String("ZEMPlotZoomer")) {
+            picker = new ZEMPlotZoomer(plotCanvas, false);
+        } else if (className == QLatin1String("ZEMPlotZoomerAdvanced")) {
+            picker = new ZEMPlotZoomerAdvanced(plotCanvas, false);
+        } else if (className == QLatin1String("ZEMQwtPlotPointPicker")) {
+            picker = new ZEMQwtPlotPointPicker(QString(), plot, QwtEventPattern::MouseSelect1);
+            act = [canvas, this] { tapOn(canvas, pointOfCurve()); };
+        } else {
+            picker = new Tracker(plot);
+            act = [canvas] { moveOver(canvas); };
+        }
+        picker->setResizeMode(QwtPicker::Stretch);
+        return {page, picker, std::move(act)};
+    }
+
+    /** A place on the canvas where the curve is. */
+    QPoint pointOfCurve() const
+    {
+        return {int(plot->transform(QwtPlot::xBottom, 100.0)),
+                int(plot->transform(QwtPlot::yLeft, 100.0))};
+    }
+
+    void attachAnItem()
+    {
+        Q_EMIT plot->axisChanged(QwtPlot::xBottom);
+        if (plot) {
+            (new QwtPlotCurve)->attach(plot);
+        }
+    }
+
+    Styler styler;
+    std::unique_ptr<ZEMQwtPlotCurvePointGetter> getter;
+    QPointer<QWidget> page;
+    QPointer<ZEMPlot> plot;
+};
 
 } // namespace
 
@@ -38,6 +233,14 @@ private Q_SLOTS:
     void pickerForgetsADeletedCurve();
     void pickerKeepsItsPointWhenAnotherCurveGoes();
     void pickerLetsGoInItsOwnSignal();
+
+    void endsInItsSignal_data();
+    void endsInItsSignal();
+    void allSignalsAreHeard();
+    void endsInACallbackOfTheTracker_data();
+    void endsInACallbackOfTheTracker();
+    void curveEndsInACallbackOfTheTracker();
+    void canvasEndsFirst();
 
 private:
     std::unique_ptr<Stage> stage;
@@ -206,6 +409,104 @@ void tst_PlotLifetime::pickerLetsGoInItsOwnSignal()
     QVERIFY(!picker.getPickedPlotPoint().valid);
     picker.pickNextPlotPoint();
     QCOMPARE(stage->plot->getCurves(), QList<QwtPlotCurve *>({lower}));
+}
+
+void tst_PlotLifetime::endsInItsSignal_data()
+{
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<int>("end");
+
+    for (const Row &row : rows) {
+        for (const End end : {End::Delete, End::DeleteLater, End::DeletePage}) {
+            if (row.anyWay || end == End::DeleteLater) {
+                QTest::addRow("%s %s, %s", row.className, row.signal, Lifetime::nameOf(end))
+                    << QString::fromLatin1(row.className) << QByteArray(row.signal) << int(end);
+            }
+        }
+    }
+}
+
+void tst_PlotLifetime::endsInItsSignal()
+{
+    QFETCH(QString, className);
+    QFETCH(QByteArray, signal);
+    QFETCH(int, end);
+    Scene scene;
+    QCOMPARE(Lifetime::endIn(scene.stageOf(className), signal, End(end)), QString());
+}
+
+void tst_PlotLifetime::allSignalsAreHeard()
+{
+    const auto unheard = [](const QMetaObject &metaObject, const QMetaObject &base) {
+        QSet<QByteArray> heard = neverEmitted.value(metaObject.className());
+        for (const Row &row : rows) {
+            if (std::strcmp(row.className, metaObject.className()) == 0) {
+                heard.insert(row.signal);
+            }
+        }
+        return Lifetime::unheardSignals(metaObject, base, heard);
+    };
+    const QStringList none;
+    QCOMPARE(unheard(ZEMPlot::staticMetaObject, QFrame::staticMetaObject), none);
+    QCOMPARE(unheard(ZEMPlotZoomer::staticMetaObject, QObject::staticMetaObject), none);
+    QCOMPARE(unheard(ZEMQwtPlotPointPicker::staticMetaObject, QObject::staticMetaObject), none);
+    QCOMPARE(unheard(ZEMQwtPlotTracker::staticMetaObject, QObject::staticMetaObject), none);
+}
+
+void tst_PlotLifetime::endsInACallbackOfTheTracker_data()
+{
+    QTest::addColumn<bool>("inMoved");
+    QTest::addColumn<bool>("withPage");
+
+    QTest::newRow("valid changed, tracker") << false << false;
+    QTest::newRow("valid changed, page") << false << true;
+    QTest::newRow("moved, tracker") << true << false;
+    QTest::newRow("moved, page") << true << true;
+}
+
+void tst_PlotLifetime::endsInACallbackOfTheTracker()
+{
+    QFETCH(bool, inMoved);
+    QFETCH(bool, withPage);
+    Scene scene;
+    const QPointer<Tracker> tracker = new Tracker(scene.plot);
+    const Canvas canvas = scene.plot->canvas();
+    const auto end = [&] { withPage ? delete scene.page : delete tracker; };
+    (inMoved ? tracker->whenMoved : tracker->whenValidChanged) = end;
+    ZemTest::moveTo(canvas, pressed);
+    ZemTest::moveTo(canvas, scene.pointOfCurve());
+    QVERIFY(!tracker);
+    QCOMPARE(canvas.isNull(), withPage);
+    delete scene.page;
+}
+
+void tst_PlotLifetime::curveEndsInACallbackOfTheTracker()
+{
+    Scene scene;
+    auto *const tracker = new Tracker(scene.plot);
+    int moves = 0;
+    tracker->whenValidChanged = [&] { delete scene.plot->getCurves().first(); };
+    tracker->whenMoved = [&] { ++moves; };
+    ZemTest::moveTo(scene.plot->canvas(), pressed);
+    ZemTest::moveTo(scene.plot->canvas(), scene.pointOfCurve());
+    QCOMPARE(scene.plot->getNumCurves(), 0);
+    QCOMPARE(moves, 0);
+    delete scene.page;
+}
+
+void tst_PlotLifetime::canvasEndsFirst()
+{
+    const QPointer<Tracker> tracker = new Tracker(stage->plot.get());
+    const QPointer<QObject> picker =
+        new ZEMQwtPlotPointPicker(QString(), stage->plot.get(), QwtEventPattern::MouseSelect1);
+    stage->plot->setCanvas(new QwtPlotCanvas(stage->plot.get()));
+    QVERIFY(!tracker && !picker && !stage->plot->getZoomer() && !stage->plot->getPanner());
+    stage->plot->restyle();
+    delete upper;
+    stage->addCurve(levelRow(wholeRow, 100.0));
+    QVERIFY(stage->getter->getCurvePoint(QPointF(100.0, 100.0)).valid);
+    QVERIFY(stage->show());
 }
 
 QTEST_MAIN(tst_PlotLifetime)
