@@ -12,6 +12,7 @@
 #include <QSize>
 #include <QSizeF>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -65,6 +66,35 @@ inline QRectF widened(QRectF rect, const QSizeF &least)
     rect.setSize(rect.size().expandedTo(least));
     rect.moveCenter(centre);
     return rect;
+}
+
+/** From where to where a view reaches along one axis. */
+struct Span
+{
+    double from;
+    double to;
+};
+
+/** @p span, cut to @p base and made at least @p least long within it. */
+inline Span keptInside(const Span &span, const Span &base, double least)
+{
+    const double from = std::clamp(span.from, base.from, base.to);
+    const double to = std::clamp(span.to, base.from, base.to);
+    const double length = std::clamp(least, to - from, base.to - base.from);
+    // Rounding may let the whole base begin before itself.
+    const double start =
+        std::max(base.from, std::min((from + to - length) / 2.0, base.to - length));
+    return length > to - from ? Span {start, start + length} : Span {from, to};
+}
+
+/** @p view, cut to @p base and made at least as large as @p least within it. */
+inline QRectF keptInside(const QRectF &view, const QRectF &base, const QSizeF &least)
+{
+    const Span x =
+        keptInside({view.left(), view.right()}, {base.left(), base.right()}, least.width());
+    const Span y =
+        keptInside({view.top(), view.bottom()}, {base.top(), base.bottom()}, least.height());
+    return {x.from, y.from, x.to - x.from, y.to - y.from};
 }
 
 /** The rubber band: the dragged rectangle with both of its border pixels. */

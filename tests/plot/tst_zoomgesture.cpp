@@ -33,6 +33,9 @@ private Q_SLOTS:
     void randomDragsFollowModel();
     void widenedKeepsTheCentre_data();
     void widenedKeepsTheCentre();
+    void viewIsKeptInsideTheBase_data();
+    void viewIsKeptInsideTheBase();
+    void randomViewsAreKeptInsideTheBase();
     void bandHoldsItsBorderPixels();
     void crossJoinsOppositeCorners();
     void ticks_data();
@@ -172,6 +175,51 @@ void tst_ZoomGesture::widenedKeepsTheCentre()
 {
     QFETCH(QRectF, rect);
     QTEST(widened(rect, QSizeF(8, 4)), "expected");
+}
+
+void tst_ZoomGesture::viewIsKeptInsideTheBase_data()
+{
+    QTest::addColumn<QRectF>("view");
+    QTest::addColumn<QSizeF>("least");
+    QTest::addColumn<QRectF>("expected");
+
+    // The base reaches from (0, -10) to (100, 50).
+    const QSizeF least(8, 4);
+    QTest::newRow("inside") << QRectF(10, 20, 8, 4) << least << QRectF(10, 20, 8, 4);
+    QTest::newRow("small") << QRectF(10, 20, 2, 2) << least << QRectF(7, 19, 8, 4);
+    QTest::newRow("no least size") << QRectF(10, 20, 2, 2) << QSizeF() << QRectF(10, 20, 2, 2);
+    QTest::newRow("no width") << QRectF(10, 20, 0, 4) << least << QRectF(6, 20, 8, 4);
+    QTest::newRow("beyond the right") << QRectF(90, 20, 20, 4) << least << QRectF(90, 20, 10, 4);
+    QTest::newRow("small at the left") << QRectF(-1, 20, 2, 4) << least << QRectF(0, 20, 8, 4);
+    QTest::newRow("small at the top") << QRectF(10, 49, 8, 1) << least << QRectF(10, 46, 8, 4);
+    QTest::newRow("outside") << QRectF(200, -90, 20, 20) << least << QRectF(92, -10, 8, 4);
+    QTest::newRow("around the base")
+        << QRectF(-5, -15, 200, 100) << least << QRectF(0, -10, 100, 60);
+    QTest::newRow("more than there is")
+        << QRectF(10, 20, 8, 4) << QSizeF(500, 4) << QRectF(0, 20, 100, 4);
+}
+
+void tst_ZoomGesture::viewIsKeptInsideTheBase()
+{
+    QFETCH(QRectF, view);
+    QFETCH(QSizeF, least);
+    QTEST(keptInside(view, QRectF(0, -10, 100, 60), least), "expected");
+}
+
+void tst_ZoomGesture::randomViewsAreKeptInsideTheBase()
+{
+    QRandomGenerator random(20260101);
+    const auto number = [&](double bound) { return random.generateDouble() * bound; };
+    for (int i = 0; i < 10000; ++i) {
+        const Span base {number(10.0) - 5.0, 5.0 + number(1e6)};
+        const double from = number(2e6) - 1e6;
+        const double least = number(20.0);
+        const Span kept = keptInside({from, from + number(1e6)}, base, least);
+        const double rounding = 1e-9 * base.to;
+        QVERIFY(kept.from >= base.from);
+        QVERIFY(kept.to <= base.to + rounding);
+        QVERIFY(kept.to - kept.from >= std::min(least, base.to - base.from) - rounding);
+    }
 }
 
 void tst_ZoomGesture::bandHoldsItsBorderPixels()

@@ -9,10 +9,9 @@
 #include "nightstyler.h"
 #include "pagelook.h"
 #include "powermarks.h"
-#include "steadytap.h"
 
 #include <QLocale>
-#include <QStack>
+#include <ZEMPlotTouchGuard>
 #include <ZEMPlotZoomerAdvanced>
 #include <ZEMQwtPlotHistogram>
 #include <ZEMUtils>
@@ -38,19 +37,6 @@ constexpr int unitSize = 10; // points
 constexpr double barLayer = 15.0; // bars are above the grid, which is at 10, and under the curves
 constexpr double markLayer = 40.0;
 
-/** @p rect within @p base, widened to what can still be read. */
-QRectF readablePart(const QRectF &rect, const QRectF &base)
-{
-    const QPointF center = (rect & base).isEmpty() ? base.center() : (rect & base).center();
-    QRectF part(QPointF(),
-                QSizeF(std::max((rect & base).width(), leastMinutes),
-                       std::max((rect & base).height(), leastWatts)));
-    part.moveCenter(center);
-    part.moveLeft(qBound(base.left(), part.left(), base.right() - part.width()));
-    part.moveTop(qBound(base.top(), part.top(), base.bottom() - part.height()));
-    return part;
-}
-
 } // namespace
 
 QString powerText(double watts)
@@ -75,9 +61,10 @@ PowerPlot::PowerPlot(NightStyler *styler, QWidget *parent) : ZEMPlot(styler, par
     bars->attach(this);
 
     makeMarkers();
-    steadyTap = new SteadyTap(canvas());
-    makePicker();
-    connect(getZoomer(), &QwtPlotZoomer::zoomed, this, &PowerPlot::keepZoomInside);
+    picker = new PowerPicker(this);
+    new ZEMPlotTouchGuard(this, QSizeF(leastMinutes, leastWatts));
+    connect(picker, &PowerPicker::selectedPlotPoint, this, &PowerPlot::takePoint);
+    connect(getZoomer(), &QwtPlotZoomer::zoomed, this, &PowerPlot::handleZoom);
     connect(axisWidget(QwtPlot::yLeft), &QwtScaleWidget::scaleDivChanged, this,
             &PowerPlot::showUnit);
     showDay(PowerDay());
@@ -120,24 +107,15 @@ void PowerPlot::makeMarkers()
     tracker = new PowerTracker(this, trackMark);
 }
 
-/** A new picker has picked nothing, and an old one cannot be made to forget. */
-void PowerPlot::makePicker()
-{
-    current = Point();
-    delete picker;
-    picker = new PowerPicker(this);
-    connect(picker, &PowerPicker::selectedPlotPoint, this, &PowerPlot::takePoint);
-    canvas()->installEventFilter(steadyTap); // the newest filter is asked first
-}
-
 void PowerPlot::showDay(const PowerDay &day)
 {
     const bool isSame = day.date == date && day.date.isValid();
+    const Point current = picker->getPickedPlotPoint();
     const int pickedCurve = isSame && current.valid ? getIndexOfCurve(current.curve) : -1;
     const unsigned int pickedSample = current.index;
     const QRectF view = isSame && isZoomed() ? getZoomer()->zoomRect() : QRectF();
 
-    makePicker();
+    picker->clearPickedPlotPoint();
     date = day.date;
     clock = DayClock(day);
     takeCurves(day);
@@ -158,6 +136,7 @@ void PowerPlot::showDay(const PowerDay &day)
 
 std::optional<PickedPower> PowerPlot::picked() const
 {
+    const Point current = picker->getPickedPlotPoint();
     if (!hasKnownPoint()) {
         return std::nullopt;
     }
@@ -225,15 +204,8 @@ void PowerPlot::takeAxes()
     setAxisScale(QwtPlot::xBottom, 0.0, clock.minutes());
 }
 
-void PowerPlot::keepZoomInside(const QRectF &rect)
+void PowerPlot::handleZoom()
 {
-    ZEMPlotZoomerAdvanced *zoomer = getZoomer();
-    const QRectF part = readablePart(rect, zoomer->zoomBase());
-    if (part != rect && isZoomed()) {
-        QStack<QRectF> views = zoomer->zoomStack();
-        views[int(zoomer->zoomRectIndex())] = part;
-        zoomer->setZoomStack(views, int(zoomer->zoomRectIndex()));
-    }
     tracker->hide();
     Q_EMIT zoomChanged();
 }
@@ -250,12 +222,12 @@ void PowerPlot::pickPrevious()
 
 void PowerPlot::step(void (ZEMQwtPlotPointPicker::*stepOnce)())
 {
-    const Point before = current;
+    const Point before = picker->getPickedPlotPoint();
     unsigned int index = 0;
     do {
-        index = current.index;
+        index = picker->getPickedPlotPoint().index;
         (picker->*stepOnce)();
-    } while (current.index != index && !hasKnownPoint());
+    } while (picker->getPickedPlotPoint().index != index && !hasKnownPoint());
     if (!hasKnownPoint()) {
         picker->pick(before);
     }
@@ -263,9 +235,9 @@ void PowerPlot::step(void (ZEMQwtPlotPointPicker::*stepOnce)())
 
 void PowerPlot::pickOtherCurve()
 {
-    const Point before = current;
+    const Point before = picker->getPickedPlotPoint();
     picker->pickNextCurve();
-    if (current.curve == before.curve) {
+    if (picker->getPickedPlotPoint().curve == before.curve) {
         for (int i = 1; i < getNumCurves(); ++i) {
             picker->pickPrevCurve();
         }
@@ -277,16 +249,16 @@ void PowerPlot::pickOtherCurve()
 
 void PowerPlot::takePoint(const Point &point)
 {
-    current = point;
     if (hasKnownPoint()) {
         tracker->hide();
-        bringIntoView(current.point);
+        bringIntoView(point.point);
         showPoint();
     }
 }
 
 bool PowerPlot::hasKnownPoint() const
 {
+    const Point current = picker->getPickedPlotPoint();
     return current.valid && std::isfinite(current.point.y());
 }
 
@@ -295,7 +267,7 @@ void PowerPlot::showPoint()
     const std::optional<PickedPower> power = picked();
     pickMark->setVisible(power.has_value());
     if (power) {
-        pickMark->setValue(current.point);
+        pickMark->setValue(picker->getPickedPlotPoint().point);
         pickMark->setSymbol(new QwtSymbol(QwtSymbol::Ellipse, NightStyler::colorOf(power->kind),
                                           QPen(NightStyler::highlight(), 2.0),
                                           QSize(markSize, markSize)));

@@ -18,7 +18,6 @@ class PowerPicker;
 class PowerTracker;
 class QwtPlotCurve;
 class QwtPlotTextLabel;
-class SteadyTap;
 class ZEMQwtPlotPointPicker;
 
 /** A power in the words of the display: "850 W", "1,2 kW". */
@@ -75,11 +74,10 @@ private:
 
     void makeAxes();
     void makeMarkers();
-    void makePicker();
     void takeCurves(const PowerDay &day);
     void takeBars(const PowerDay &day);
     void takeAxes();
-    void keepZoomInside(const QRectF &rect);
+    void handleZoom();
     void step(void (ZEMQwtPlotPointPicker::*stepOnce)());
     void takePoint(const Point &point);
     bool hasKnownPoint() const;
@@ -91,13 +89,11 @@ private:
     DayClock clock;
     QDate date;
     std::vector<PowerKind> kinds;
-    Point current;
     QwtPlotCurve *bars = nullptr;
     QwtPlotTextLabel *unit = nullptr;
     QwtPlotMarker *pickMark = nullptr;
     PowerTracker *tracker = nullptr;
     PowerPicker *picker = nullptr;
-    SteadyTap *steadyTap = nullptr;
 };
 
 #endif

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "zemplottouchguard.h"
+
+#include "zemplot.h"
+#include "zemplotzoomeradvanced.h"
+#include "zoomgesture_p.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QStack>
+
+class ZEMPlotTouchGuard::Private
+{
+public:
+    void handlePress(const QMouseEvent *event)
+    {
+        if (event->button() == Qt::LeftButton) {
+            start = event->pos();
+            isDrag = false;
+        }
+    }
+
+    bool isTremble(const QMouseEvent *event)
+    {
+        const int way = (event->pos() - start).manhattanLength();
+        isDrag = isDrag || way > QApplication::startDragDistance();
+        return event->buttons().testFlag(Qt::LeftButton) && !isDrag;
+    }
+
+    void keepReadable()
+    {
+        QStack<QRectF> views = zoomer->zoomStack();
+        int index = static_cast<int>(zoomer->zoomRectIndex());
+        const QRectF view = ZoomGesture::keptInside(views.at(index), views.first(), leastView);
+        if (index == 0 || view == views.at(index)) {
+            return;
+        }
+        views[index] = view;
+        if (view == views.at(index - 1)) {
+            views.remove(index);
+            --index;
+        }
+        // At its depth a zoomer refuses a stack of just that depth.
+        const int depth = zoomer->maxStackDepth();
+        zoomer->setMaxStackDepth(-1);
+        // Who hears of it may delete the zoomer, and the guard with it.
+        const QPointer<ZEMPlotZoomerAdvanced> corrected = zoomer;
+        corrected->setZoomStack(views, index);
+        if (corrected) {
+            corrected->setMaxStackDepth(depth);
+        }
+    }
+
+    QPointer<ZEMPlotZoomerAdvanced> zoomer;
+    QSizeF leastView;
+    QPoint start;
+    bool isDrag = true; // a move that follows no press is no tremble
+};
+
+ZEMPlotTouchGuard::ZEMPlotTouchGuard(ZEMPlot *plot, const QSizeF &leastView)
+    : QObject(plot->canvas()), d(std::make_unique<Private>())
+{
+    d->zoomer = plot->getZoomer();
+    d->leastView = leastView;
+    plot->canvas()->installEventFilter(this);
+    if (d->zoomer) {
+        connect(d->zoomer, &QwtPlotZoomer::zoomed, this, [this] { d->keepReadable(); });
+    }
+}
+
+ZEMPlotTouchGuard::~ZEMPlotTouchGuard() = default;
+
+QSizeF ZEMPlotTouchGuard::leastView() const
+{
+    return d->leastView;
+}
+
+void ZEMPlotTouchGuard::setLeastView(const QSizeF &size)
+{
+    d->leastView = size;
+}
+
+bool ZEMPlotTouchGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        // The newest filter is asked first, and pickers may have been made since.
+        watched->installEventFilter(this);
+        d->handlePress(static_cast<const QMouseEvent *>(event));
+        return false;
+    case QEvent::MouseMove:
+        return d->isTremble(static_cast<const QMouseEvent *>(event));
+    default:
+        return false;
+    }
+}
