@@ -91,8 +91,10 @@ void ZEMPlot::init()
     restyle();
     if (d->panner) {
         d->panner->setMouseButton(Qt::RightButton, Qt::NoModifier);
-        d->panner->setAxisEnabled(QwtPlot::yLeft, true);
-        d->panner->setAxisEnabled(QwtPlot::xBottom, true);
+        for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+            // Those that the zoomer brings back.
+            d->panner->setAxisEnabled(axis, axis == QwtPlot::yLeft || axis == QwtPlot::xBottom);
+        }
     }
 }
 

@@ -61,7 +61,8 @@ public:
 
     /**
      * Shows the grid, styles everything, replots, and puts panning on the right mouse button for
-     * the left and the bottom axis. To be called once, when the styler is ready.
+     * the left and the bottom axis alone, which a drag to the upper left brings back. To be called
+     * once, when the styler is ready.
      */
     void init();
 
@@ -78,7 +79,10 @@ public:
     /** Zooms the bottom and the left axis. Dies with the plot or its canvas; null then. */
     ZEMPlotZoomerAdvanced *getZoomer();
 
-    /** Pans the plot. Dies with the plot or its canvas; null then. */
+    /**
+     * Pans the plot. Dies with the plot or its canvas; null then. A program that has it move other
+     * axes too brings these back itself.
+     */
     QwtPlotPanner *getPanner();
 
     /**
