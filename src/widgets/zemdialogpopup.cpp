@@ -49,6 +49,8 @@ ZEMDialogPopup::ZEMDialogPopup(QWidget *parent)
     d->ui.setupUi(this);
     connect(d->ui.btnAccepted, &ZEMButton::clicked, this, &ZEMDialogPopup::btn_accepted_clicked);
     connect(d->ui.btnRejected, &ZEMButton::clicked, this, &ZEMDialogPopup::btn_rejected_clicked);
+    // A child that was not hidden is shown with its page.
+    hide();
 }
 
 ZEMDialogPopup::~ZEMDialogPopup() = default;

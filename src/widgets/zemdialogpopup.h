@@ -53,9 +53,8 @@
  * busy.info(true);
  * @endcode
  * A new dialog is 640 by 480 pixels and shows a sample text in all lines, and the spinner; set all
- * three lines, or call clearText() first. It is not shown, but like every child it would appear
- * with a page that is not shown yet: a dialog that is made ahead is hidden with hide(). To hide it
- * while exec() or info() runs does not end them; reset() does.
+ * three lines, or call clearText() first. It is hidden until exec() or info() shows it, also on a
+ * page that is shown later. To hide it while exec() or info() runs does not end them; reset() does.
  */
 class ZEM_EXPORT ZEMDialogPopup : public ZEMPageBackground
 {
@@ -91,7 +90,11 @@ public Q_SLOTS:
      */
     bool exec();
 
-    /** Ends a running exec() or info() and hides the dialog. */
+    /**
+     * Ends a running exec() or info() and hides the dialog. A call before one of them runs is lost:
+     * they wait all the same. So what ends them comes through the event loop: from a timer, say, or
+     * a signal of another thread.
+     */
     void reset();
 
 private Q_SLOTS:

@@ -58,6 +58,7 @@ class tst_ZEMDialogPopup : public QObject
 
 private Q_SLOTS:
     void newDialog();
+    void staysHiddenWhenItsPageIsShown();
     void formOfThePage();
     void formOfTheContents();
     void formOfTheButtons();
@@ -94,6 +95,19 @@ void tst_ZEMDialogPopup::newDialog()
     auto *child = new ZEMDialogPopup(&host);
     QCOMPARE(child->parentWidget(), &host);
     QVERIFY(!child->isVisible());
+}
+
+void tst_ZEMDialogPopup::staysHiddenWhenItsPageIsShown()
+{
+    QWidget page;
+    const auto *onThePage = new ZEMDialogPopup(&page);
+    auto *inALayout = new ZEMDialogPopup;
+    (new QVBoxLayout(&page))->addWidget(inALayout);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QCoreApplication::processEvents();
+    QVERIFY(!onThePage->isVisible());
+    QVERIFY(!inALayout->isVisible());
 }
 
 void tst_ZEMDialogPopup::formOfThePage()

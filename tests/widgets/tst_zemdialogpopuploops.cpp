@@ -31,6 +31,7 @@ private Q_SLOTS:
     void everyExecBeginsAnew();
     void infoCanBeAcknowledgedOnly();
     void infoWithoutButtonsIsEndedByAResetOnly();
+    void resetBeforeInfoIsLost();
     void infoIsASlot();
     void infoEnablesTheAcceptButtonAgain();
     void buttonsWithoutALoopHide();
@@ -129,6 +130,20 @@ void tst_ZEMDialogPopupLoops::infoWithoutButtonsIsEndedByAResetOnly()
     inTheLoop([&] { touch(dialog, "btnAccepted"); });
     QVERIFY(dialog.exec());
     QVERIFY(buttonOf(dialog, "btnAccepted")->isEnabled());
+}
+
+void tst_ZEMDialogPopupLoops::resetBeforeInfoIsLost()
+{
+    Page page;
+    ZEMDialogPopup dialog(&page);
+    dialog.reset();
+    bool waited = false;
+    inTheLoop([&] {
+        waited = dialog.isVisible();
+        dialog.reset();
+    });
+    dialog.info(true);
+    QVERIFY(waited);
 }
 
 void tst_ZEMDialogPopupLoops::infoIsASlot()
