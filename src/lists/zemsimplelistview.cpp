@@ -32,6 +32,8 @@ ZEMSimpleListView::ZEMSimpleListView(QWidget *parent)
     setObjectNameFromClass(this, staticMetaObject);
     d->ui.setupUi(this);
     connect(d->ui.listView, &QListView::clicked, this, &ZEMSimpleListView::slotClicked);
+    // An icon view drags items that the model allows to, so a tap with a wobble would be lost.
+    d->ui.listView->setDragDropMode(QAbstractItemView::NoDragDrop);
     ListPage::makeSeeThrough(d->ui.listView);
     d->logic = new ZEMListViewLogic(d->ui.listView);
 }

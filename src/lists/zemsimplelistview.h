@@ -20,7 +20,8 @@ class QModelIndex;
 /**
  * A page to pick one of a few things by its picture: the page beneath is darkened, and a panel in
  * the middle has a title and a grid of two columns, 175 by 100 pixels for each item and icons of 60
- * by 60. A tap on an item picks it, a press beside the list cancels.
+ * by 60. A tap on an item picks it, also one with a wobble: items are never dragged, whatever the
+ * model allows. A press beside the list cancels.
  *
  * @code
  * #include <QAction>

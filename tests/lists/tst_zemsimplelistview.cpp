@@ -10,6 +10,8 @@
 #include <QListView>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QStringListModel>
 #include <QTest>
 
 using namespace ListTest;
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void laterTitlesAreNotFollowed();
     void titleGoesThroughTheVirtualOperation();
     void tapPicks();
+    void tapWithAWobblePicks_data();
+    void tapWithAWobblePicks();
     void tapOnASeparator();
     void tapOnOneOfOnlySeparators();
     void tapBetweenTheItemsDoesNothing();
@@ -160,6 +164,43 @@ void tst_ZEMSimpleListView::tapPicks()
     QCOMPARE(cancelled.count(), 0);
     QCOMPARE(fixture.page.index(), 3);
     QCOMPARE(fixture.currentRow(), 3);
+}
+
+void tst_ZEMSimpleListView::tapWithAWobblePicks_data()
+{
+    QTest::addColumn<bool>("standardItems");
+    QTest::newRow("QStringListModel") << false;
+    QTest::newRow("QStandardItemModel") << true;
+}
+
+/** The models of Qt offer their items to be dragged, as an icon view would. */
+void tst_ZEMSimpleListView::tapWithAWobblePicks()
+{
+    QStringListModel texts({QStringLiteral("stroom"), QStringLiteral("gas")});
+    QStandardItemModel items;
+    items.appendRow(new QStandardItem(QStringLiteral("stroom")));
+    items.appendRow(new QStandardItem(QStringLiteral("gas")));
+    Fixture fixture;
+    QFETCH(bool, standardItems);
+    QAbstractItemModel *const model = standardItems ? static_cast<QAbstractItemModel *>(&items)
+                                                    : static_cast<QAbstractItemModel *>(&texts);
+    fixture.page.setModel(model);
+    fixture.list()->setIconSize(QSize(100, 60));
+    fixture.page.fitContents(2);
+    const Stage stage(&fixture.page);
+    QVERIFY(stage.isReady());
+    const QSignalSpy selected(&fixture.page, &ZEMSimpleListView::sigSelect);
+    QWidget *const viewport = fixture.list()->viewport();
+    const QRect item = fixture.list()->visualRect(model->index(1, 0));
+    QVERIFY(item.width() > 2 * QApplication::startDragDistance());
+    ZemTest::press(viewport, item.center());
+    for (int x = item.left() + 1; x < item.right(); ++x) {
+        ZemTest::moveTo(viewport, QPoint(x, item.center().y()));
+    }
+    ZemTest::release(viewport, QPoint(item.right() - 1, item.center().y()));
+    QCOMPARE(selected.count(), 1);
+    QCOMPARE(selected.constFirst(), QVariantList {1});
+    QCOMPARE(model->rowCount(), 2);
 }
 
 void tst_ZEMSimpleListView::tapOnASeparator()
