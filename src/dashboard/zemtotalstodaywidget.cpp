@@ -18,6 +18,8 @@ void setCaptionColor(QLabel *caption)
     QPalette palette = caption->palette();
     ZEMStyle(nullptr).setButtonColor(palette, ZEMStyle::White);
     caption->setPalette(palette);
+    // A label on a button would be painted in the colour of the button's text.
+    caption->setForegroundRole(QPalette::WindowText);
 }
 
 void fill(QWidget *container, QWidget *chart)

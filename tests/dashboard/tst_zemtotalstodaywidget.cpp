@@ -35,6 +35,7 @@ private Q_SLOTS:
     void textsAreTranslated();
     void settersReplaceTheTranslation();
     void captionsHaveTheButtonColorInTheirPalette();
+    void captionsArePaintedInTheWindowTextColor();
     void declaresItsOwn();
     void propertiesReachTheForm();
     void badgesArePaintedAtOnce();
@@ -166,6 +167,28 @@ void tst_ZEMTotalsTodayWidget::captionsHaveTheButtonColorInTheirPalette()
             QCOMPARE(palette.color(colorGroup, QPalette::WindowText),
                      tile.palette().color(colorGroup, QPalette::WindowText));
         }
+    }
+}
+
+void tst_ZEMTotalsTodayWidget::captionsArePaintedInTheWindowTextColor()
+{
+    ZEMTotalsTodayWidget tile;
+    QPalette palette = tile.palette();
+    palette.setColor(QPalette::WindowText, Qt::red);
+    palette.setColor(QPalette::ButtonText, Qt::green);
+    tile.setPalette(palette);
+    const QImage image = ZemTest::render(&tile);
+    for (const char *name : {"lblHistogramTop", "lblHistogramBottom"}) {
+        const auto *caption = part<QLabel>(tile, name);
+        const QImage text = image.copy(QRect(caption->mapTo(&tile, QPoint(0, 0)), caption->size()));
+        int reddest = -255; // how far the red of a pixel is above its green and blue
+        for (int y = 0; y < text.height(); ++y) {
+            for (int x = 0; x < text.width(); ++x) {
+                const QRgb pixel = text.pixel(x, y);
+                reddest = qMax(reddest, qRed(pixel) - qMax(qGreen(pixel), qBlue(pixel)));
+            }
+        }
+        QVERIFY2(reddest > 128, name);
     }
 }
 
