@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QDirIterator>
 #include <QImage>
+#include <QPainter>
 #include <QResource>
 #include <QSet>
 #include <QTest>
@@ -91,6 +92,10 @@ private Q_SLOTS:
     void picture();
     void nothingElseIsInTheCollection();
     void headerIsAnOpaqueLightBar();
+    void emptyStarIsADarkOutline_data();
+    void emptyStarIsADarkOutline();
+    void emptyStarIsSeen_data();
+    void emptyStarIsSeen();
     void cleanupAndInitAreExported();
 };
 
@@ -161,6 +166,72 @@ void tst_Resources::headerIsAnOpaqueLightBar()
             QVERIFY(color.saturation() < 32);
         }
     }
+}
+
+static QImage emptyStar(bool small)
+{
+    return QImage(QLatin1String(small ? ":/zem/graphics/icons/star_empty_icon_small.png"
+                                      : ":/zem/graphics/icons/star_empty_icon.png"));
+}
+
+void tst_Resources::emptyStarIsADarkOutline_data()
+{
+    QTest::addColumn<bool>("small");
+    QTest::newRow("normal") << false;
+    QTest::newRow("small") << true;
+}
+
+void tst_Resources::emptyStarIsADarkOutline()
+{
+    QFETCH(bool, small);
+    const QImage star = emptyStar(small);
+    constexpr int lineAlpha = 144;
+    int linePixels = 0;
+    int shades = 0; // of the line, from black to white
+    int sum = 0;
+    for (int y = 0; y < star.height(); ++y) {
+        for (int x = 0; x < star.width(); ++x) {
+            const QColor color = star.pixelColor(x, y);
+            sum += color.alpha();
+            if (color.alpha() >= lineAlpha) {
+                ++linePixels;
+                shades += qGray(color.rgb());
+            }
+        }
+    }
+    const int allPixels = star.width() * star.height();
+    QVERIFY2(linePixels > allPixels / 10, "the line can be seen through");
+    QVERIFY2(shades / linePixels < 100, "the line is not dark");
+    QVERIFY2(sum / allPixels < 64, "there is more than an outline");
+}
+
+void tst_Resources::emptyStarIsSeen_data()
+{
+    QTest::addColumn<bool>("small");
+    QTest::addColumn<QColor>("ground");
+    const QColor grounds[] = {Qt::black, QColor(18, 24, 31), QColor(60, 74, 75), Qt::white};
+    for (const QColor &ground : grounds) {
+        QTest::addRow("normal, %s", qPrintable(ground.name())) << false << ground;
+        QTest::addRow("small, %s", qPrintable(ground.name())) << true << ground;
+    }
+}
+
+void tst_Resources::emptyStarIsSeen()
+{
+    QFETCH(bool, small);
+    QFETCH(QColor, ground);
+    const QImage star = emptyStar(small);
+    QImage page(star.size(), QImage::Format_RGB32);
+    page.fill(ground);
+    QPainter(&page).drawImage(0, 0, star);
+    constexpr int seen = 32; // of 255 shades
+    int pixels = 0;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            pixels += qAbs(qGray(page.pixel(x, y)) - qGray(ground.rgb())) >= seen ? 1 : 0;
+        }
+    }
+    QVERIFY2(pixels > 2 * star.width(), qPrintable(QString::number(pixels)));
 }
 
 void tst_Resources::cleanupAndInitAreExported()
