@@ -6,6 +6,11 @@
 #include "listpaging_p.h"
 
 #include <QAbstractItemModel>
+#include <QSet>
+#include <QTimer>
+
+#include <algorithm>
+#include <iterator>
 
 QAbstractItemModel *PagedView::model() const
 {
@@ -38,9 +43,78 @@ QVariant PagedView::text(int row, int column) const
 void PagedView::setModel(QAbstractItemModel *model)
 {
     index = 0;
-    if (view) {
-        view->setModel(model);
+    wasAsked = false;
+    isPageDue = false;
+    listener.reset();
+    if (!view) {
+        return;
     }
+    giveToView(model);
+    if (model) {
+        followRowsOf(model);
+    }
+}
+
+/** A view and its headers make a selection for each model, and leave the former to the host. */
+void PagedView::giveToView(QAbstractItemModel *model)
+{
+    const auto known = view->findChildren<QItemSelectionModel *>();
+    const QSet<QItemSelectionModel *> before(known.begin(), known.end());
+    view->setModel(model);
+    QVector<QPointer<QItemSelectionModel>> made;
+    const auto after = view->findChildren<QItemSelectionModel *>();
+    std::copy_if(after.begin(), after.end(), std::back_inserter(made),
+                 [&before](QItemSelectionModel *one) { return !before.contains(one); });
+    if (!made.isEmpty()) {
+        selections.swap(made);
+        for (const auto &former : qAsConst(made)) {
+            if (former) {
+                former->deleteLater();
+            }
+        }
+    }
+}
+
+void PagedView::followRowsOf(QAbstractItemModel *model)
+{
+    listener = std::make_unique<QObject>();
+    const auto follow = [this] { rowsChanged(); };
+    // After the view and its selection, which find their places first.
+    QObject::connect(model, &QAbstractItemModel::rowsInserted, listener.get(), follow);
+    QObject::connect(model, &QAbstractItemModel::rowsRemoved, listener.get(), follow);
+    QObject::connect(model, &QAbstractItemModel::rowsMoved, listener.get(), follow);
+    QObject::connect(model, &QAbstractItemModel::layoutChanged, listener.get(), follow);
+    QObject::connect(model, &QObject::destroyed, listener.get(), follow);
+}
+
+void PagedView::rowsChanged()
+{
+    const int rows = rowCount();
+    if (rows > 0 && !currentIndex().isValid()) {
+        if (!wasAsked) {
+            return;
+        }
+        view->setCurrentIndex(indexAt(qBound(0, index, rows - 1)));
+    }
+    showPageLater();
+    tellRow(currentIndex().row());
+}
+
+/** A model may change row by row, and each scroll lays a view out anew. */
+void PagedView::showPageLater()
+{
+    if (isPageDue) {
+        return;
+    }
+    isPageDue = true;
+    QTimer::singleShot(0, listener.get(), [this] {
+        isPageDue = false;
+        const int row = currentIndex().row();
+        if (row >= 0) {
+            scrollTo(pageTop(row));
+        }
+        tellRow(row);
+    });
 }
 
 void PagedView::setItemDelegate(QAbstractItemDelegate *delegate)
@@ -64,6 +138,7 @@ int PagedView::pageTop(int row) const
 
 bool PagedView::choose(int row)
 {
+    wasAsked = true;
     const QModelIndex chosen = indexAt(row);
     if (chosen.isValid()) {
         index = row;
@@ -90,6 +165,7 @@ void PagedView::scrollTo(int row)
 
 void PagedView::restore(int rowCount)
 {
+    wasAsked = true;
     index = ListPaging::keptRow(index, rowCount);
     const QModelIndex chosen = indexAt(index);
     if (chosen.isValid()) {

@@ -7,8 +7,14 @@
 #include <QAbstractItemView>
 #include <QItemSelectionModel>
 #include <QModelIndex>
+#include <QObject>
 #include <QPointer>
 #include <QVariant>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+#include <utility>
 
 class QAbstractItemDelegate;
 class QAbstractItemModel;
@@ -24,7 +30,12 @@ class QAbstractItemModel;
 class PagedView
 {
 public:
-    explicit PagedView(QAbstractItemView *pagedView) : view(pagedView) { }
+    /** Calls @p tell with the row that is current after rows have come, gone or moved. */
+    PagedView(QAbstractItemView *pagedView, std::function<void(int row)> tell)
+        : view(pagedView), tellRow(std::move(tell))
+    {
+    }
+    Q_DISABLE_COPY(PagedView)
 
     QAbstractItemModel *model() const;
     int rowCount() const;
@@ -53,6 +64,18 @@ public:
     int index = 0;
     QItemSelectionModel::SelectionFlags selectionFlags = QItemSelectionModel::NoUpdate;
     QAbstractItemView::ScrollHint scrollHint = QAbstractItemView::PositionAtTop;
+
+private:
+    void giveToView(QAbstractItemModel *model);
+    void followRowsOf(QAbstractItemModel *model);
+    void rowsChanged();
+    void showPageLater();
+
+    std::function<void(int row)> tellRow;
+    std::unique_ptr<QObject> listener; // hears of the rows of the present model
+    QVector<QPointer<QItemSelectionModel>> selections; // made by the view for its model
+    bool wasAsked = false; // for a row, since the model was set
+    bool isPageDue = false;
 };
 
 #endif

@@ -64,7 +64,8 @@ public:
 
     /**
      * As in the interface. The page buttons stay as they are, both enabled on a new page, and do
-     * nothing until a row is current: call setIndex() next.
+     * nothing until a row is current: call setIndex() next. From then on they follow the rows of
+     * the model.
      */
     void setModel(QAbstractItemModel *model) override;
     void setItemDelegate(QAbstractItemDelegate *delegate) override;

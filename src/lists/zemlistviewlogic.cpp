@@ -16,7 +16,8 @@ public:
 };
 
 ZEMListViewLogic::ZEMListViewLogic(QListView *view)
-    : QObject(view), d(std::make_unique<Private>(view))
+    : QObject(view), d(std::make_unique<Private>(
+                         view, [this](int row) { tellPages(d->pageTop(row), d->rowCount()); }))
 {
 }
 

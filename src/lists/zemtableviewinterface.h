@@ -51,8 +51,19 @@ public:
      * first row current if none is.)
      *
      * From then on every reset of @p model chooses the chosen row again, or the last row if there
-     * are fewer now, or -1 if there are none. A model that was set before is still listened to: its
-     * resets restore the chosen row too, and a model that is set twice does so twice.
+     * are fewer now, or -1 if there are none; the view is not scrolled. A model that was set before
+     * is still listened to: its resets restore the chosen row too, and a model that is set twice
+     * does so twice.
+     *
+     * When rows come, go or move without a reset, as by a filter, the table goes on from its
+     * current row: its page is shown as soon as the event loop runs. A table that was emptied makes
+     * the chosen row current again, or the last row, when rows come. All this is for a table in
+     * which a row was chosen or is current.
+     *
+     * Left to the host: to call setIndex() for a new model, and after a reset that should scroll;
+     * the chosen row keeps its number when rows come or go above it.
+     *
+     * The selection models that the view made for the model before are deleted from the event loop.
      */
     virtual void setModel(QAbstractItemModel *model) = 0;
 

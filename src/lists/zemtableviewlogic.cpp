@@ -16,7 +16,8 @@ public:
 };
 
 ZEMTableViewLogic::ZEMTableViewLogic(QTableView *view)
-    : QObject(view), d(std::make_unique<Private>(view))
+    : QObject(view),
+      d(std::make_unique<Private>(view, [this](int row) { tellPages(row, d->rowCount()); }))
 {
 }
 

@@ -6,6 +6,8 @@
 
 #include "listtest.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 #include <QRandomGenerator>
 #include <QString>
@@ -167,6 +169,7 @@ private:
 
     void setIndex(int row)
     {
+        wasAsked = true;
         lastCall = QStringLiteral("setIndex %1 of %2").arg(row).arg(rows());
         logic->setIndex(row);
         if (exists(row)) {
@@ -199,6 +202,7 @@ private:
             expected.selected.clear();
         }
         for (int i = 0; i < source.timesSet; ++i) {
+            wasAsked = true;
             expected.index = qMin(expected.index, rows() - 1);
             if (exists(expected.index)) {
                 choose(expected.index);
@@ -219,6 +223,8 @@ private:
     {
         lastCall = QStringLiteral("setModel %1").arg(which);
         logic->setModel(sources[which].model.get());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        wasAsked = false;
         expected.index = 0;
         ++sources[which].timesSet;
         if (which != shown) {
@@ -228,7 +234,7 @@ private:
         shown = which;
     }
 
-    /** Rows that go without a reset: which row is current then is the view's own affair. */
+    /** Rows that go without a reset: which row is current then is the view's own affair, if any. */
     void shrink()
     {
         if (rows() > 0) {
@@ -237,6 +243,9 @@ private:
             sources[shown].model->removeLast(count);
             expected.current = view.currentIndex().row();
             expected.selected = selectedRows(view);
+            if (wasAsked || expected.current >= 0 || rows() == 0) {
+                tell(Rules::toldAfterChoice(expected.current, expected.current, expected.pageSize));
+            }
         }
     }
 
@@ -249,6 +258,7 @@ private:
             shown = -1;
             expected.current = -1;
             expected.selected.clear();
+            tell(-1);
         }
     }
 
@@ -304,6 +314,7 @@ private:
     ScrollLog<View> view;
     Logic *logic;
     int shown = -1;
+    bool wasAsked = false; // for a row, since the model was set
     QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::NoUpdate;
     QAbstractItemView::ScrollHint hint = QAbstractItemView::PositionAtTop;
     Outcome<View> actual;

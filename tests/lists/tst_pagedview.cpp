@@ -112,7 +112,9 @@ void checkRowsThatGo()
     QVERIFY(paged.acted);
     QCOMPARE(paged.currentRow(), 8);
     QFETCH(bool, nextPage);
-    QCOMPARE(paged.told, Told({{true, nextPage}}));
+    QCOMPARE(paged.told.constLast(), Pages(true, nextPage));
+    QCoreApplication::processEvents();
+    QCOMPARE(paged.told.constLast(), Pages(true, false)); // of the twelve rows that are left
 }
 
 template <typename Engine>
@@ -174,7 +176,8 @@ void checkDeletedModel(const Told &told)
         paged.logic->page_next();
         paged.told.clear();
     }
-    QCOMPARE(paged.told, Told());
+    QCOMPARE(paged.told, Told({{false, false}}));
+    paged.told.clear();
     QCOMPARE(paged.logic->index(), 13);
     useEmptyView<Engine>(*paged.logic);
     QCOMPARE(paged.told, told);
