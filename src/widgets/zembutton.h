@@ -40,6 +40,9 @@
  *
  * There is no pressed look. A new button is 50 by 50 pixels, is not stretched by layouts and takes
  * its size from setBackground().
+ *
+ * A slot of toggled() that has done with the button calls deleteLater(): as every button of Qt, it
+ * goes on after that signal. A slot of the other signals may delete it.
  */
 class ZEM_EXPORT ZEMButton : public QAbstractButton
 {

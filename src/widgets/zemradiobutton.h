@@ -32,6 +32,9 @@
  * indicator.show();
  * @endcode
  * A new one is checkable, unchecked and as large as its default picture, 13 by 12 pixels.
+ *
+ * A slot of toggled() that has done with it calls deleteLater(): as every button of Qt, it goes on
+ * after that signal. A slot of the other signals may delete it.
  */
 class ZEM_EXPORT ZEMRadioButton : public QAbstractButton
 {
