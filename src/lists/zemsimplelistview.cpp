@@ -116,5 +116,6 @@ void ZEMSimpleListView::mousePressEvent(QMouseEvent * /*event*/)
 void ZEMSimpleListView::slotClicked(const QModelIndex &index)
 {
     d->logic->setIndex(index.row());
-    Q_EMIT sigSelect(ListPage::pickRow(d->ui.listView, d->logic));
+    const int row = ListPage::pickRow(d->ui.listView, d->logic);
+    d->ui.listView->afterTap([this, row] { Q_EMIT sigSelect(row); });
 }

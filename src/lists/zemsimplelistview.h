@@ -51,8 +51,7 @@ class QModelIndex;
  * @endcode
  *
  * The list is for as many items as the panel has room for: there is nothing to page with. The page
- * neither hides nor closes itself. Do not delete it in a slot that hears of a pick or a cancel, use
- * deleteLater().
+ * neither hides nor closes itself. A slot that hears of a pick or a cancel may delete it.
  *
  * A new page is 640 by 480 pixels. The panel is nearly black, and the texts take their colours from
  * the palette: they are read with ZEMStyle or another palette of light texts, and are black on
