@@ -69,7 +69,6 @@ public:
 ZEMBarIndicator::ZEMBarIndicator(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
 {
     setObjectNameFromClass(this, staticMetaObject);
-    setWindowTitle(tr("Form"));
     QMetaObject::connectSlotsByName(this);
 }
 

@@ -24,7 +24,6 @@ ZEMNotificationButton::ZEMNotificationButton(QWidget *parent)
 {
     setObjectNameFromClass(this, staticMetaObject);
     resize(d->notificationIcon->size());
-    setWindowTitle(tr("Form"));
     QMetaObject::connectSlotsByName(this);
 }
 

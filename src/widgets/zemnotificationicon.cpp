@@ -52,7 +52,6 @@ ZEMNotificationIcon::ZEMNotificationIcon(QWidget *parent)
     badgeFont.setPointSize(fontSize);
     badgeFont.setWeight(QFont::Bold);
     setFont(badgeFont);
-    setWindowTitle(tr("Form"));
     QMetaObject::connectSlotsByName(this);
 }
 

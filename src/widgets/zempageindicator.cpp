@@ -62,7 +62,6 @@ ZEMPageIndicator::ZEMPageIndicator(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
     setObjectNameFromClass(this, staticMetaObject);
-    setWindowTitle(tr("Form"));
     QMetaObject::connectSlotsByName(this);
 }
 

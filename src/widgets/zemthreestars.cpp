@@ -31,7 +31,6 @@ public:
 ZEMThreeStars::ZEMThreeStars(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
 {
     setObjectNameFromClass(this, staticMetaObject);
-    setWindowTitle(tr("Form"));
     QMetaObject::connectSlotsByName(this);
 }
 

@@ -39,7 +39,6 @@ public:
 ZEMThrobber::ZEMThrobber(QWidget *parent) : ZEMTextLabel(parent), d(std::make_unique<Private>())
 {
     setObjectNameFromClass(this, staticMetaObject);
-    setWindowTitle(tr("Form"));
     setAlignment(Qt::AlignCenter);
     init();
 }

@@ -55,7 +55,7 @@ void tst_ZEMNotificationButton::newButton()
     QWidget host;
     QCOMPARE((new ZEMNotificationButton(&host))->parentWidget(), &host);
     ContextTranslator translator;
-    QCOMPARE(ZEMNotificationButton().windowTitle(), QStringLiteral("ZEMNotificationButton/Form"));
+    QCOMPARE(ZEMNotificationButton().windowTitle(), QStringLiteral("ZEMButton/Form"));
 }
 
 void tst_ZEMNotificationButton::declaresItsPropertiesAndSlots()

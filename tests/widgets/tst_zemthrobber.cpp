@@ -129,7 +129,7 @@ void tst_ZEMThrobber::newThrobber()
     QWidget host;
     QCOMPARE((new ZEMThrobber(&host))->parentWidget(), &host);
     ContextTranslator translator;
-    QCOMPARE(ZEMThrobber().windowTitle(), QStringLiteral("ZEMThrobber/Form"));
+    QCOMPARE(ZEMThrobber().windowTitle(), QStringLiteral("ZEMTextLabel/Form"));
 }
 
 void tst_ZEMThrobber::declaresItsSlotOnly()
