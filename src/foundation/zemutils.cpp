@@ -4,13 +4,11 @@
 #include "zemutils.h"
 
 #include "buildstamp_p.h"
+#include "zemversion_p.h"
 
 #include <cmath>
 
 namespace {
-
-constexpr int versionMajor = 2;
-constexpr int versionMinor = 3;
 
 QString revisionLabel()
 {
@@ -28,7 +26,10 @@ QString ZEMUtils::getDescription()
 
 QString ZEMUtils::getVersion()
 {
-    return QStringLiteral("%1.%2.%3").arg(versionMajor).arg(versionMinor).arg(revisionLabel());
+    return QStringLiteral("%1.%2.%3")
+        .arg(ZemVersion::majorNumber)
+        .arg(ZemVersion::minorNumber)
+        .arg(revisionLabel());
 }
 
 QString ZEMUtils::wattToString(double watt, bool kW)

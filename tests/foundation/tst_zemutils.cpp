@@ -49,7 +49,7 @@ void tst_ZEMUtils::description()
 
 void tst_ZEMUtils::version()
 {
-    QCOMPARE(ZEMUtils::getVersion(), QStringLiteral("2.3.development build"));
+    QCOMPARE(ZEMUtils::getVersion(), QStringLiteral(ZEM_TEST_VERSION ".development build"));
 }
 
 void tst_ZEMUtils::kilowattConstant()
