@@ -73,6 +73,21 @@ function(zem_precompile_headers name)
     endforeach()
 endfunction()
 
+# zem_add_memcheck(<test>)
+#   Runs a test under valgrind's memcheck, in the configuration memcheck of ctest alone:
+#   ctest --build-config memcheck --label-regex '^memcheck$'. The stack of an error is in the
+#   output, right before the line of the test function and row that made it.
+function(zem_add_memcheck test)
+    add_test(NAME memcheck_${test} CONFIGURATIONS memcheck
+        COMMAND valgrind --quiet --error-exitcode=9 --num-callers=50 --track-origins=yes
+            "$<TARGET_FILE:${test}>" -nocrashhandler)
+    set_tests_properties(memcheck_${test} PROPERTIES
+        LABELS memcheck
+        TIMEOUT ${ZEM_TEST_TIMEOUT}
+        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
+    zem_set_test_environment(memcheck_${test})
+endfunction()
+
 # zem_add_test(<name> SUBSYSTEM <label> [LIFETIME] [SOURCES <file>...] [LIBRARIES <target>...])
 #   One QTest program from <name>.cpp, linked with the library and the test support. A warning that
 #   the test does not expect makes it fail. LIFETIME: objects end in it at unusual moments, so it is
@@ -100,4 +115,7 @@ function(zem_add_test name)
         TIMEOUT ${ZEM_TEST_TIMEOUT}
         FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
     zem_set_test_environment(${name})
+    if(arg_LIFETIME)
+        zem_add_memcheck(${name})
+    endif()
 endfunction()
