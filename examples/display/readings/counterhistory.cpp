@@ -24,6 +24,12 @@ void CounterHistory::add(const Reading &reading)
     }
 }
 
+void CounterHistory::thin(qint64 before, qint64 step)
+{
+    settle();
+    filter.thin(before, step);
+}
+
 std::optional<double> CounterHistory::readingAt(qint64 instant) const
 {
     settle();

@@ -27,6 +27,9 @@ public:
      */
     void add(const Reading &reading);
 
+    /** See Meter::thin(). */
+    void thin(qint64 before, qint64 step);
+
     std::optional<double> readingAt(qint64 instant) const;
     std::optional<double> amount(const Interval &interval) const;
     double total(const Interval &interval) const;

@@ -51,6 +51,12 @@ bool Meter::addAmount(const Interval &interval, double amount, qint64 tag)
     return true;
 }
 
+void Meter::thin(qint64 before, qint64 step)
+{
+    if (auto *counter = std::get_if<CounterHistory>(&history))
+        counter->thin(before, step);
+}
+
 std::optional<double> Meter::amount(const Interval &interval) const
 {
     return std::visit([&](const auto &known) { return known.amount(interval); }, history);

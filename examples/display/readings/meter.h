@@ -70,6 +70,13 @@ public:
     bool addAmount(const Interval &interval, double amount, qint64 tag = 0);
 
     /**
+     * Forgets the readings of a counter before @p before that no slot of @p step seconds needs: all
+     * between the borders of a slot that are both known. Nothing between the borders can be asked
+     * for any more. Does nothing for a meter of amounts.
+     */
+    void thin(qint64 before, qint64 step);
+
+    /**
      * What was used in the interval. Of a counter: the difference of the readings at its two
      * borders. Of amounts: the sum of the rows, which must cover it without a gap and end at its
      * borders.

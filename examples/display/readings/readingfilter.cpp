@@ -3,7 +3,10 @@
 
 #include "readingfilter.h"
 
+#include "thinning.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace Readings {
 
@@ -23,6 +26,24 @@ void ReadingFilter::append(const Reading &reading)
         decide(suspect, reading);
     }
     accept(reading);
+}
+
+void ReadingFilter::thin(qint64 before, qint64 step)
+{
+    const auto isOld = [&](const Reading &reading) { return reading.instant < before; };
+    const auto oldEnd = std::find_if_not(keptReadings.begin(), keptReadings.end(),
+                                         [&](const Kept &kept) { return isOld(kept.reading); });
+    std::vector<Reading> old;
+    std::transform(keptReadings.begin(), oldEnd, std::back_inserter(old),
+                   [](const Kept &kept) { return kept.reading; });
+    const std::vector<bool> isDispensable = dispensable(old, step, mostPerHour);
+    std::size_t index = 0;
+    keptReadings.erase(std::remove_if(keptReadings.begin(), oldEnd,
+                                      [&](const Kept &) { return isDispensable[index++]; }),
+                       oldEnd);
+    discardedReadings.erase(
+        std::remove_if(discardedReadings.begin(), discardedReadings.end(), isOld),
+        discardedReadings.end());
 }
 
 double ReadingFilter::counted(const Kept &reading) const

@@ -54,6 +54,12 @@ public:
     /** Takes the next reading; its instant must lie after that of every earlier one. */
     void append(const Reading &reading);
 
+    /**
+     * Drops the readings before @p before that no sum by slots of @p step seconds needs, as told at
+     * dispensable(), and all that were discarded before it.
+     */
+    void thin(qint64 before, qint64 step);
+
     /** The right readings, in the order of time. */
     const std::vector<Kept> &kept() const { return keptReadings; }
     /** The wrong readings, in no order. */
