@@ -37,7 +37,7 @@ std::optional<double> CounterHistory::readingAt(qint64 instant) const
     if (found == filter.kept().cend()) {
         return std::nullopt;
     }
-    return found->reading.value;
+    return found->value;
 }
 
 std::optional<double> CounterHistory::amount(const Interval &interval) const
@@ -49,10 +49,11 @@ std::optional<double> CounterHistory::amount(const Interval &interval) const
     const KeptReading start = find(interval.from);
     const KeptReading end = find(interval.to);
     const KeptReading none = filter.kept().cend();
-    if (start == none || end == none || start->segment != end->segment) {
+    if (start == none || end == none
+        || filter.segmentOf(indexOf(start)) != filter.segmentOf(indexOf(end))) {
         return std::nullopt;
     }
-    return end->reading.value - start->reading.value;
+    return end->value - start->value;
 }
 
 double CounterHistory::total(const Interval &interval) const
@@ -60,13 +61,13 @@ double CounterHistory::total(const Interval &interval) const
     settle();
     const KeptReading start = notBefore(interval.from);
     KeptReading end = notBefore(interval.to);
-    if (end == filter.kept().cend() || end->reading.instant > interval.to) {
+    if (end == filter.kept().cend() || end->instant > interval.to) {
         if (end == filter.kept().cbegin()) {
             return 0.0;
         }
         --end;
     }
-    return start < end ? filter.counted(*end) - filter.counted(*start) : 0.0;
+    return start < end ? filter.counted(indexOf(end)) - filter.counted(indexOf(start)) : 0.0;
 }
 
 std::optional<qint64> CounterHistory::firstInstant() const
@@ -75,7 +76,7 @@ std::optional<qint64> CounterHistory::firstInstant() const
     if (filter.kept().empty()) {
         return std::nullopt;
     }
-    return filter.kept().front().reading.instant;
+    return filter.kept().front().instant;
 }
 
 std::optional<qint64> CounterHistory::lastInstant() const
@@ -84,14 +85,14 @@ std::optional<qint64> CounterHistory::lastInstant() const
     if (filter.kept().empty()) {
         return std::nullopt;
     }
-    return filter.kept().back().reading.instant;
+    return filter.kept().back().instant;
 }
 
 std::optional<Interval> CounterHistory::lastStepUntil(qint64 instant) const
 {
     settle();
     KeptReading end = notBefore(instant);
-    if (end == filter.kept().cend() || end->reading.instant > instant) {
+    if (end == filter.kept().cend() || end->instant > instant) {
         if (end == filter.kept().cbegin()) {
             return std::nullopt;
         }
@@ -100,7 +101,7 @@ std::optional<Interval> CounterHistory::lastStepUntil(qint64 instant) const
     if (end == filter.kept().cbegin()) {
         return std::nullopt;
     }
-    return Interval {(end - 1)->reading.instant, end->reading.instant};
+    return Interval {(end - 1)->instant, end->instant};
 }
 
 std::vector<Fault> CounterHistory::faults() const
@@ -123,9 +124,7 @@ void CounterHistory::settle() const
     }
     std::vector<Reading> all;
     all.reserve(filter.kept().size() + filter.discarded().size() + late.size() + 1);
-    for (const ReadingFilter::Kept &kept : filter.kept()) {
-        all.push_back(kept.reading);
-    }
+    all.insert(all.end(), filter.kept().cbegin(), filter.kept().cend());
     all.insert(all.end(), filter.discarded().cbegin(), filter.discarded().cend());
     if (filter.undecided()) {
         all.push_back(*filter.undecided());
@@ -152,16 +151,20 @@ void CounterHistory::settle() const
 
 CounterHistory::KeptReading CounterHistory::notBefore(qint64 instant) const
 {
-    return std::lower_bound(filter.kept().cbegin(), filter.kept().cend(), instant,
-                            [](const ReadingFilter::Kept &kept, qint64 wanted) {
-                                return kept.reading.instant < wanted;
-                            });
+    return std::lower_bound(
+        filter.kept().cbegin(), filter.kept().cend(), instant,
+        [](const Reading &kept, qint64 wanted) { return kept.instant < wanted; });
+}
+
+std::size_t CounterHistory::indexOf(KeptReading kept) const
+{
+    return std::size_t(kept - filter.kept().cbegin());
 }
 
 CounterHistory::KeptReading CounterHistory::find(qint64 instant) const
 {
     const KeptReading found = notBefore(instant);
-    if (found == filter.kept().cend() || found->reading.instant == instant) {
+    if (found == filter.kept().cend() || found->instant == instant) {
         return found;
     }
     return filter.kept().cend();

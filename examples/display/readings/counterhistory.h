@@ -39,11 +39,12 @@ public:
     std::vector<Fault> faults() const;
 
 private:
-    using KeptReading = std::vector<ReadingFilter::Kept>::const_iterator;
+    using KeptReading = std::vector<Reading>::const_iterator;
 
     void settle() const;
     KeptReading notBefore(qint64 instant) const;
     KeptReading find(qint64 instant) const;
+    std::size_t indexOf(KeptReading kept) const;
 
     double mostPerHour;
     // A file may be read in any order, and sorting at each row would make that quadratic: what

@@ -53,8 +53,9 @@ bool Meter::addAmount(const Interval &interval, double amount, qint64 tag)
 
 void Meter::thin(qint64 before, qint64 step)
 {
-    if (auto *counter = std::get_if<CounterHistory>(&history))
+    if (auto *counter = std::get_if<CounterHistory>(&history)) {
         counter->thin(before, step);
+    }
 }
 
 std::optional<double> Meter::amount(const Interval &interval) const

@@ -6,7 +6,6 @@
 #include "thinning.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace Readings {
 
@@ -31,24 +30,40 @@ void ReadingFilter::append(const Reading &reading)
 void ReadingFilter::thin(qint64 before, qint64 step)
 {
     const auto isOld = [&](const Reading &reading) { return reading.instant < before; };
-    const auto oldEnd = std::find_if_not(keptReadings.begin(), keptReadings.end(),
-                                         [&](const Kept &kept) { return isOld(kept.reading); });
-    std::vector<Reading> old;
-    std::transform(keptReadings.begin(), oldEnd, std::back_inserter(old),
-                   [](const Kept &kept) { return kept.reading; });
-    const std::vector<bool> isDispensable = dispensable(old, step, mostPerHour);
-    std::size_t index = 0;
-    keptReadings.erase(std::remove_if(keptReadings.begin(), oldEnd,
-                                      [&](const Kept &) { return isDispensable[index++]; }),
-                       oldEnd);
+    const auto oldEnd = std::find_if_not(keptReadings.cbegin(), keptReadings.cend(), isOld);
+    std::vector<bool> isDispensable =
+        dispensable({keptReadings.cbegin(), oldEnd}, step, mostPerHour);
+    isDispensable.resize(keptReadings.size(), false);
+
+    std::vector<Reading> needed;
+    auto segment = segments.begin();
+    for (std::size_t i = 0; i < keptReadings.size(); ++i) {
+        if (segment != segments.end() && segment->begin == i) {
+            segment->begin = needed.size();
+            ++segment;
+        }
+        if (!isDispensable[i]) {
+            needed.push_back(keptReadings[i]);
+        }
+    }
+    keptReadings = std::move(needed);
+    keptReadings.shrink_to_fit();
     discardedReadings.erase(
         std::remove_if(discardedReadings.begin(), discardedReadings.end(), isOld),
         discardedReadings.end());
 }
 
-double ReadingFilter::counted(const Kept &reading) const
+std::size_t ReadingFilter::segmentOf(std::size_t index) const
 {
-    return reading.reading.value + segmentOffsets[static_cast<std::size_t>(reading.segment)];
+    const auto next =
+        std::upper_bound(segments.cbegin(), segments.cend(), index,
+                         [](std::size_t at, const Segment &segment) { return at < segment.begin; });
+    return std::size_t(next - segments.cbegin()) - 1;
+}
+
+double ReadingFilter::counted(std::size_t index) const
+{
+    return keptReadings[index].value + segments[segmentOf(index)].offset;
 }
 
 bool ReadingFilter::follows(const Reading &earlier, const Reading &later) const
@@ -61,7 +76,7 @@ bool ReadingFilter::follows(const Reading &earlier, const Reading &later) const
 // Decides about a reading that did not follow from the last one kept.
 void ReadingFilter::decide(const Reading &suspect, const Reading &next)
 {
-    const Reading last = keptReadings.back().reading;
+    const Reading last = keptReadings.back();
     const bool stepsBack = suspect.value < last.value;
     const bool nextFollowsLast = follows(last, next);
     if (stepsBack) {
@@ -90,9 +105,9 @@ void ReadingFilter::decide(const Reading &suspect, const Reading &next)
 void ReadingFilter::accept(const Reading &reading)
 {
     if (keptReadings.empty()) {
-        segmentOffsets.push_back(0.0);
+        segments.push_back({0, 0.0});
         keep(reading);
-    } else if (follows(keptReadings.back().reading, reading)) {
+    } else if (follows(keptReadings.back(), reading)) {
         keep(reading);
     } else {
         waiting = reading;
@@ -101,12 +116,12 @@ void ReadingFilter::accept(const Reading &reading)
 
 void ReadingFilter::keep(const Reading &reading)
 {
-    keptReadings.push_back({reading, static_cast<int>(segmentOffsets.size()) - 1});
+    keptReadings.push_back(reading);
 }
 
 void ReadingFilter::keepAfterBreak(const Reading &reading)
 {
-    segmentOffsets.push_back(counted(keptReadings.back()) - reading.value);
+    segments.push_back({keptReadings.size(), counted(keptReadings.size() - 1) - reading.value});
     keep(reading);
     foundFaults.push_back({Fault::Kind::Break, reading.instant, reading.value, reading.tag});
 }
@@ -122,9 +137,8 @@ bool ReadingFilter::lastWasWrong(const Reading &suspect) const
     if (keptReadings.size() < 2) {
         return false;
     }
-    const Kept &last = keptReadings.back();
-    const Kept &lastButOne = keptReadings[keptReadings.size() - 2];
-    return lastButOne.segment == last.segment && follows(lastButOne.reading, suspect);
+    const std::size_t last = keptReadings.size() - 1;
+    return segmentOf(last - 1) == segmentOf(last) && follows(keptReadings[last - 1], suspect);
 }
 
 } // namespace Readings

@@ -37,13 +37,6 @@ struct Reading
 class ReadingFilter
 {
 public:
-    struct Kept
-    {
-        Reading reading;
-        /** Readings of different segments have a break between them. */
-        int segment = 0;
-    };
-
     /**
      * `mostPerHour` is the most that the counter can rise in an hour. The same rise is granted for
      * any shorter time: many meters hand on their count only once an hour, and a logger that stood
@@ -61,7 +54,9 @@ public:
     void thin(qint64 before, qint64 step);
 
     /** The right readings, in the order of time. */
-    const std::vector<Kept> &kept() const { return keptReadings; }
+    const std::vector<Reading> &kept() const { return keptReadings; }
+    /** The segment of kept()[index]; between two segments there is a break. */
+    std::size_t segmentOf(std::size_t index) const;
     /** The wrong readings, in no order. */
     const std::vector<Reading> &discarded() const { return discardedReadings; }
     /** The newest reading, while it is not decided whether it is right. */
@@ -69,10 +64,10 @@ public:
     const std::vector<Fault> &faults() const { return foundFaults; }
 
     /**
-     * What was counted from the first reading of all to this one, plus a constant: the breaks are
-     * taken out of it, so that the difference of two is what was counted in between.
+     * What was counted from the first reading of all to kept()[index], plus a constant: the breaks
+     * are taken out of it, so that the difference of two is what was counted in between.
      */
-    double counted(const Kept &reading) const;
+    double counted(std::size_t index) const;
 
 private:
     bool follows(const Reading &earlier, const Reading &later) const;
@@ -84,10 +79,16 @@ private:
     bool lastWasWrong(const Reading &suspect) const;
 
     double mostPerHour;
-    std::vector<Kept> keptReadings;
+    struct Segment
+    {
+        std::size_t begin; ///< index of its first reading
+        double offset; ///< from its readings to what was counted
+    };
+
+    std::vector<Reading> keptReadings;
     std::vector<Reading> discardedReadings;
     std::optional<Reading> waiting;
-    std::vector<double> segmentOffsets;
+    std::vector<Segment> segments; ///< there are few
     std::vector<Fault> foundFaults;
 };
 
