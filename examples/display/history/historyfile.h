@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef HISTORYFILE_H
+#define HISTORYFILE_H
+
+#include "household.h"
+
+#include <QSqlDatabase>
+#include <QString>
+#include <map>
+#include <optional>
+#include <vector>
+
+class QSqlQuery;
+
+/** What a register showed at an instant. */
+struct KeptReading
+{
+    Readings::Register meterRegister;
+    /** Seconds since 1970-01-01 UTC. */
+    qint64 instant = 0;
+    /** In the unit of the quantity; kept to a thousandth of it. */
+    double value = 0.0;
+};
+
+/**
+ * The SQLite file in which a household's readings are kept.
+ *
+ * A reading is there once for a register and an instant: the one that was written first holds.
+ * Values are whole numbers of Wh, dm³ or MJ. The table `register` names the registers as the
+ * columns of the program's own CSV format are called. Writing is safe against power cuts: when
+ * write() returns, a transaction is on the disk, or not there at all.
+ *
+ * Several programs may use one file at the same time.
+ */
+class HistoryFile
+{
+public:
+    /** What callers tell apart. */
+    enum class Trouble {
+        None,
+        Newer, ///< a later version of the program made the file
+        Damaged, ///< it is not, or no longer, what the program wrote
+        Unusable, ///< it can be neither made, read nor written: rights, space, a device that fails
+    };
+
+    /** The version of the tables that this program writes, `user_version` of the file. */
+    static constexpr int version = 1;
+
+    HistoryFile();
+    ~HistoryFile();
+    Q_DISABLE_COPY(HistoryFile)
+
+    /** Opens @p path, and makes it if it is not there; its directory must be there. */
+    Trouble open(const QString &path);
+    void close();
+
+    /** Enters all readings into @p household. With trouble, some of them may have been entered. */
+    Trouble read(Readings::Household *household);
+    /** Writes @p readings in one transaction. */
+    Trouble write(const std::vector<KeptReading> &readings);
+    /**
+     * Drops, in one transaction, the readings before @p before that slots of @p step seconds do not
+     * need, see Readings::dispensable(). What was thinned once is not looked at again.
+     */
+    Trouble thin(qint64 before, qint64 step);
+
+    /** Why the last call failed, in the words of the database. */
+    QString reason() const { return lastReason; }
+
+private:
+    Trouble fail(Trouble trouble, const QString &why);
+    Trouble fail(const QSqlQuery &query);
+    Trouble execute(const QString &statement);
+    Trouble number(const QString &statement, qint64 *answer);
+    Trouble makeTables();
+    Trouble learnRegisters();
+    Trouble addRegister(const Readings::Register &meterRegister);
+    template <typename Work>
+    Trouble inTransaction(Work work);
+    Trouble insert(const std::vector<KeptReading> &readings);
+    Trouble thinRegister(int id, double mostPerHour, qint64 from, qint64 to, qint64 step);
+
+    const QString connection;
+    QSqlDatabase database;
+    std::map<Readings::Register, int> idOf;
+    QString lastReason;
+};
+
+#endif
