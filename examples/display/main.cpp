@@ -63,8 +63,9 @@ std::unique_ptr<EnergySource> meterSource(const Options &options)
     P1Settings settings;
     // Pictures are of what a file says in the end.
     settings.speed = options.screenshots.isEmpty() ? options.speed : 0.0;
-    auto source = std::make_unique<MeterSource>(options.meter, settings);
+    auto source = std::make_unique<MeterSource>(options.meter, settings, options.history);
     QObject::connect(source.get(), &MeterSource::problem, source.get(), &printError);
+    source->prepare();
     return source;
 }
 

@@ -3,6 +3,7 @@
 
 #include "options.h"
 
+#include "historykeeper.h"
 #include "houseclock.h"
 
 #include <QCommandLineParser>
@@ -46,6 +47,13 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         QStringLiteral("Follow the P1 telegrams of a smart meter: a file, - for standard input, a "
                        "serial port as /dev/ttyUSB0, or host:port."),
         QStringLiteral("SOURCE"));
+    const QCommandLineOption data(
+        QStringLiteral("data"),
+        QStringLiteral("Keep the history of the meter in this directory, instead of %1.")
+            .arg(HistoryKeeper::defaultDirectory()),
+        QStringLiteral("DIR"));
+    const QCommandLineOption noHistory(QStringLiteral("no-history"),
+                                       QStringLiteral("Keep no history of the meter."));
     const QCommandLineOption speed(
         QStringLiteral("speed"),
         QStringLiteral("Let the simulated house, or a file of telegrams, run N times as fast."),
@@ -58,7 +66,7 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         QStringLiteral("screenshots"),
         QStringLiteral("Write each page and each chart as a PNG to this directory, and end."),
         QStringLiteral("DIR"));
-    parser.addOptions({readings, meter, speed, page, screenshots});
+    parser.addOptions({readings, meter, data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings."),
                                  QStringLiteral("[FILE...]"));
@@ -82,6 +90,12 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
                            .arg(parser.value(page), pages.join(QStringLiteral(", "))));
     }
 
+    if (parser.isSet(data) && parser.isSet(noHistory)) {
+        return refusal(QStringLiteral("--data and --no-history do not go together"));
+    }
+    if (parser.isSet(data) && parser.value(data).isEmpty()) {
+        return refusal(QStringLiteral("--data wants a directory"));
+    }
     if (parser.isSet(meter) && parser.isSet(readings)) {
         return refusal(QStringLiteral("--readings and --p1 do not go together"));
     }
@@ -93,8 +107,16 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
                            .arg(parser.value(speed)));
     }
 
+    // Pictures are a look at a meter, not a part of the household's life, unless it is asked for.
+    const bool keeps =
+        parser.isSet(data) || (!parser.isSet(noHistory) && !parser.isSet(screenshots));
+    const QString historyDirectory = !keeps ? QString()
+        : parser.isSet(data)                ? parser.value(data)
+                                            : HistoryKeeper::defaultDirectory();
+
     Options options;
     options.meter = parser.value(meter);
+    options.history = historyDirectory;
     options.speed = *factor;
     options.readings = parser.values(readings) + parser.positionalArguments();
     options.page = parser.value(page);

@@ -21,6 +21,7 @@ struct Options
 
     QStringList readings; ///< CSV files
     QString meter; ///< where a smart meter is to be followed; empty: no meter
+    QString history; ///< directory of the history of a meter; empty: it is not kept
     double speed = 1.0; ///< how much faster than the clock on the wall
     QString screenshots; ///< directory for the pictures of all pages; empty: show the display
     QString page; ///< the page to open; empty: the first

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void badSpeed_data();
     void badSpeed();
     void readingsAndMeterDoNotGoTogether();
+    void historyOptions_data();
+    void historyOptions();
     void liveHouseShowsEverything();
     void meterOfAFile();
     void meterThatIsNotThere();
@@ -78,8 +80,8 @@ void tst_DisplayProgram::help()
 {
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.status, 0);
-    for (const char *option :
-         {"--readings", "--p1", "--speed", "--screenshots", "--page", "--help", "--version"}) {
+    for (const char *option : {"--readings", "--p1", "--data", "--no-history", "--speed",
+                               "--screenshots", "--page", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QCOMPARE(result.errors, QString());
@@ -140,6 +142,25 @@ void tst_DisplayProgram::readingsAndMeterDoNotGoTogether()
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(QStringLiteral("--readings and --p1 do not go together")),
              qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::historyOptions_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("both") << QStringList({"--data", "here", "--no-history"})
+                          << QStringLiteral("--data and --no-history do not go together");
+    QTest::newRow("nowhere") << QStringList({"--data", ""})
+                             << QStringLiteral("--data wants a directory");
+}
+
+void tst_DisplayProgram::historyOptions()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    const Result result = run(arguments);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
 }
 
 void tst_DisplayProgram::liveHouseShowsEverything()

@@ -18,7 +18,8 @@ qint64 stepAfter(qint64 instant)
 
 } // namespace
 
-P1Recorder::P1Recorder(Household *recorded) : household(recorded)
+P1Recorder::P1Recorder(Household *recorded, Listener listener)
+    : household(recorded), entered(std::move(listener))
 {
     household->timeZone = p1TimeZone();
 }
@@ -74,6 +75,9 @@ void P1Recorder::enter(const Register &meterRegister, Latest &latest, qint64 ins
     if (latest.entered == instant) {
         return;
     }
-    household->meter(meterRegister, Meter::Kind::Counter).addReading(instant, latest.value);
     latest.entered = instant;
+    if (household->meter(meterRegister, Meter::Kind::Counter).addReading(instant, latest.value)
+        && entered) {
+        entered(meterRegister, instant, latest.value);
+    }
 }

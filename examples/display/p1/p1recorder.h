@@ -7,6 +7,7 @@
 #include "p1telegram.h"
 
 #include <QtGlobal>
+#include <functional>
 #include <map>
 #include <optional>
 
@@ -38,8 +39,11 @@ public:
      */
     static constexpr qint64 longestChannelSilence = 1200;
 
+    /** Hears of each reading that is entered: its register, instant and value. */
+    using Listener = std::function<void(const Readings::Register &, qint64, double)>;
+
     /** @p household must outlive the recorder; its clock becomes that of the meter. */
-    explicit P1Recorder(Readings::Household *household);
+    explicit P1Recorder(Readings::Household *household, Listener entered = nullptr);
 
     /**
      * Enters a telegram, and its power as the household's. A telegram with a problem changes
@@ -68,6 +72,7 @@ private:
     void enter(const Readings::Register &meterRegister, Latest &latest, qint64 instant);
 
     Readings::Household *household;
+    const Listener entered;
     std::map<Readings::Register, Latest> latestOf;
 };
 

@@ -6,14 +6,49 @@
 #include <QDateTime>
 #include <algorithm>
 
-MeterSource::MeterSource(const QString &address, const P1Settings &settings, QObject *parent)
-    : EnergySource(parent), recorder(&readings), meter(address, settings)
+namespace {
+
+P1Recorder::Listener listenerOf(HistoryKeeper *keeper)
 {
+    if (!keeper) {
+        return nullptr;
+    }
+    return [keeper](const Readings::Register &meterRegister, qint64 instant, double value) {
+        keeper->add(meterRegister, instant, value);
+    };
+}
+
+} // namespace
+
+MeterSource::MeterSource(const QString &address, const P1Settings &settings,
+                         const QString &historyDirectory, QObject *parent)
+    : EnergySource(parent),
+      keeper(historyDirectory.isEmpty() ? nullptr
+                                        : std::make_unique<HistoryKeeper>(historyDirectory)),
+      recorder(&readings, listenerOf(keeper.get())), meter(address, settings)
+{
+    if (keeper) {
+        connect(keeper.get(), &HistoryKeeper::problem, this, &MeterSource::problem);
+    }
     connect(&meter, &P1Source::telegram, this, &MeterSource::take);
     connect(&meter, &P1Source::problem, this, &MeterSource::problem);
     connect(&meter, &P1Source::ended, this, &MeterSource::ended);
     connect(&meter, &P1Source::meteringFailed, this,
             [this](bool failed) { Q_EMIT meteringChanged(!failed); });
+}
+
+MeterSource::~MeterSource() = default;
+
+void MeterSource::prepare()
+{
+    if (!keeper) {
+        return;
+    }
+    const auto collecting =
+        connect(keeper.get(), &HistoryKeeper::problem, this,
+                [this](const QString &line) { readings.problems.append(line); });
+    keeper->load(&readings);
+    disconnect(collecting);
 }
 
 void MeterSource::start()
@@ -56,6 +91,9 @@ void MeterSource::take(const P1Telegram &telegram)
     const qint64 step = now / P1Recorder::step;
     if (wasFirst || step != knownStep) {
         knownStep = step;
+        if (keeper) {
+            keeper->keep(now, &readings);
+        }
         Q_EMIT historyChanged();
     }
 }

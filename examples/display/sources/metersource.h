@@ -5,18 +5,31 @@
 #define METERSOURCE_H
 
 #include "energysource.h"
+#include "historykeeper.h"
 #include "p1recorder.h"
 #include "p1source.h"
 
-/** A smart meter on its P1 port. What it counts fills the charts from now on. */
+#include <memory>
+
+/**
+ * A smart meter on its P1 port. What it counts fills the charts from now on, and where a history is
+ * kept, from the first day on that it was followed.
+ */
 class MeterSource : public EnergySource
 {
     Q_OBJECT
 
 public:
-    /** @p address and @p settings as at P1Source. */
-    MeterSource(const QString &address, const P1Settings &settings, QObject *parent = nullptr);
+    /**
+     * @p address and @p settings as at P1Source. The history is kept in @p historyDirectory, see
+     * HistoryKeeper; if it is empty, nothing is kept.
+     */
+    MeterSource(const QString &address, const P1Settings &settings, const QString &historyDirectory,
+                QObject *parent = nullptr);
+    ~MeterSource() override;
 
+    /** Reads the history; what is wrong with it is in household().problems as well. */
+    void prepare() override;
     void start() override;
     const Readings::Household &household() const override { return readings; }
     std::optional<PowerReport> power() const override;
@@ -31,6 +44,7 @@ private:
     void take(const P1Telegram &telegram);
 
     Readings::Household readings;
+    const std::unique_ptr<HistoryKeeper> keeper;
     P1Recorder recorder;
     P1Source meter;
     double mostDelivered = 0.0; ///< watts

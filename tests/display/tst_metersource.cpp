@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "metersource.h"
+#include "p1samples.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Readings;
+
+namespace {
+
+constexpr Register importLow {Quantity::GridImport, Tariff::Low};
+constexpr qint64 hour = 3600;
+constexpr qint64 pace = 10; // seconds from telegram to telegram
+constexpr int patience = 300000; // ms, for what hangs
+const qint64 ten = utc("2024-06-01T10:00:00");
+
+double counterAt(qint64 instant)
+{
+    return 1000.0 + double((instant - ten) / pace) / 1000.0;
+}
+
+} // namespace
+
+/** A smart meter's readings, and their history. */
+class tst_MeterSource : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void historyIsThereAfterTheNextStart();
+    void historyGoesOn();
+    void withoutADirectoryNothingIsKept();
+    void troubleIsAProblemOfTheHousehold();
+
+private:
+    /** Plays telegrams from @p from to @p to into a source that is then gone. */
+    void play(qint64 from, qint64 to, const QString &history);
+    QString historyDirectory() const { return directory->filePath(QStringLiteral("history")); }
+
+    std::unique_ptr<QTemporaryDir> directory;
+};
+
+void tst_MeterSource::init()
+{
+    directory = std::make_unique<QTemporaryDir>();
+    QVERIFY(directory->isValid());
+}
+
+void tst_MeterSource::play(qint64 from, qint64 to, const QString &history)
+{
+    QFile file(directory->filePath(QStringLiteral("telegrams")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (qint64 at = from; at <= to; at += pace) {
+        file.write(telegramAt(at, counterAt(at), 400));
+    }
+    file.close();
+    MeterSource source(file.fileName(), P1Settings(), history);
+    QSignalSpy ended(&source, &MeterSource::ended);
+    QSignalSpy problems(&source, &MeterSource::problem);
+    source.prepare();
+    source.start();
+    QVERIFY(ended.wait(patience));
+    QCOMPARE(problems.count(), 0);
+}
+
+void tst_MeterSource::historyIsThereAfterTheNextStart()
+{
+    play(ten, ten + 3 * hour + 200, historyDirectory());
+
+    MeterSource source(QStringLiteral("/dev/null"), P1Settings(), historyDirectory());
+    source.prepare();
+    const Household &household = source.household();
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(
+            household.amount(Quantity::GridImport, {ten + i * hour, ten + (i + 1) * hour}),
+            std::optional<double>(counterAt(ten + (i + 1) * hour) - counterAt(ten + i * hour)));
+    }
+    QVERIFY(household.problems.isEmpty());
+    QCOMPARE(household.timeZone, QTimeZone("Europe/Amsterdam"));
+}
+
+void tst_MeterSource::historyGoesOn()
+{
+    play(ten, ten + hour, historyDirectory());
+    play(ten + hour + pace, ten + 2 * hour, historyDirectory());
+    MeterSource source(QStringLiteral("/dev/null"), P1Settings(), historyDirectory());
+    source.prepare();
+    QCOMPARE(source.household().amount(Quantity::GridImport, {ten, ten + 2 * hour}),
+             std::optional<double>(counterAt(ten + 2 * hour) - counterAt(ten)));
+    QVERIFY(source.household().meters.at(importLow).faults().empty());
+}
+
+void tst_MeterSource::withoutADirectoryNothingIsKept()
+{
+    play(ten, ten + hour, QString());
+    QCOMPARE(QDir(directory->path()).entryList(QDir::Files), QStringList("telegrams"));
+    MeterSource source(QStringLiteral("/dev/null"), P1Settings(), QString());
+    source.prepare();
+    QVERIFY(source.household().meters.empty());
+}
+
+void tst_MeterSource::troubleIsAProblemOfTheHousehold()
+{
+    QFile file(directory->filePath(QStringLiteral("file")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    MeterSource source(QStringLiteral("/dev/null"), P1Settings(), file.fileName());
+    source.prepare();
+    QCOMPARE(source.household().problems.size(), 1);
+    QVERIFY(source.household().problems.constFirst().contains("the history is not kept"));
+}
+
+QTEST_GUILESS_MAIN(tst_MeterSource)
+#include "tst_metersource.moc"
