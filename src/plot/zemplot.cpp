@@ -186,12 +186,12 @@ void ZEMPlot::setBackgroundGraphic(const QString &path)
 
 void ZEMPlot::setFontForScale(int axis, const QFont &font)
 {
-    // The widths of the labels are those of the present scale only after this.
-    updateAxes();
     QwtScaleWidget *const scale = axisWidget(axis);
     if (!scale) {
         return;
     }
+    // The widths of the labels are those of the present scale only after this.
+    updateAxes();
     scale->setFont(font);
     if (axis == QwtPlot::xBottom) {
         const int widestLabel = scale->scaleDraw()->maxLabelWidth(scale->font());

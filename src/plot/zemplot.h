@@ -28,11 +28,21 @@ class ZEMQwtPlotCurvePointGetter;
  * button, and asked for the point at a position. All of its looks come from a ZEMPlotStyler.
  *
  * @code
- * auto *plot = new ZEMPlot(&styler, page);
- * plot->init();
- * plot->addCurve(powerCurve, true);
- * auto *picker = new ZEMQwtPlotPointPicker(QStringLiteral("power"), plot,
- *                                          QwtEventPattern::MouseSelect1);
+ * #include <ZEMPlot>
+ * #include <ZEMQwtPlotPointPicker>
+ * #include <qwt_plot_curve.h>
+ *
+ * class PowerPlot : public ZEMPlot
+ * {
+ * public:
+ *     explicit PowerPlot(ZEMPlotStyler *styler) : ZEMPlot(styler)
+ *     {
+ *         init();
+ *         addCurve(new QwtPlotCurve(QStringLiteral("power")), true);
+ *         new ZEMQwtPlotPointPicker(QStringLiteral("power"), this,
+ *                                   QwtEventPattern::MouseSelect1);
+ *     }
+ * };
  * @endcode
  *
  * A plot has no legend, title or axis range of its own. Curves, markers and the grid are items of
@@ -42,7 +52,7 @@ class ZEMQwtPlotCurvePointGetter;
  * Slots of QwtPlot's own signals may delete the plot only with deleteLater().
  *
  * For zooming see ZEMPlotZoomerAdvanced, for picking ZEMQwtPlotPointPicker, for following the mouse
- * ZEMQwtPlotTracker.
+ * ZEMQwtPlotTracker, for fingers ZEMPlotTouchGuard.
  */
 class ZEM_EXPORT ZEMPlot : public QwtPlot
 {
@@ -50,7 +60,7 @@ class ZEM_EXPORT ZEMPlot : public QwtPlot
 
 public:
     /**
-     * Nothing is styled and there is no grid before init().
+     * Before init() nothing is styled, there is no grid, and the left button pans too.
      *
      * @param styler not null; the plot does not own it
      */
@@ -100,7 +110,10 @@ public:
     /** The first place of @p curve in the list, -1 if it is not there. */
     int getIndexOfCurve(QwtPlotCurve *curve) const;
 
-    /** Fills the canvas with @p color and, from now on, replots after every change. */
+    /**
+     * Fills the canvas with @p color, the rest of the plot with the ground of its palette and, from
+     * now on, replots after every change.
+     */
     void setBackgroundColor(QColor color);
 
     /** Makes all colours of the plot's palette from @p color, the colour of buttons. */

@@ -16,12 +16,21 @@ class ZEMPlot;
  * keeps the styler alive as long as a plot uses it; one styler may serve several plots.
  *
  * @code
+ * #include <ZEMPlot>
+ * #include <ZEMPlotStyler>
+ * #include <qwt_plot_curve.h>
+ * #include <qwt_plot_grid.h>
+ * #include <qwt_plot_marker.h>
+ *
  * class NightStyler final : public ZEMPlotStyler
  * {
  * public:
  *     void stylePlot(ZEMPlot *plot) override { plot->setBackgroundColor(Qt::black); }
  *     void styleGrid(QwtPlotGrid *grid) override { grid->setPen(Qt::darkGray, 0.0, Qt::DotLine); }
- *     void styleCurve(QwtPlotCurve *curve, int index) override { curve->setPen(colors[index]); }
+ *     void styleCurve(QwtPlotCurve *curve, int index) override
+ *     {
+ *         curve->setPen(index == 0 ? Qt::yellow : Qt::green);
+ *     }
  *     void styleMarker(QwtPlotMarker *marker) override { marker->setLinePen(Qt::white); }
  * };
  * @endcode
@@ -34,7 +43,10 @@ public:
     /** Called by ZEMPlot::restyle() for the plot itself, before its grid and its curves. */
     virtual void stylePlot(ZEMPlot *plot) = 0;
 
-    /** Called by ZEMPlot::restyle() for the grid, which is attached once the plot's init() ran. */
+    /**
+     * Called by ZEMPlot::restyle() for the grid, which is attached once the plot's init() ran; not
+     * called once the program has deleted it.
+     */
     virtual void styleGrid(QwtPlotGrid *grid) = 0;
 
     /**

@@ -18,7 +18,7 @@ class QwtPicker;
  * would take all zooming back. Derive from it to paint another one, and hand it to
  * ZEMPlotZoomer::setPickerDraw().
  *
- * The painter comes with pen and font of the picker; see QwtPicker::setRubberBandPen().
+ * The painter comes with the pen of the picker; see QwtPicker::setRubberBandPen().
  */
 class ZEM_EXPORT ZEMQwtPickerDraw
 {

@@ -20,10 +20,25 @@ class ZEMPlot;
  * along the curve or across the curves. Each plot has one: ZEMPlot::getCurvePointGetter().
  *
  * @code
- * auto found = plot->getCurvePointGetter()->getCurvePointByWidgetCoords(event->localPos());
- * if (found.valid) {
- *     label->setText(tr("%L1 W").arg(found.point.y()));
- * }
+ * #include <QMouseEvent>
+ * #include <ZEMPlot>
+ * #include <ZEMQwtPlotCurvePointGetter>
+ *
+ * class PowerPlot : public ZEMPlot
+ * {
+ * public:
+ *     using ZEMPlot::ZEMPlot;
+ *
+ * protected:
+ *     void mousePressEvent(QMouseEvent *event) override
+ *     {
+ *         const QPoint place = canvas()->mapFrom(this, event->pos());
+ *         const auto found = getCurvePointGetter()->getCurvePointByWidgetCoords(place);
+ *         if (found.valid) {
+ *             setTitle(tr("%L1 W").arg(found.point.y()));
+ *         }
+ *     }
+ * };
  * @endcode
  *
  * Made for evenly spaced samples in the order of their x, which begins at about 0: see

@@ -15,10 +15,14 @@
  * both ends, joined to its neighbours by a line between the ends of the tails.
  *
  * @code
+ * #include <ZEMQwtPlotHistogram>
+ * #include <qwt_plot.h>
+ *
+ * QwtPlot plot;
  * auto *bars = new ZEMQwtPlotHistogram;
  * bars->setStyle(QwtPlotCurve::UserCurve);
- * bars->setSamples(wattsByHour);
- * plot->addCurve(bars, true);
+ * bars->setSamples(QVector<QPointF> {{0.0, 240.0}, {1.0, 180.0}, {2.0, 950.0}}); // W by hour
+ * bars->attach(&plot); // or ZEMPlot::addCurve()
  * @endcode
  *
  * A bar is centred on its sample and as wide as the way to the next sample; the last one drawn is

@@ -15,14 +15,21 @@
  * edge, just below the marker's level, the x value at the bottom edge, just right of the marker.
  *
  * @code
+ * #include <ZEMQwtPlotMarker>
+ * #include <qwt_plot.h>
+ *
+ * QwtPlot plot;
  * auto *marker = new ZEMQwtPlotMarker;
  * marker->setLineStyle(QwtPlotMarker::Cross);
- * marker->setValue(found.point);
- * plot->addMarker(marker);
+ * marker->setLinePen(Qt::red);
+ * marker->setValue(12.0, 850.0);
+ * marker->attach(&plot); // or ZEMPlot::addMarker()
  * @endcode
  *
- * The texts have the pen of the lines and the font of the plot; QwtPlotMarker::label() is not
- * shown.
+ * With a line style the texts have the pen of the lines. Without one they have that of the canvas,
+ * and in any case its font: black and the font of the application while the canvas has its backing
+ * store, as by default; else its QPalette::WindowText and its own font. QwtPlotMarker::label() is
+ * not shown.
  */
 class ZEM_EXPORT ZEMQwtPlotMarker : public QwtPlotMarker
 {

@@ -20,10 +20,25 @@ class ZEMPlot;
  * a page. Drags and keys pick nothing; a tap beside all curves keeps the point that was picked.
  *
  * @code
- * auto *picker = new ZEMQwtPlotPointPicker(QStringLiteral("power"), plot,
- *                                          QwtEventPattern::MouseSelect1);
- * connect(picker, &ZEMQwtPlotPointPicker::selectedPlotPoint, this, &Page::showPoint);
- * connect(nextButton, &ZEMButton::clicked, picker, &ZEMQwtPlotPointPicker::pickNextPlotPoint);
+ * #include <QAbstractButton>
+ * #include <QLabel>
+ * #include <ZEMPlot>
+ * #include <ZEMQwtPlotPointPicker>
+ *
+ * class PowerPlot : public ZEMPlot
+ * {
+ * public:
+ *     PowerPlot(ZEMPlotStyler *styler, QAbstractButton *next, QLabel *text) : ZEMPlot(styler)
+ *     {
+ *         init();
+ *         auto *picker = new ZEMQwtPlotPointPicker(QStringLiteral("power"), this,
+ *                                                  QwtEventPattern::MouseSelect1);
+ *         connect(picker, &ZEMQwtPlotPointPicker::selectedPlotPoint, text,
+ *                 [text](const auto &picked) { text->setNum(picked.point.y()); });
+ *         connect(next, &QAbstractButton::clicked, picker,
+ *                 &ZEMQwtPlotPointPicker::pickNextPlotPoint);
+ *     }
+ * };
  * @endcode
  *
  * QwtPlotPicker has signals named selected, and this class a slot of that name: name the signals
@@ -38,7 +53,7 @@ class ZEM_EXPORT ZEMQwtPlotPointPicker : public QwtPlotPicker
 
 public:
     /**
-     * @param name for the program's own use
+     * @param name kept, and read by nothing
      * @param plot not null; its canvas owns the picker
      * @param pattern the mouse button that taps
      */

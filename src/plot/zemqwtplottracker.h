@@ -18,14 +18,24 @@ class ZEMPlot;
  * point lies under it. Which point that is says ZEMQwtPlotCurvePointGetter::getCurvePoint().
  *
  * @code
+ * #include <QLabel>
+ * #include <ZEMPlot>
+ * #include <ZEMQwtPlotTracker>
+ *
  * class ValueTracker : public ZEMQwtPlotTracker
  * {
- *     using ZEMQwtPlotTracker::ZEMQwtPlotTracker;
+ * public:
+ *     ValueTracker(ZEMPlot *plot, QLabel *label) : ZEMQwtPlotTracker(plot), bubble(label) { }
+ *
+ * protected:
  *     void curvePointValidChanged(bool valid) override { bubble->setVisible(valid); }
  *     void curvePointMoved(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point) override
  *     {
  *         bubble->setText(tr("%L1 W").arg(point.point.y()));
  *     }
+ *
+ * private:
+ *     QLabel *bubble;
  * };
  * @endcode
  *

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <qwt_plot.h>
+#include <qwt_plot_canvas.h>
 #include <qwt_text.h>
 
 #include <climits>
@@ -53,6 +54,8 @@ private Q_SLOTS:
     void ownLabelIsNotUsed();
     void settersDoNotReplot();
     void markerOnAPlot();
+    void penAndFontOnACanvas_data();
+    void penAndFontOnACanvas();
 };
 
 void tst_ZEMQwtPlotMarker::texts_data()
@@ -257,6 +260,52 @@ void tst_ZEMQwtPlotMarker::markerOnAPlot()
     }
     QCOMPARE(texts, QStringList({QStringLiteral("80.00"), QStringLiteral("100")}));
     QCOMPARE(device.points(Drawn::Line).size(), 2);
+}
+
+void tst_ZEMQwtPlotMarker::penAndFontOnACanvas_data()
+{
+    QTest::addColumn<bool>("hasLines");
+    QTest::addColumn<bool>("hasStore");
+    QTest::addColumn<QColor>("color");
+
+    QTest::newRow("lines, store") << true << true << QColor(Qt::red);
+    QTest::newRow("lines, no store") << true << false << QColor(Qt::red);
+    QTest::newRow("no lines, store") << false << true << QColor(Qt::black);
+    QTest::newRow("no lines, no store") << false << false << QColor(Qt::blue);
+}
+
+void tst_ZEMQwtPlotMarker::penAndFontOnACanvas()
+{
+    class Observed : public ZEMQwtPlotMarker
+    {
+    public:
+        mutable QColor color;
+        mutable QFont font;
+
+    protected:
+        void drawLabel(QPainter *painter, const QRectF &, const QPointF &) const override
+        {
+            color = painter->pen().color();
+            font = painter->font();
+        }
+    };
+    QFETCH(bool, hasLines);
+    QFETCH(bool, hasStore);
+    QwtPlot plot;
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, Qt::blue);
+    plot.setPalette(palette);
+    plot.canvas()->setFont(largeFont());
+    qobject_cast<QwtPlotCanvas *>(plot.canvas())
+        ->setPaintAttribute(QwtPlotCanvas::BackingStore, hasStore);
+    Observed marker;
+    marker.setLineStyle(hasLines ? QwtPlotMarker::Cross : QwtPlotMarker::NoLine);
+    marker.setLinePen(Qt::red);
+    marker.attach(&plot);
+    plot.resize(300, 200);
+    plot.grab();
+    QTEST(marker.color, "color");
+    QCOMPARE(marker.font.pixelSize(), hasStore ? QFont().pixelSize() : 22);
 }
 
 QTEST_MAIN(tst_ZEMQwtPlotMarker)
