@@ -13,13 +13,18 @@ namespace Lifetime {
 
 namespace {
 
+QPointer<QObject> victimOf(const Stage &stage)
+{
+    return stage.other ? stage.other : stage.object;
+}
+
 /** The slot that ends an object. */
 class Ender : public QObject
 {
     Q_OBJECT
 
 public:
-    Ender(const Stage &stage, End way) : page(stage.page), object(stage.object), end(way) { }
+    Ender(const Stage &stage, End way) : page(stage.page), victim(victimOf(stage)), end(way) { }
 
     bool wasCalled = false;
 
@@ -31,9 +36,9 @@ public Q_SLOTS:
         }
         wasCalled = true;
         if (end == End::DeleteLater) {
-            object->deleteLater();
+            victim->deleteLater();
         } else if (end == End::Delete) {
-            delete object;
+            delete victim;
         } else {
             delete page;
         }
@@ -41,7 +46,7 @@ public Q_SLOTS:
 
 private:
     QPointer<QWidget> page;
-    QPointer<QObject> object;
+    QPointer<QObject> victim;
     End end;
 };
 
@@ -81,6 +86,7 @@ QWidget *shownPage()
 QString endIn(Stage stage, const char *signal, End end)
 {
     const QMetaObject *metaObject = stage.object->metaObject();
+    const QPointer<QObject> victim = victimOf(stage);
     const int index = metaObject->indexOfSignal(QMetaObject::normalizedSignature(signal));
     if (index < 0) {
         return QStringLiteral("%1 has no signal %2")
@@ -92,13 +98,13 @@ QString endIn(Stage stage, const char *signal, End end)
                      ender.metaObject()->method(slot), Qt::DirectConnection);
     stage.act();
     deliverAllThatIsDue();
-    const bool livesOn = !stage.object.isNull();
+    const bool livesOn = !victim.isNull();
     delete stage.object;
     delete stage.page;
     if (!ender.wasCalled) {
         return QStringLiteral("%1 was not emitted").arg(QLatin1String(signal));
     }
-    return livesOn ? QStringLiteral("the object lives on") : QString();
+    return livesOn ? QStringLiteral("what should end lives on") : QString();
 }
 
 QStringList unheardSignals(const QMetaObject &metaObject, const QMetaObject &base,

@@ -21,7 +21,7 @@
  */
 namespace Lifetime {
 
-/** How a slot ends the object whose signal it hears. */
+/** How a slot ends the object whose signal it hears, or another one. */
 enum class End { Delete, DeleteLater, DeletePage };
 
 /** The name of @p end in the name of a row. */
@@ -37,16 +37,17 @@ struct Stage
     QPointer<QWidget> page; ///< goes with the stage, if it is still there
     QPointer<QObject> object;
     std::function<void()> act;
+    QPointer<QObject> other {}; ///< what ends, if it is not the object itself
 };
 
 /** A page of 640 by 480 pixels, shown and exposed. The caller owns it. */
 QWidget *shownPage();
 
 /**
- * Lets @p stage act, and ends its object in the first delivery of @p signal, which is
- * written like "sigSelect(QString)". Afterwards all that is still due is delivered. Returns what
- * went wrong: the signal is unknown or was not emitted, or the object lives on. Empty if all is
- * well.
+ * Lets @p stage act, and ends its object, or the other one, in the first delivery of @p signal of
+ * the object, which is written like "sigSelect(QString)". Afterwards all that is still due is
+ * delivered. Returns what went wrong: the signal is unknown or was not emitted, or what should end
+ * lives on. Empty if all is well.
  */
 QString endIn(Stage stage, const char *signal, End end);
 
