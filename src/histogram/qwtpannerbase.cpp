@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <optional>
 
@@ -198,6 +199,7 @@ bool QwtPannerBase::eventFilter(QObject *object, QEvent *event)
     if (!object || object != parentWidget()) {
         return false;
     }
+    const QPointer<QObject> parent = object;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         widgetMousePressEvent(static_cast<QMouseEvent *>(event));
@@ -217,7 +219,8 @@ bool QwtPannerBase::eventFilter(QObject *object, QEvent *event)
     default:
         break;
     }
-    return false;
+    // Qt would go on to deliver the event to a parent that a slot has deleted.
+    return parent.isNull();
 }
 
 void QwtPannerBase::widgetMousePressEvent(QMouseEvent *event)

@@ -34,6 +34,7 @@ class QMouseEvent;
  * lasted as long as clickDetectInterval() says.
  *
  * No setter changes a pan in progress except where it says so. Without a parent nothing happens.
+ * Panner and parent may be deleted in a slot of any signal of the panner.
  */
 class ZEM_EXPORT QwtPannerBase : public QWidget
 {
@@ -106,7 +107,7 @@ public:
      */
     void showCursor(bool on);
 
-    /** Always false: the parent sees every event too. */
+    /** False: the parent sees every event too. True only when a slot has deleted the parent. */
     bool eventFilter(QObject *object, QEvent *event) override;
 
 Q_SIGNALS:

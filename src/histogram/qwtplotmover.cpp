@@ -7,6 +7,8 @@
 #include "histogramplot_p.h"
 #include "objectname_p.h"
 
+#include <QPointer>
+
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_div.h>
@@ -199,7 +201,8 @@ void QwtPlotMover::moveCanvas(int dx, int dy)
     }
     movedPlot->setAutoReplot(autoReplot);
     movedPlot->replot();
-    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+    const QPointer<QwtPlotMover> self = this;
+    for (int axis = 0; self && axis < QwtPlot::axisCnt; ++axis) {
         if (d->axisEnabled[axis]) {
             Q_EMIT axisChanged(axis);
         }

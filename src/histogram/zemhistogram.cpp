@@ -19,6 +19,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QResizeEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
@@ -26,6 +27,7 @@
 #include <qwt_scale_engine.h>
 #include <qwt_scale_widget.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -51,6 +53,15 @@ int heightOfXScale(const QwtScaleWidget *scale)
     return scale->dimForLength(0, scale->font()) + margins.top() + margins.bottom();
 }
 
+/** A series of the chart, unless the host has deleted it. */
+struct OwnedSeries
+{
+    ZEMHistogramSeries *series;
+    std::weak_ptr<const void> life;
+
+    bool isAlive() const { return !life.expired(); }
+};
+
 QFont fontOfScale(const QWidget *scale, int pointSize)
 {
     QFont font = scale->font();
@@ -64,15 +75,55 @@ QFont fontOfScale(const QWidget *scale, int pointSize)
 class ZEMHistogram::Private
 {
 public:
+    explicit Private(ZEMHistogram *owner) : q(owner) { }
+
+    void watchMover()
+    {
+        if (q->mover) {
+            QObject::connect(q->mover, &QObject::destroyed, &context,
+                             [this] { q->mover = nullptr; });
+            watchCanvas();
+        }
+    }
+
+    /** The plot has its new canvas only when the old one is gone, and the mover with it. */
+    void watchCanvas()
+    {
+        QObject::connect(livingPlot->canvas(), &QObject::destroyed, &context, [this] {
+            if (livingPlot && q->mover) {
+                q->mover->setParent(livingPlot);
+                QTimer::singleShot(0, &context, [this] { takeCanvas(); });
+            }
+        });
+    }
+
+    /** Puts a mover that has lost its canvas on the one that the plot has now. */
+    void takeCanvas()
+    {
+        QWidget *canvas = livingPlot ? livingPlot->canvas() : nullptr;
+        if (!canvas || !q->mover || q->mover->parent() != livingPlot) {
+            return;
+        }
+        const bool listens = q->mover->isEnabled();
+        q->mover->setEnabled(false);
+        q->mover->setParent(canvas);
+        q->mover->setEnabled(listens);
+        watchCanvas();
+    }
+
+    ZEMHistogram *q;
+    QPointer<QwtPlot> livingPlot;
     QPointer<ZEMHistogram> parentHistogram;
     QPointer<ZEMHistogram> childHistogram;
-    QList<ZEMHistogramSeries *> series;
+    QList<OwnedSeries> series;
+    QObject context; ///< of connections that must end before the plot does
 };
 
 ZEMHistogram::ZEMHistogram(QWidget *parent)
     : QWidget(parent), plot(HistogramPlot::newPlot(this)), yAxisText(QStringLiteral("kWh")),
-      d(new Private)
+      d(new Private(this))
 {
+    d->livingPlot = plot;
     setObjectNameFromClass(this, staticMetaObject);
     resize(200, 200);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
@@ -84,9 +135,11 @@ ZEMHistogram::ZEMHistogram(QWidget *parent)
 
 ZEMHistogram::~ZEMHistogram()
 {
-    for (ZEMHistogramSeries *s : qAsConst(d->series)) {
-        s->detach();
-        delete s;
+    for (const OwnedSeries &owned : qAsConst(d->series)) {
+        if (owned.isAlive()) {
+            owned.series->detach();
+            delete owned.series;
+        }
     }
 }
 
@@ -118,6 +171,7 @@ void ZEMHistogram::init()
 {
     initAxis();
     setLookAndFeel();
+    d->watchMover();
 }
 
 void ZEMHistogram::setYAxisText(QString text)
@@ -176,23 +230,26 @@ QSize ZEMHistogram::sizeHint() const
 void ZEMHistogram::addSeries(ZEMHistogramSeries *s)
 {
     s->setZ(1.0);
-    d->series.append(s);
+    d->series.append({s, s->life()});
     s->attach(plot);
 }
 
 void ZEMHistogram::prependSeries(ZEMHistogramSeries *s)
 {
     s->setZ(0.0);
-    d->series.prepend(s);
+    d->series.prepend({s, s->life()});
     s->attach(plot);
 }
 
 void ZEMHistogram::delSeries(ZEMHistogramSeries *s)
 {
-    const int index = d->series.lastIndexOf(s);
-    if (index >= 0) {
+    const auto isTheOne = [s](const OwnedSeries &owned) {
+        return owned.series == s && owned.isAlive();
+    };
+    const auto found = std::find_if(d->series.crbegin(), d->series.crend(), isTheOne);
+    if (found != d->series.crend()) {
         s->detach();
-        d->series.removeAt(index);
+        d->series.removeAt(int(d->series.crend() - found) - 1);
         delete s;
     }
 }
@@ -200,13 +257,17 @@ void ZEMHistogram::delSeries(ZEMHistogramSeries *s)
 void ZEMHistogram::setScalePeriod(double period)
 {
     for (ZEMHistogram *histogram = this; histogram; histogram = histogram->getChild()) {
-        histogram->mover->setAxisPeriod(QwtPlot::xBottom, period);
+        if (histogram->mover) {
+            histogram->mover->setAxisPeriod(QwtPlot::xBottom, period);
+        }
     }
 }
 
 void ZEMHistogram::setScaleInterval(QwtInterval interval)
 {
-    mover->setAxisValidInterval(QwtPlot::xBottom, interval);
+    if (mover) {
+        mover->setAxisValidInterval(QwtPlot::xBottom, interval);
+    }
     if (d->childHistogram) {
         d->childHistogram->setScaleInterval(interval);
     }
@@ -225,13 +286,18 @@ void ZEMHistogram::setValueLimits(QwtInterval limits)
 
 void ZEMHistogram::setDataChangedTimestamp(QDateTime t)
 {
+    const QPointer<ZEMHistogram> self = this;
     dataChangedTimestamp = t;
     if (d->childHistogram) {
         d->childHistogram->setDataChangedTimestamp(t);
     }
-    updateTitle(plot->axisInterval(QwtPlot::xBottom));
-    // Its labels may tell dates; a replot paints an axis only when its scale is another one.
-    plot->axisWidget(QwtPlot::xBottom)->update();
+    if (self) {
+        updateTitle(plot->axisInterval(QwtPlot::xBottom));
+    }
+    if (self) {
+        // Its labels may tell dates; a replot paints an axis only when its scale is another one.
+        plot->axisWidget(QwtPlot::xBottom)->update();
+    }
 }
 
 QString ZEMHistogram::title()
@@ -242,10 +308,10 @@ QString ZEMHistogram::title()
 void ZEMHistogram::has_page(bool *prev, bool *next)
 {
     if (prev) {
-        *prev = mover->hasAxisPrevPeriod(QwtPlot::xBottom);
+        *prev = mover && mover->hasAxisPrevPeriod(QwtPlot::xBottom);
     }
     if (next) {
-        *next = mover->hasAxisNextPeriod(QwtPlot::xBottom);
+        *next = mover && mover->hasAxisNextPeriod(QwtPlot::xBottom);
     }
 }
 
@@ -294,17 +360,26 @@ void ZEMHistogram::syncAxis(int axis, QwtPlot *source)
 
 void ZEMHistogram::showPrevPeriod()
 {
-    mover->moveAxisPrevPeriod(QwtPlot::xBottom);
+    d->takeCanvas();
+    if (mover) {
+        mover->moveAxisPrevPeriod(QwtPlot::xBottom);
+    }
 }
 
 void ZEMHistogram::showNextPeriod()
 {
-    mover->moveAxisNextPeriod(QwtPlot::xBottom);
+    d->takeCanvas();
+    if (mover) {
+        mover->moveAxisNextPeriod(QwtPlot::xBottom);
+    }
 }
 
 void ZEMHistogram::showFirstPeriod()
 {
-    mover->moveAxisFirstPeriod(QwtPlot::xBottom);
+    d->takeCanvas();
+    if (mover) {
+        mover->moveAxisFirstPeriod(QwtPlot::xBottom);
+    }
 }
 
 void ZEMHistogram::resizeEvent(QResizeEvent *event)
@@ -362,10 +437,18 @@ void ZEMHistogram::setPlotLookAndFeel()
 
 void ZEMHistogram::axisChanged(int axis)
 {
+    const QPointer<ZEMHistogram> self = this;
     if (axis == QwtPlot::xBottom) {
         updateTitle(plot->axisInterval(QwtPlot::xBottom));
-        Q_EMIT has_page(mover->hasAxisPrevPeriod(QwtPlot::xBottom),
-                        mover->hasAxisNextPeriod(QwtPlot::xBottom));
+        if (self) {
+            bool hasPrev = false;
+            bool hasNext = false;
+            has_page(&hasPrev, &hasNext);
+            Q_EMIT has_page(hasPrev, hasNext);
+        }
+    }
+    if (!self) {
+        return;
     }
     if (ZEMHistogram *partner = d->childHistogram ? getChild() : getParent()) {
         partner->syncAxis(axis, plot);

@@ -44,8 +44,15 @@ class ZEMHistogramSeries;
  * Coordinates: x is QwtPlot::xBottom and counts slots, 0 is the first slot of the newest window and
  * older data has negative x; the value axis is QwtPlot::yLeft.
  *
- * Before init() there is no mover: setScalePeriod(), setScaleInterval(), has_page() and the three
- * paging slots must not be used.
+ * Before init() there is no mover: setScalePeriod(), setScaleInterval() and the three paging slots
+ * do nothing, and has_page() answers false.
+ *
+ * After init() the plot may be given another canvas, by QwtPlot::setCanvas(). Paging and dragging
+ * go on with it from where they were; its looks are up to the caller. A view on a canvas that is no
+ * QwtPlotCanvas stays where it is until there is one again. The plot itself goes with the chart,
+ * never before.
+ *
+ * A chart, its child and its parent may be deleted in a slot of any signal of theirs.
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */
@@ -93,7 +100,10 @@ public:
     /** The plot's hint; with a child, its width and height are added. */
     QSize sizeHint() const override;
 
-    /** Adds a series on top of the others. The chart owns it from now on. */
+    /**
+     * Adds a series on top of the others. The chart owns it from now on; a series that is deleted
+     * elsewhere leaves the chart.
+     */
     void addSeries(ZEMHistogramSeries *s);
     /** Adds a series beneath those that addSeries() added. The chart owns it from now on. */
     void prependSeries(ZEMHistogramSeries *s);
@@ -163,7 +173,23 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** The headline was worded anew: after a move and after setDataChangedTimestamp(). */
     void changed(ZEMHistogram *histogram);
-    /** The view was moved; whether a page lies before and after it now. */
+    /**
+     * The view was moved; whether a page lies before and after it now. Comes after changed(); both
+     * signals share their names with functions:
+     * @code
+     * #include <QLabel>
+     * #include <QPushButton>
+     * #include <ZEMSmartDayHistogram>
+     *
+     * ZEMSmartDayHistogram chart;
+     * QLabel headline;
+     * QPushButton older;
+     * QObject::connect(&chart, QOverload<ZEMHistogram *>::of(&ZEMHistogram::changed), &headline,
+     *                  [&headline](ZEMHistogram *changed) { headline.setText(changed->title()); });
+     * QObject::connect(&chart, QOverload<bool, bool>::of(&ZEMHistogram::has_page), &older,
+     *                  &QPushButton::setEnabled);
+     * @endcode
+     */
     void has_page(bool prev_hasPage, bool next_hasPage);
 
 protected:
@@ -179,7 +205,7 @@ protected:
     QwtPlot *plot; ///< the chart itself, a child widget
     QString titleText; ///< what title() returns
     QDateTime dataChangedTimestamp; ///< the date of x = 0
-    QwtPlotMover *mover = nullptr; ///< moves the canvas; null until setLookAndFeel()
+    QwtPlotMover *mover = nullptr; ///< moves the canvas; null until setLookAndFeel(), or if deleted
     QString yAxisText; ///< title of the value axis
 
 private Q_SLOTS:

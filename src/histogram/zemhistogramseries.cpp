@@ -34,6 +34,7 @@ public:
     }
 
     ZEMColumnSymbol *columnSymbol = nullptr;
+    const std::shared_ptr<const void> life = std::make_shared<char>();
 };
 
 ZEMHistogramSeries::ZEMHistogramSeries(const QString &title, bool iconColumns)
@@ -81,6 +82,11 @@ void ZEMHistogramSeries::setIcon(QString path)
         symbol->setIcon(path);
         itemChanged();
     }
+}
+
+std::weak_ptr<const void> ZEMHistogramSeries::life() const
+{
+    return d->life;
 }
 
 QWidget *ZEMHistogramSeries::legendItem() const

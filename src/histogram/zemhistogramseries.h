@@ -25,6 +25,7 @@ class QWidget;
  * series->setData(data); // a ZEMHistogramData, which the series owns from now on
  * chart->addSeries(series); // the chart owns the series
  * @endcode
+ * A series may also be deleted; it leaves its chart then.
  */
 class ZEM_EXPORT ZEMHistogramSeries : public QwtPlotHistogram
 {
@@ -65,6 +66,10 @@ protected:
 
 private:
     Q_DISABLE_COPY(ZEMHistogramSeries)
+
+    friend class ZEMHistogram;
+    /** Ends with the series. */
+    std::weak_ptr<const void> life() const;
 
     class Private;
     std::unique_ptr<Private> d;

@@ -88,9 +88,12 @@ public:
 
     void selectPeriod(ZEM::ZEMTab period, ButtonType button)
     {
+        const QPointer<ZEMHistogramWidget> self = q;
         currentPeriod = period;
         showCurrentPage();
-        Q_EMIT q->sigBtnClicked(button);
+        if (self) {
+            Q_EMIT self->sigBtnClicked(button);
+        }
     }
 
     void selectEnergy(ZEM::ZEMTab energy, ButtonType button)
@@ -101,6 +104,7 @@ public:
 
     void btnEnergyTypeclicked(ZEMEnergyIcon::Type type)
     {
+        const QPointer<ZEMHistogramWidget> self = q;
         ui.energyIcon->setEnergyType(type);
         qDebug() << "btnEnergyTypeclicked " << int(type);
         switch (type) {
@@ -120,7 +124,9 @@ public:
             selectEnergy(ZEM::TabSolar, BtnSolar);
             break;
         }
-        showCurrentPage();
+        if (self) {
+            showCurrentPage();
+        }
     }
 
     ZEMHistogram *currentHistogram() const
@@ -185,13 +191,18 @@ void ZEMHistogramWidget::selectTab(ZEM::ZEMTab period, ZEM::ZEMTab energy)
     if (ZEMButton *button = d->periodButton(period)) {
         button->setChecked(true);
     }
+    const QPointer<ZEMHistogramWidget> self = this;
     d->ui.btnEnergyTab->selectTab(energy);
-
+    if (!self) {
+        return;
+    }
     const int index = getHistogramIndex(period, energy);
     if (index >= 0) {
         d->ui.stackedWidget->setCurrentIndex(index);
-        // The stack tells of no change if it was there already.
-        pageChanged(index);
+        if (self) {
+            // The stack tells of no change if it was there already.
+            pageChanged(index);
+        }
     }
 }
 
@@ -245,8 +256,11 @@ void ZEMHistogramWidget::btnPrevPeriod_clicked()
     ZEMHistogram *hist = d->currentHistogram();
     qDebug() << "btnPrevPeriod_clicked()" << d->ui.stackedWidget->currentIndex() << hist;
     if (hist) {
+        const QPointer<ZEMHistogramWidget> self = this;
         hist->showPrevPeriod();
-        Q_EMIT sigBtnClicked(BtnPrevPeriod);
+        if (self) {
+            Q_EMIT sigBtnClicked(BtnPrevPeriod);
+        }
     }
 }
 
@@ -255,8 +269,11 @@ void ZEMHistogramWidget::btnNextPeriod_clicked()
     ZEMHistogram *hist = d->currentHistogram();
     qDebug() << "btnNextPeriod_clicked()" << d->ui.stackedWidget->currentIndex() << hist;
     if (hist) {
+        const QPointer<ZEMHistogramWidget> self = this;
         hist->showNextPeriod();
-        Q_EMIT sigBtnClicked(BtnNextPeriod);
+        if (self) {
+            Q_EMIT sigBtnClicked(BtnNextPeriod);
+        }
     }
 }
 
@@ -268,11 +285,14 @@ void ZEMHistogramWidget::histogramChanged(ZEMHistogram * /*hist*/)
 
 void ZEMHistogramWidget::pageChanged(int index)
 {
-    ZEMHistogram *hist = d->histograms.value(index);
-    qDebug() << "pageChanged()" << index << hist;
+    const QPointer<ZEMHistogram> hist = d->histograms.value(index);
+    qDebug() << "pageChanged()" << index << hist.data();
     if (hist) {
+        const QPointer<ZEMHistogramWidget> self = this;
         hist->showFirstPeriod();
-        pageChanged(hist);
+        if (self) {
+            pageChanged(hist.data());
+        }
     }
 }
 

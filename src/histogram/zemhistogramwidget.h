@@ -29,6 +29,8 @@ class ZEMHistogram;
  * brings the chart that comes into view back to its newest period; older ones are reached by
  * dragging the chart. A page without a chart is empty, and leaves the headline as it was.
  *
+ * The page and its charts may be deleted in a slot of any signal of theirs.
+ *
  * The page traces what it does with qDebug().
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().

@@ -8,6 +8,8 @@
 #include "periodaxes_p.h"
 #include "zemscaleengine.h"
 
+#include <QPointer>
+
 #include <qwt_plot.h>
 
 ZEMSmartMonthHistogram::xMonthScaleDraw::xMonthScaleDraw(double shift)
@@ -40,9 +42,10 @@ void ZEMSmartMonthHistogram::updateTitle(QwtInterval interval)
         titleText = QStringLiteral("%1 %2 %3").arg(start, tr("t/m"), end);
         break;
     }
+    const QPointer<ZEMHistogram> self = this;
     Q_EMIT changed(this);
 
-    if (getChild()) {
+    if (self && getChild()) {
         getChild()->updateTitle(interval);
     }
 }
