@@ -13,6 +13,9 @@ namespace {
 /** Steps that are never passed, so that a wrong step size does not fill the memory. */
 constexpr int maxSteps = 9999;
 
+/** Ticks between the major ones that are about never passed, for the same reason. */
+constexpr int maxMinorTicks = 500000;
+
 /** Part of a step below which a tick counts as the zero that rounding missed. */
 constexpr double zeroTolerance = 1.0e-6;
 
@@ -32,10 +35,10 @@ QwtScaleDiv ZEMScaleEngine::divideScale(double x1, double x2, int maxMajSteps, i
                                         double stepSize) const
 {
     const QwtInterval interval = QwtInterval(x1, x2).normalized();
-    if (!(interval.width() > 0.0)) {
+    if (!(interval.width() > 0.0) || !std::isfinite(interval.width())) {
         return QwtScaleDiv();
     }
-    stepSize = std::abs(stepSize);
+    stepSize = std::isfinite(stepSize) ? std::abs(stepSize) : 0.0;
     if (stepSize == 0.0) {
         stepSize = divideInterval(interval.width(), std::max(maxMajSteps, 1));
     }
@@ -54,10 +57,15 @@ QwtScaleDiv ZEMScaleEngine::divideScale(double x1, double x2, int maxMajSteps, i
 void ZEMScaleEngine::buildTicks(const QwtInterval &interval, double stepSize, int maxMinSteps,
                                 QList<double> *ticks) const
 {
+    if (!std::isfinite(interval.width()) || !std::isfinite(stepSize)) {
+        return;
+    }
     const QwtInterval bounding = align(interval, stepSize);
     ticks[QwtScaleDiv::MajorTick] = buildMajorTicks(bounding, stepSize);
     if (maxMinSteps > 0) {
-        buildMinorTicks(ticks[QwtScaleDiv::MajorTick], maxMinSteps, stepSize,
+        // Qwt makes about as many as it is told for each of the major ones.
+        const int mostSteps = std::max(maxMinorTicks / ticks[QwtScaleDiv::MajorTick].count(), 1);
+        buildMinorTicks(ticks[QwtScaleDiv::MajorTick], std::min(maxMinSteps, mostSteps), stepSize,
                         ticks[QwtScaleDiv::MinorTick], ticks[QwtScaleDiv::MediumTick]);
     }
     for (int type = 0; type < QwtScaleDiv::NTickTypes; ++type) {

@@ -8,7 +8,9 @@
 
 #include <qwt_plot.h>
 
+#include <climits>
 #include <cmath>
+#include <limits>
 
 using Ticks = QList<double>;
 
@@ -57,6 +59,11 @@ private Q_SLOTS:
     void weekIsDividedInItsMiddles();
     void dividesWithoutMinorSteps();
     void minorTicksFollowTheMajorOnes();
+    void endlessRangeHasNoTicks_data();
+    void endlessRangeHasNoTicks();
+    void endlessStepIsChosen_data();
+    void endlessStepIsChosen();
+    void minorTicksHaveALimit();
     void emptyRangeHasNoTicks_data();
     void emptyRangeHasNoTicks();
     void reversedRangeIsInverted();
@@ -163,6 +170,65 @@ void tst_ZEMScaleEngine::minorTicksFollowTheMajorOnes()
     QCOMPARE(
         minor(division),
         Ticks({4.0, 5.0, 7.0, 8.0, 10.0, 11.0, 13.0, 14.0, 16.0, 17.0, 19.0, 20.0, 22.0, 23.0}));
+}
+
+void tst_ZEMScaleEngine::endlessRangeHasNoTicks_data()
+{
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double largest = std::numeric_limits<double>::max();
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("to");
+    QTest::newRow("to infinity") << 0.0 << inf;
+    QTest::newRow("from infinity") << inf << 0.0;
+    QTest::newRow("from minus infinity") << -inf << 0.0;
+    QTest::newRow("all numbers") << -inf << inf;
+    QTest::newRow("no number") << nan << 1.0;
+    QTest::newRow("to no number") << 0.0 << nan;
+    QTest::newRow("wider than a number") << -largest << largest;
+}
+
+void tst_ZEMScaleEngine::endlessRangeHasNoTicks()
+{
+    QFETCH(double, from);
+    QFETCH(double, to);
+    const ZEMScaleEngine engine(0.5);
+    for (const double step : {0.0, 1.0, 1.0e300}) {
+        QVERIFY(engine.divideScale(from, to, 7, 2, step) == QwtScaleDiv());
+    }
+    Ticks ticks[QwtScaleDiv::NTickTypes];
+    engine.buildTicks(QwtInterval(from, to), 1.0, 2, ticks);
+    QVERIFY(ticks[QwtScaleDiv::MajorTick].isEmpty());
+    QVERIFY(ticks[QwtScaleDiv::MinorTick].isEmpty());
+}
+
+void tst_ZEMScaleEngine::endlessStepIsChosen_data()
+{
+    QTest::addColumn<double>("step");
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
+    QTest::newRow("minus infinite") << -std::numeric_limits<double>::infinity();
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
+}
+
+void tst_ZEMScaleEngine::endlessStepIsChosen()
+{
+    QFETCH(double, step);
+    const ZEMScaleEngine engine(0.5);
+    QVERIFY(engine.divideScale(0.0, 7.0, 7, 2, step) == engine.divideScale(0.0, 7.0, 7, 2));
+}
+
+void tst_ZEMScaleEngine::minorTicksHaveALimit()
+{
+    constexpr int atMost = 1000000;
+    const ZEMScaleEngine engine(0.0);
+    for (const int minSteps : {100000, std::numeric_limits<int>::max()}) {
+        for (const double step : {0.0001, 1.0}) {
+            const QwtScaleDiv division = engine.divideScale(0.0, 7.0, INT_MAX, minSteps, step);
+            QVERIFY(minor(division).count() + medium(division).count() <= atMost);
+            QVERIFY(!medium(division).isEmpty());
+        }
+    }
+    QCOMPARE(minor(engine.divideScale(0.0, 7.0, 7, 1000, 1.0)).count(), 7 * 998);
 }
 
 void tst_ZEMScaleEngine::emptyRangeHasNoTicks_data()
