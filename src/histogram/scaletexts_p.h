@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QString>
 
+class QwtScaleDraw;
 class ZEMDayScaleDraw;
 class ZEMKWhScaleDraw;
 class ZEMMonthScaleDraw;
@@ -37,6 +38,12 @@ public:
     static Source source(const ZEMDayScaleDraw &draw);
     static Source source(const ZEMWeekScaleDraw &draw);
     static Source source(const ZEMMonthScaleDraw &draw);
+
+    /**
+     * Drops the labels that @p draw keeps. The next replot lays its axis out and paints it, though
+     * its scale is the same.
+     */
+    static void renew(QwtScaleDraw *draw);
 
     static QString text(const ZEMKWhScaleDraw &draw, double value);
     static QString text(const ZEMDayScaleDraw &draw, double value);

@@ -10,12 +10,14 @@
 #include "quietaxes_p.h"
 #include "qwtplotmover.h"
 #include "scalelabels_p.h"
+#include "scaletexts_p.h"
 #include "zemhistogramlegend.h"
 #include "zemhistogramseries.h"
 #include "zemscaledraw.h"
 #include "zemstyle.h"
 
 #include <QBrush>
+#include <QLocale>
 #include <QPixmap>
 #include <QPointer>
 #include <QResizeEvent>
@@ -111,7 +113,21 @@ public:
         watchCanvas();
     }
 
+    /** Nobody is told of a new default locale, in which the labels are worded. */
+    void followLocale()
+    {
+        const QLocale locale;
+        if (locale == labelLocale) {
+            return;
+        }
+        labelLocale = locale;
+        for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+            ScaleTexts::renew(q->plot->axisScaleDraw(axis));
+        }
+    }
+
     ZEMHistogram *q;
+    QLocale labelLocale;
     QPointer<QwtPlot> livingPlot;
     QPointer<ZEMHistogram> parentHistogram;
     QPointer<ZEMHistogram> childHistogram;
@@ -160,6 +176,7 @@ void ZEMHistogram::setScaleDigits(int axisId, int digits)
 
 void ZEMHistogram::replot()
 {
+    d->followLocale();
     plot->replot();
     if (d->childHistogram) {
         d->childHistogram->replot();

@@ -72,9 +72,15 @@ public:
      * touch the scale; @p min and @p max are not read.
      */
     virtual void setAxisScale(int axisId, double min, double max, double step);
-    /** Sets the decimals of an axis that has a ZEMScaleDraw; other axes are left alone. */
+    /**
+     * Sets the decimals of an axis that has a ZEMScaleDraw; other axes are left alone. The labels
+     * follow at the next replot().
+     */
     virtual void setScaleDigits(int axisId, int digits);
-    /** Draws this chart and its child anew. To be called after feeding data. */
+    /**
+     * Draws this chart and its child anew. To be called after feeding data, and after a new default
+     * QLocale, in which the labels are worded then.
+     */
     virtual void replot();
     /** Second phase of the construction: initAxis(), then setLookAndFeel(). Call it once. */
     virtual void init();

@@ -10,6 +10,8 @@
 
 #include <qwt_text.h>
 
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -68,13 +70,26 @@ void ZEMScaleDraw::setDigits(int digits)
 {
     if (digits != d->digits) {
         d->digits = digits;
-        invalidateCache();
+        ScaleTexts::renew(this);
     }
 }
 
 int ZEMScaleDraw::getDigits() const
 {
     return d->digits;
+}
+
+void ScaleTexts::renew(QwtScaleDraw *draw)
+{
+    // To a plot an axis is as it was while its draw has the plot's scale. With one tick more, that
+    // is in no scale and drawn by nobody, it has another.
+    QwtScaleDiv scale = draw->scaleDiv();
+    QList<double> ticks = scale.ticks(QwtScaleDiv::MinorTick);
+    if (ticks.isEmpty() || !std::isnan(ticks.last())) {
+        ticks.append(std::numeric_limits<double>::quiet_NaN());
+        scale.setTicks(QwtScaleDiv::MinorTick, ticks);
+    }
+    draw->setScaleDiv(scale);
 }
 
 ZEMKWhScaleDraw::ZEMKWhScaleDraw(double)
@@ -183,8 +198,12 @@ ZEMMonthScaleDraw::~ZEMMonthScaleDraw() = default;
 
 void ZEMMonthScaleDraw::setStartTimestamp(QDateTime timestamp)
 {
+    const QDate date = d->startTimestamp.date();
     d->startTimestamp = std::move(timestamp);
     invalidateCache();
+    if (d->startTimestamp.date() != date) {
+        ScaleTexts::renew(this);
+    }
 }
 
 ScaleTexts::Source ScaleTexts::source(const ZEMMonthScaleDraw &draw)

@@ -15,13 +15,12 @@
 class ScaleTexts;
 
 /*
- * The scales of the charts. A scale draw given to a plot belongs to it:
- *
- *     plot->setAxisScaleDraw(QwtPlot::yLeft, new ZEMKWhScaleDraw(999.0));
- *     plot->setAxisScaleDraw(QwtPlot::xBottom, new ZEMWeekScaleDraw(0.5));
+ * The scales of the charts. A scale draw given to a plot belongs to it.
  *
  * Texts follow the default QLocale of the moment when they are made. Qwt keeps them; a setter that
- * says that it drops the kept texts repaints nothing, the next replot shows the new ones.
+ * says that it drops the kept texts repaints nothing, the next replot of the plot makes room for
+ * the new ones and paints them. After a new default QLocale the replot of a ZEMHistogram does so
+ * too; a plot of your own keeps its texts until it has another scale.
  */
 
 /** A scale that shows nothing: no backbone, no ticks, no labels. For an axis that must take part.
@@ -36,7 +35,18 @@ private:
     Q_DISABLE_COPY(ZEMNoScaleDraw)
 };
 
-/** A scale that knows a number of decimals. Its own labels do not use it, those of subclasses do.
+/**
+ * A scale that knows a number of decimals. Its own labels do not use it, those of subclasses do.
+ * @code
+ * #include <ZEMScaleDraw>
+ * #include <qwt_plot.h>
+ *
+ * QwtPlot plot;
+ * auto *draw = new ZEMKWhScaleDraw(999.0);
+ * plot.setAxisScaleDraw(QwtPlot::yLeft, draw);
+ * draw->setDigits(2);
+ * plot.replot();
+ * @endcode
  */
 class ZEM_EXPORT ZEMScaleDraw : public QwtScaleDraw
 {
@@ -136,7 +146,7 @@ public:
 
     /**
      * The first day of week 0; its time of day does not matter. Default: null, and empty labels.
-     * Drops the kept texts, always.
+     * Drops the kept texts, always; with the date of before the next replot paints no axis.
      */
     void setStartTimestamp(QDateTime timestamp);
 
