@@ -34,7 +34,7 @@ int main(int argc, char *argv[])
     chart->init();
     chart->setScalePeriod(7.0);
     chart->setScaleInterval(data->interval());
-    chart->setValueLimits(data->valueLimits());
+    chart->setValueLimits(data->valueLimits().extend(0.0));
     chart->addSeries(series);
     chart->setDataChangedTimestamp(QDateTime(QDate(2026, 11, 16), QTime(0, 0), Qt::UTC));
 

@@ -43,7 +43,7 @@ class ZEMMiniDayHistogram;
  * auto *totals = new ZEMTotalsTodayWidget(&page);
  * ZEMMiniDayHistogram *chart = totals->getTopHistogram();
  * chart->addSeries(series); // the chart takes ownership
- * chart->setValueLimits(QwtInterval(0.0, data->valueLimits().maxValue()));
+ * chart->setValueLimits(data->valueLimits().extend(0.0));
  * chart->replot();
  * QObject::connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, &page,
  *                  &QWidget::close);

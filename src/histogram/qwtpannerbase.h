@@ -23,9 +23,13 @@ class QMouseEvent;
  * It paints nothing, is never shown and keeps no event from the parent. Put one on any widget that
  * is to be dragged:
  * @code
- * auto *panner = new QwtPannerBase(canvas);
+ * #include <QwtPannerBase>
+ *
+ * QWidget map;
+ * auto *panner = new QwtPannerBase(&map);
  * panner->setDxSignalThreshold(5);
- * connect(panner, &QwtPannerBase::moved, this, &Page::shiftBy);
+ * QObject::connect(panner, &QwtPannerBase::moved, &map,
+ *                  [&map](int dx, int dy) { map.scroll(dx, dy); });
  * @endcode
  *
  * A pan starts with a press of the mouse button on the parent. Each time the finger has gone

@@ -18,7 +18,12 @@ class QwtPlotCanvas;
  * Moves the axes of a plot: by dragging its canvas, and by whole periods.
  *
  * @code
- * auto *mover = new QwtPlotMover(qobject_cast<QwtPlotCanvas *>(plot->canvas()));
+ * #include <QwtPlotMover>
+ * #include <qwt_plot.h>
+ * #include <qwt_plot_canvas.h>
+ *
+ * QwtPlot plot;
+ * auto *mover = new QwtPlotMover(qobject_cast<QwtPlotCanvas *>(plot.canvas()));
  * mover->setAxisEnabled(QwtPlot::yLeft, false);
  * mover->setAxisPeriod(QwtPlot::xBottom, 24.0);
  * mover->setAxisValidInterval(QwtPlot::xBottom, QwtInterval(-240.0, 24.0));

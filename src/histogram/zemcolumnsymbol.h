@@ -20,9 +20,13 @@ class QPainter;
  * ZEMHistogramSeries makes its own; take this class for another QwtPlotHistogram, which owns the
  * symbol that it is given:
  * @code
+ * #include <ZEMColumnSymbol>
+ * #include <qwt_plot_histogram.h>
+ *
+ * QwtPlotHistogram histogram;
  * auto *symbol = new ZEMColumnSymbol(QwtColumnSymbol::UserStyle);
- * symbol->setIcon(":/zem/graphics/gwe/icons/icon_el_12x16.png");
- * histogram->setSymbol(symbol);
+ * symbol->setIcon(QStringLiteral(":/zem/graphics/gwe/icons/icon_el_12x16.png"));
+ * histogram.setSymbol(symbol);
  * @endcode
  *
  * QwtColumnSymbol::Box is Qwt's plain box, with frame and without icon.

@@ -28,17 +28,28 @@ class ZEMHistogramSeries;
  *
  * A chart is set up in two phases, in this order:
  * @code
- * auto *chart = new ZEMSmartDayHistogram;
+ * #include <ZEMHistogramData>
+ * #include <ZEMHistogramSeries>
+ * #include <ZEMSmartDayHistogram>
+ *
+ * ZEMSmartDayHistogram chart;
  * auto *returned = new ZEMSmartDayHistogram;
  * returned->init();
- * chart->setChild(returned);             // before init()
- * chart->init();                         // no constructor calls it
- * chart->setScalePeriod(24.0);           // width of the view in slots
- * chart->setScaleInterval(data->interval());
- * chart->addSeries(series);
- * chart->setValueLimits(data->valueLimits());
- * chart->setDataChangedTimestamp(midnight);
- * chart->replot();                       // and again after feeding data
+ * chart.setChild(returned); // before init()
+ * chart.init();             // no constructor calls it
+ *
+ * auto *data = new ZEMHistogramData;
+ * data->setWindowSize(24);
+ * data->setNrWindows(31);
+ * auto *series = new ZEMHistogramSeries(QStringLiteral("used"), QBrush(Qt::cyan), false);
+ * series->setData(data);
+ * chart.addSeries(series);
+ *
+ * chart.setScalePeriod(24.0); // width of the view in slots
+ * chart.setScaleInterval(data->interval());
+ * chart.setValueLimits(data->valueLimits().extend(0.0)); // bars stand on 0
+ * chart.setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+ * chart.replot(); // and again after feeding data
  * @endcode
  *
  * Coordinates: x is QwtPlot::xBottom and counts slots, 0 is the first slot of the newest window and
@@ -128,8 +139,10 @@ public:
      */
     void setScaleInterval(QwtInterval interval);
     /**
-     * Fits the value axis of this chart, and not of its child, to @p limits rounded to whole steps;
-     * ZEMHistogramData::valueLimits() has the right form.
+     * Fits the value axis of this chart, and not of its child, to @p limits rounded to whole steps.
+     * Bars stand on 0, so give limits that hold it: ZEMHistogramData::valueLimits().extend(0.0).
+     * With the values' own limits the axis may begin at the smallest, and its bar is not seen.
+     * The axis follows at the next replot().
      */
     void setValueLimits(QwtInterval limits);
     /**

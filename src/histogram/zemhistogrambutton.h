@@ -17,14 +17,22 @@ class ZEMHistogram;
  * A chart on a large button with a title over it.
  *
  * @code
- * auto *tile = new ZEMHistogramButton(page);
- * tile->setTitle(tr("elektriciteit"));
+ * #include <ZEMHistogramButton>
+ * #include <ZEMMiniDayHistogram>
+ *
+ * QWidget page;
+ * auto *chart = new ZEMMiniDayHistogram;
+ * chart->init();
+ * auto *tile = new ZEMHistogramButton(&page);
+ * tile->setTitle(QStringLiteral("elektriciteit"));
  * tile->setHistogram(chart);
- * connect(tile, &ZEMHistogramButton::clicked, this, &Page::openCharts);
+ * QObject::connect(tile, &ZEMHistogramButton::clicked, &page, &QWidget::close);
  * @endcode
- * The button is as large as its picture, 322 by 152 pixels; the chart keeps 10 from its edges. A
- * chart that is dragged keeps the touches on its canvas for itself; a ZEMMiniDayHistogram leaves
- * them to the button.
+ * The button is as large as its picture, 322 by 152 pixels; the chart keeps 10 from its edges.
+ * Touches on the chart reach the button: a tap on a ZEMMiniDayHistogram clicks it, and so does a
+ * drag of a chart that can be dragged, which is moved as well. To keep a chart's touches from the
+ * button, set Qt::WA_NoMousePropagation on it. Button and chart may be deleted in a slot of
+ * clicked().
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */

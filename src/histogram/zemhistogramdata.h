@@ -25,15 +25,25 @@
  * negative x. Windows are numbered from 0, the oldest, to nrWindows() - 1, the newest.
  *
  * @code
+ * #include <ZEMHistogramData>
+ * #include <ZEMHistogramSeries>
+ * #include <ZEMSmartDayHistogram>
+ *
+ * ZEMSmartDayHistogram chart;
+ * chart.init();
+ * auto *series = new ZEMHistogramSeries(QStringLiteral("used"), QBrush(Qt::cyan), false);
+ * chart.addSeries(series);
+ *
+ * const double today[] = {0.3, 0.2, 0.2, 0.4};
  * auto *data = new ZEMHistogramData;
  * data->setWindowSize(24); // first the size, then the number
  * data->setCenterValue(0.1);
  * data->setNrWindows(31);
  * series->setData(data); // the series owns it from now on
- * data->setWindowValues(30, 0, 24, today, false);
- * chart->setScaleInterval(data->interval());
- * chart->setValueLimits(data->valueLimits());
- * chart->replot();
+ * data->setWindowValues(30, 0, 4, today, false);
+ * chart.setScaleInterval(data->interval());
+ * chart.setValueLimits(data->valueLimits().extend(0.0)); // bars stand on 0
+ * chart.replot();
  * @endcode
  *
  * The object tells nobody of a change: replot the chart after feeding. The series that it is given
@@ -134,7 +144,8 @@ public:
     QwtInterval interval(unsigned int window) const;
     /**
      * Smallest and largest value of all slots. An empty slot counts as 0.0, a NaN does not count
-     * beside a number. 0.0 to 0.0 when there is no slot.
+     * beside a number. 0.0 to 0.0 when there is no slot. For a value axis extend it to 0.0, on
+     * which the bars stand.
      */
     QwtInterval valueLimits() const;
     /** What setRectOfInterest() was given last; (0, 0, 0, 0) when new. */

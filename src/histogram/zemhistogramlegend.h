@@ -19,8 +19,12 @@ class QwtPlot;
  *
  * The charts of the library have one. For a plot of your own, place it where you like:
  * @code
- * auto *legend = new ZEMHistogramLegend(page);
- * ZEMHistogramLegend::connectToPlot(plot, legend);
+ * #include <ZEMHistogramLegend>
+ * #include <qwt_plot.h>
+ *
+ * QwtPlot plot;
+ * ZEMHistogramLegend legend;
+ * ZEMHistogramLegend::connectToPlot(&plot, &legend);
  * @endcode
  * or let the plot place it, with QwtPlot::insertLegend(), which needs no connectToPlot().
  *

@@ -21,9 +21,17 @@ class QWidget;
  * wanted, and an entry in the legend under the chart.
  *
  * @code
- * auto *series = new ZEMHistogramSeries(tr("Verbruik"), style.color(ZEMStyle::SkyBlue), false);
- * series->setData(data); // a ZEMHistogramData, which the series owns from now on
- * chart->addSeries(series); // the chart owns the series
+ * #include <ZEMHistogramData>
+ * #include <ZEMHistogramSeries>
+ * #include <ZEMSmartDayHistogram>
+ * #include <ZEMStyle>
+ *
+ * ZEMSmartDayHistogram chart;
+ * chart.init();
+ * const QColor blue = ZEMStyle(nullptr).color(ZEMStyle::SkyBlue);
+ * auto *series = new ZEMHistogramSeries(QStringLiteral("Verbruik"), blue, false);
+ * series->setData(new ZEMHistogramData); // the series owns it from now on
+ * chart.addSeries(series);               // the chart owns the series
  * @endcode
  * A series may also be deleted; it leaves its chart then.
  */
@@ -34,6 +42,9 @@ public:
     ZEMHistogramSeries(const QString &title, bool iconColumns);
     /** As above, in the colour of @p brush. */
     ZEMHistogramSeries(const QString &title, const QBrush &brush, bool iconColumns);
+    /** Not for a colour, a number or a pointer, which would pass for an @p iconColumns of true. */
+    template <typename NoBool>
+    ZEMHistogramSeries(const QString &title, NoBool iconColumns) = delete;
     ~ZEMHistogramSeries() override;
 
     /**
@@ -42,11 +53,15 @@ public:
      */
     void init(QwtColumnSymbol::Style style);
 
-    /** Colour of the columns and of the square in the legend. Asks the plot for a replot. */
+    /**
+     * Colour of the columns and of the square in the legend. The legend shows it at once, the
+     * columns at the plot's next replot, which only a plot with autoReplot() makes by itself; that
+     * of a chart is off.
+     */
     void setColor(const QBrush &brush);
     /**
      * Path of the picture that columns wider than it show in their middle; only with icon columns.
-     * A path that cannot be read means no icon. Asks the plot for a replot.
+     * A path that cannot be read means no icon. Shows at the next replot, as setColor().
      */
     void setIcon(QString path);
 

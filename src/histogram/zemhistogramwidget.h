@@ -19,11 +19,24 @@ class ZEMHistogram;
  * the icon of its energy, its headline and tabs for the period, and above tabs for the energy.
  *
  * @code
- * auto *page = new ZEMHistogramWidget(this);
- * page->setHistogram(ZEM::TabDay, ZEM::TabElectricity, dayChart); // after dayChart->init()
- * page->setHistogram(ZEM::TabWeek, ZEM::TabElectricity, weekChart);
- * page->showTabs(ZEM::TabDay | ZEM::TabWeek | ZEM::TabElectricity);
- * page->selectTab(ZEM::TabDay, ZEM::TabElectricity);
+ * #include <ZEMHistogramWidget>
+ * #include <ZEMSmartDayHistogram>
+ * #include <ZEMSmartWeekHistogram>
+ *
+ * auto *dayChart = new ZEMSmartDayHistogram;
+ * dayChart->init();
+ * dayChart->setScalePeriod(24.0);
+ * dayChart->setScaleInterval(QwtInterval(-240.0, 24.0));
+ * auto *weekChart = new ZEMSmartWeekHistogram;
+ * weekChart->init();
+ * weekChart->setScalePeriod(7.0);
+ * weekChart->setScaleInterval(QwtInterval(-70.0, 7.0));
+ *
+ * ZEMHistogramWidget page;
+ * page.setHistogram(ZEM::TabDay, ZEM::TabElectricity, dayChart);
+ * page.setHistogram(ZEM::TabWeek, ZEM::TabElectricity, weekChart);
+ * page.showTabs({ZEM::TabDay, ZEM::TabWeek, ZEM::TabElectricity});
+ * page.selectTab(ZEM::TabDay, ZEM::TabElectricity);
  * @endcode
  * A new page shows all tabs, with those of day and electricity checked. Each change of the page
  * brings the chart that comes into view back to its newest period; older ones are reached by

@@ -15,11 +15,23 @@
  *
  * A ZEMTotalsTodayWidget comes with two. On its own:
  * @code
- * auto *chart = new ZEMMiniDayHistogram(button);
- * chart->init();
- * chart->addSeries(series); // with data of one window of 24 slots
- * chart->setValueLimits(data->valueLimits());
- * chart->replot();
+ * #include <ZEMHistogramData>
+ * #include <ZEMHistogramSeries>
+ * #include <ZEMMiniDayHistogram>
+ *
+ * const double hours[] = {0.3, 0.2, 0.2, 0.4};
+ * auto *data = new ZEMHistogramData;
+ * data->setWindowSize(24);
+ * data->setNrWindows(1);
+ * data->setWindowValues(0, 0, 4, hours, false);
+ * auto *series = new ZEMHistogramSeries(QStringLiteral("used"), QBrush(Qt::cyan), false);
+ * series->setData(data);
+ *
+ * ZEMMiniDayHistogram chart;
+ * chart.init();
+ * chart.addSeries(series);
+ * chart.setValueLimits(data->valueLimits().extend(0.0)); // bars stand on 0
+ * chart.replot();
  * @endcode
  * The value axis reaches from 0 to 10 until setValueLimits(). changed(ZEMHistogram *) is never
  * emitted.

@@ -8,6 +8,7 @@
 #include <ZEMButton>
 #include <ZEMHistogramButton>
 #include <ZEMMiniDayHistogram>
+#include <ZEMSmartDayHistogram>
 #include <ZEMWidgetLabel>
 
 #include <QPointer>
@@ -17,6 +18,19 @@
 
 using namespace DashboardTest;
 using namespace WidgetTest;
+
+namespace {
+
+void dragAcross(const ZEMHistogram *chart)
+{
+    auto *canvas = chart->findChild<QwtPlotCanvas *>();
+    const QPoint from = canvas->visibleRegion().boundingRect().center();
+    ZemTest::press(canvas, from);
+    ZemTest::moveTo(canvas, from + QPoint(20, 0));
+    ZemTest::release(canvas, from + QPoint(20, 0));
+}
+
+} // namespace
 
 class tst_ZEMHistogramButton : public QObject
 {
@@ -33,6 +47,8 @@ private Q_SLOTS:
     void secondChartStandsBesideTheFirst();
     void clickIsPassedOn();
     void clickOnTheChartIsOneOnTheButton();
+    void dragOfAChartMovesItAndClicksTheButton();
+    void chartWithoutPropagationKeepsItsTouches();
     void clickOnTheTitleIsNone();
 };
 
@@ -148,6 +164,39 @@ void tst_ZEMHistogramButton::clickOnTheChartIsOneOnTheButton()
     ZemTest::press(canvas, canvas->rect().center());
     ZemTest::release(canvas, canvas->rect().center());
     QCOMPARE(clicked.count(), 1);
+}
+
+void tst_ZEMHistogramButton::dragOfAChartMovesItAndClicksTheButton()
+{
+    ZEMHistogramButton button;
+    auto *chart = new ZEMSmartDayHistogram;
+    chart->init();
+    chart->setScalePeriod(24.0);
+    button.setHistogram(chart);
+    const Stage stage(&button);
+    QVERIFY(stage.isReady());
+    QSignalSpy clicked(&button, &ZEMHistogramButton::clicked);
+    QSignalSpy moved(chart, QOverload<ZEMHistogram *>::of(&ZEMHistogram::changed));
+    dragAcross(chart);
+    QVERIFY(moved.count() > 0);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_ZEMHistogramButton::chartWithoutPropagationKeepsItsTouches()
+{
+    ZEMHistogramButton button;
+    auto *chart = new ZEMSmartDayHistogram;
+    chart->init();
+    chart->setScalePeriod(24.0);
+    chart->setAttribute(Qt::WA_NoMousePropagation);
+    button.setHistogram(chart);
+    const Stage stage(&button);
+    QVERIFY(stage.isReady());
+    QSignalSpy clicked(&button, &ZEMHistogramButton::clicked);
+    QSignalSpy moved(chart, QOverload<ZEMHistogram *>::of(&ZEMHistogram::changed));
+    dragAcross(chart);
+    QVERIFY(moved.count() > 0);
+    QCOMPARE(clicked.count(), 0);
 }
 
 void tst_ZEMHistogramButton::clickOnTheTitleIsNone()
