@@ -27,7 +27,8 @@
  *                  [](ZEMEnergyIcon::Type energy) { qDebug() << energy; });
  * tabs.show();
  * @endcode
- * A new row shows all five; electricity is checked.
+ * A new row shows all five; electricity is checked. It is 289 by 50 pixels; a layout gives it the
+ * width of its tabs, 295 for all five, and the height of one.
  */
 class ZEM_EXPORT ZEMEnergyTabWidget : public QWidget
 {
