@@ -23,8 +23,8 @@ class ZEMQwtPickerDraw;
  *
  * A selection may be one pixel wide as long as it is longer in the other direction; one without any
  * extent does nothing. So a finger that trembles zooms far: in a ZEMPlotZoomerAdvanced a drag of
- * one pixel along an axis goes to the least size at once, by default a 100,000th of the base. The
- * rubber band is painted by a ZEMQwtPickerDraw.
+ * one pixel to the right or downward goes to the least size at once, by default a 100,000th of the
+ * base; see ZEMPlotTouchGuard. The rubber band is painted by a ZEMQwtPickerDraw.
  *
  * The slots of zoomed(), selected(QRectF) and moved(QPointF) may delete the zoomer and its plot;
  * those of the other signals, as always with Qwt, only with deleteLater().
