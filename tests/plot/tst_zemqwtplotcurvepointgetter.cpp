@@ -244,7 +244,10 @@ void tst_ZEMQwtPlotCurvePointGetter::curvesWithoutSamplesAreSkipped()
 void tst_ZEMQwtPlotCurvePointGetter::detachedCurveIsSkipped()
 {
     const std::unique_ptr<QwtPlotCurve> curve(stage->addCurve(levelRow(wholeRow, 100.0)));
-    curve->detach();
+    // Listed twice and removed once: the only way to be listed and on no plot.
+    stage->plot->addCurve(curve.get(), false);
+    stage->plot->removeCurve(curve.get());
+    QVERIFY(!curve->plot());
     QCOMPARE(getter->getNumCurves(), 1);
     QVERIFY(!getter->getCurvePoint(QPointF(100.0, 100.0)).valid);
 }
