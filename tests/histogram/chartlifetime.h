@@ -55,6 +55,31 @@ inline QwtPlotMover *moverOf(const ZEMHistogram *chart)
     return canvasOf(chart)->findChild<QwtPlotMover *>();
 }
 
+/**
+ * A page with a layout. It stands on a plain widget, because the offscreen platform warns of top
+ * level widgets that have size limits.
+ */
+inline QWidget *newPage()
+{
+    QWidget *page = Lifetime::shownPage();
+    auto *ground = new QWidget(page);
+    new QVBoxLayout(ground);
+    ground->resize(page->size());
+    ground->show();
+    return page;
+}
+
+inline QLayout *layoutOf(const QWidget *page)
+{
+    return page->findChild<QLayout *>();
+}
+
+inline void showAll(QWidget *page)
+{
+    layoutOf(page)->activate();
+    QCoreApplication::processEvents();
+}
+
 inline ZEMHistogramSeries *newSeries()
 {
     auto *data = new ZEMHistogramData;
@@ -68,25 +93,12 @@ inline ZEMHistogramSeries *newSeries()
 /** Makes a chart ready for paging from -3 periods on, and shows it on its page. */
 inline void setUp(ZEMHistogram *chart, QWidget *page)
 {
-    page->layout()->addWidget(chart);
+    layoutOf(page)->addWidget(chart);
     chart->init();
     chart->addSeries(newSeries());
     chart->setScalePeriod(period);
     chart->setScaleInterval(QwtInterval(-3 * period, period));
     chart->setDataChangedTimestamp(midnight());
-}
-
-inline QWidget *newPage()
-{
-    QWidget *page = Lifetime::shownPage();
-    new QVBoxLayout(page);
-    return page;
-}
-
-inline void showAll(QWidget *page)
-{
-    page->layout()->activate();
-    QCoreApplication::processEvents();
 }
 
 /** A finger that moves on @p widget to the right, as long as there is something under it. */

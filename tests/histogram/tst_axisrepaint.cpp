@@ -47,7 +47,7 @@ private:
         auto *plot = new QwtPlot;
         plot->setAxisScaleDraw(axis, draw);
         plot->setAxisScale(axis, 0.0, 10.0, 2.0);
-        page->layout()->addWidget(plot);
+        layoutOf(page.get())->addWidget(plot);
         showAll(page.get());
         plot->replot();
         showAll(page.get());

@@ -185,7 +185,7 @@ Stage moverStage(bool plotEnds)
 {
     QWidget *page = newPage();
     auto *plot = new QwtPlot;
-    page->layout()->addWidget(plot);
+    layoutOf(page)->addWidget(plot);
     showAll(page);
     auto *canvas = qobject_cast<QwtPlotCanvas *>(plot->canvas());
     auto *mover = new QwtPlotMover(canvas);
@@ -200,7 +200,7 @@ Stage pannerStage(bool parentEnds, const std::function<void(QWidget *)> &act)
 {
     QWidget *page = newPage();
     auto *ground = new QWidget;
-    page->layout()->addWidget(ground);
+    layoutOf(page)->addWidget(ground);
     showAll(page);
     auto *panner = new QwtPannerBase(ground);
     panner->setClickDetectInterval(0, UINT_MAX);
@@ -235,7 +235,7 @@ struct ChartPage
 {
     ChartPage() : page(newPage()), charts(new ZEMHistogramWidget)
     {
-        page->layout()->addWidget(charts);
+        layoutOf(page)->addWidget(charts);
         for (const ZEM::ZEMTab tab : {ZEM::TabDay, ZEM::TabWeek}) {
             for (const ZEM::ZEMTab energy : {ZEM::TabElectricity, ZEM::TabGas}) {
                 auto *chart = new ZEMSmartDayHistogram;
@@ -341,7 +341,7 @@ Triggers buttonTriggers()
     const auto stage = [](const std::function<void(ZEMButton *)> &act, bool chartEnds) {
         QWidget *page = newPage();
         auto *tile = new ZEMHistogramButton;
-        page->layout()->addWidget(tile);
+        layoutOf(page)->addWidget(tile);
         auto *chart = new ZEMMiniDayHistogram;
         chart->init();
         tile->setHistogram(chart);
