@@ -23,7 +23,12 @@
  * rounded rectangles of 50 by 50 pixels, and 10 pixels between them.
  *
  * @code
- * KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"), QStringLiteral("nl"));
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMNumericKeypad>
+ *
+ * auto *page = new QWidget;
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
  * auto *keypad = new ZEMNumericKeypad(keyboards.createNumericKeypad(), page);
  * @endcode
  *

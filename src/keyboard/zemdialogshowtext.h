@@ -18,15 +18,23 @@
  * timers, other widgets and the host's slots, so the display lives on. The dialog is an ordinary
  * widget: make it a child of the page, above all else on it, to cover the page.
  * @code
- * ZEMDialogShowText letter(page);
- * letter.setTitle(message.subject());
- * letter.setText(message.body());
+ * #include <ZEMDialogShowText>
+ *
+ * QWidget page;
+ * ZEMDialogShowText letter(&page);
+ * letter.setTitle(QObject::tr("Bericht"));
+ * letter.setText(QObject::tr("De meterstand is doorgegeven."));
  * letter.setBtnEditVisible(true);
- * connect(&letter, &ZEMDialogShowText::sigBtnEditClicked, this, &Inbox::answer);
+ * QObject::connect(&letter, &ZEMDialogShowText::sigBtnEditClicked,
+ *                  [] { qDebug("an answer is wanted"); });
+ * page.show();
  * letter.exec();
  * @endcode
  * Title, pencil button and size of the text stay for the next use until clearText() is called. A
  * new dialog is 640 by 480 pixels, and shows neither title nor pencil.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  */
 class ZEM_EXPORT ZEMDialogShowText : public ZEMPageBackground
 {

@@ -13,9 +13,20 @@
  * the handler that was installed last, so each caller has a handler of its own.
  *
  * @code
- * auto *handler = new ZEMKeyboardInputHandler(this);
- * connect(handler, &ZEMKeyboardInputHandler::sigSelect, this, &Settings::takeName);
- * connect(handler, &ZEMKeyboardInputHandler::sigCancel, dialog, &QWidget::hide);
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMKeyboardInputHandler>
+ * #include <ZEMLineEditDialog>
+ *
+ * auto *page = new QWidget;
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new
+ * ZEMLineEditDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page); auto
+ * *handler = new ZEMKeyboardInputHandler(page); QObject::connect(handler,
+ * &ZEMKeyboardInputHandler::sigSelect, page, [=] { page->setWindowTitle(dialog->text());
+ *     dialog->hide();
+ * });
+ * QObject::connect(handler, &ZEMKeyboardInputHandler::sigCancel, dialog, &QWidget::hide);
  * dialog->setActiveInputHandler(handler);
  * dialog->show();
  * @endcode

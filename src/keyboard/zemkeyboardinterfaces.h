@@ -24,11 +24,16 @@ class ZEMVirtualKeyboard;
  * keys look like. KeyboardFactoryDefault is the library's implementation.
  *
  * @code
- * void Settings::editName(ZEMVirtualKeyboardFactoryIntf *keyboards)
- * {
- *     auto *keyboard = keyboards->createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupAbove);
- *     auto *dialog = new ZEMLineEditDialog(keyboard, this);
- * }
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMLineEditDialog>
+ *
+ * const auto editName = [](ZEMVirtualKeyboardFactoryIntf &keyboards, QWidget *page) {
+ *     using Intf = ZEMVirtualKeyboardFactoryIntf;
+ *     return new ZEMLineEditDialog(keyboards.createKeyboard(Intf::PopupAbove), page);
+ * };
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * editName(keyboards, new QWidget);
  * @endcode
  *
  * Every call makes a new keyboard, which has no parent and belongs to the caller. The interface

@@ -18,16 +18,29 @@ class ZEMVirtualKeyboard;
  * confirm. An Enter key of the keyboard confirms too.
  *
  * @code
- * using Intf = ZEMVirtualKeyboardFactoryIntf;
- * auto *dialog = new ZEMLineEditDialog(keyboards.createKeyboard(Intf::PopupAbove), page);
- * dialog->setTitle(tr("Naam"));
- * dialog->setText(profile.name());
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMLineEditDialog>
+ * #include <ZEMKeyboardInputHandler>
+ *
+ * auto *page = new QWidget;
+ * // It lives until the last of its keyboards is gone.
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new
+ * ZEMLineEditDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page);
+ * dialog->setTitle(QObject::tr("Naam"));
+ * dialog->setText(QStringLiteral("Keuken"));
+ * auto *handler = new ZEMKeyboardInputHandler(dialog);
+ * QObject::connect(handler, &ZEMKeyboardInputHandler::sigSelect, dialog, &QWidget::hide);
  * dialog->setActiveInputHandler(handler);
  * dialog->show();
  * @endcode
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
  * in answer. For texts that may not leave ASCII, such as the name of a network, the dialog takes a
  * second keyboard, which it shows instead of the first. A new dialog is 800 by 480 pixels.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  */
 class ZEM_EXPORT ZEMLineEditDialog : public ZEMPageBackground
 {

@@ -18,14 +18,31 @@ class ZEMVirtualKeyboard;
  * search button with the number of hits. Otherwise like ZEMLineEditDialog, an Enter key included.
  *
  * @code
- * connect(handler, &ZEMKeyboardInputHandler::sigTextEdited, this, [=](const QString &text) {
- *     dialog->setSearchCount(index.count(text));
- * });
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMLineEditSearchDialog>
+ * #include <ZEMKeyboardInputHandler>
+ *
+ * auto *page = new QWidget;
+ * // It lives until the last of its keyboards is gone.
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new
+ * ZEMLineEditSearchDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page); auto
+ * *handler = new ZEMKeyboardInputHandler(dialog); QObject::connect(handler,
+ * &ZEMKeyboardInputHandler::sigSelect, dialog, &QWidget::hide); const QStringList names
+ * {QStringLiteral("Amsterdam"), QStringLiteral("Arnhem")}; QObject::connect(handler,
+ * &ZEMKeyboardInputHandler::sigTextEdited, dialog,
+ *                  [=](const QString &text) {
+ *                      dialog->setSearchCount(names.filter(text).size());
+ *                  });
  * dialog->setActiveInputHandler(handler);
  * dialog->show();
  * @endcode
  * The dialog does not close itself: hide it in answer to a signal. A new dialog is 892 by 531
  * pixels.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */

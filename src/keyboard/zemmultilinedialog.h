@@ -18,10 +18,20 @@ class ZEMVirtualKeyboard;
  * text up and down, a keyboard, and a button each to confirm and to cancel.
  *
  * @code
- * using Intf = ZEMVirtualKeyboardFactoryIntf;
- * auto *dialog = new ZEMMultiLineDialog(keyboards.createKeyboard(Intf::PopupFlip), page);
- * dialog->setTitle(tr("Opmerking"));
- * dialog->setText(note);
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMMultiLineDialog>
+ * #include <ZEMKeyboardInputHandler>
+ *
+ * auto *page = new QWidget;
+ * // It lives until the last of its keyboards is gone.
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new
+ * ZEMMultiLineDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupFlip), page);
+ * dialog->setTitle(QObject::tr("Opmerking"));
+ * dialog->setText(QStringLiteral("Filter schoonmaken"));
+ * auto *handler = new ZEMKeyboardInputHandler(dialog);
+ * QObject::connect(handler, &ZEMKeyboardInputHandler::sigSelect, dialog, &QWidget::hide);
  * dialog->setActiveInputHandler(handler);
  * dialog->show();
  * @endcode
@@ -29,7 +39,12 @@ class ZEMVirtualKeyboard;
  * the text go by a single step of the scroll bar, and each is disabled at its end of the text.
  *
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
- * in answer. A new dialog is 800 by 480 pixels.
+ * in answer. A new dialog is 800 by 480 pixels, and fits into 480 with the keys of
+ * KeyboardFactoryDefault in four rows and PopupFlip. With PopupAbove its layout needs 489 pixels
+ * in the style Fusion, so that it is cut off on a page of 480.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  */
 class ZEM_EXPORT ZEMMultiLineDialog : public ZEMPageBackground
 {

@@ -19,15 +19,29 @@ class ZEMVirtualKeyboard;
  * darkened page.
  *
  * @code
- * auto *keypad = new ZEMNumericKeypad(keyboards.createNumericKeypad(), page);
- * keypad->setTitle(tr("Tarief"));
- * keypad->setValidator(new QDoubleValidator(0.0, 10.0, 4, keypad));
- * keypad->setValue(QStringLiteral("0,25"));
- * keypad->setActiveInputHandler(handler);
- * keypad->show();
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMNumericKeypad>
+ * #include <ZEMKeyboardInputHandler>
+ * #include <QDoubleValidator>
+ *
+ * auto *page = new QWidget;
+ * // It lives until the last of its keyboards is gone.
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new ZEMNumericKeypad(keyboards.createNumericKeypad(), page);
+ * dialog->setTitle(QObject::tr("Tarief"));
+ * dialog->setValidator(new QDoubleValidator(0.0, 10.0, 4, dialog));
+ * dialog->setValue(QStringLiteral("0,25"));
+ * auto *handler = new ZEMKeyboardInputHandler(dialog);
+ * QObject::connect(handler, &ZEMKeyboardInputHandler::sigSelect, dialog, &QWidget::hide);
+ * dialog->setActiveInputHandler(handler);
+ * dialog->show();
  * @endcode
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
  * in answer. An Enter key of the keypad does not confirm. A new dialog is 876 by 594 pixels.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  */
 class ZEM_EXPORT ZEMNumericKeypad : public ZEMPageBackground
 {

@@ -18,11 +18,21 @@ class ZEMVirtualKeyboard;
  * clear and masked text. An Enter key of the keyboard confirms.
  *
  * @code
- * using Intf = ZEMVirtualKeyboardFactoryIntf;
- * auto *dialog = new ZEMPasswordDialog(keyboards.createKeyboard(Intf::PopupAbove), page);
- * dialog->setTitle(tr("Wachtwoord"));
+ * #include <KeyboardFactoryDefault>
+ * #include <ZEMPasswordDialog>
+ * #include <ZEMKeyboardInputHandler>
+ *
+ * auto *page = new QWidget;
+ * // It lives until the last of its keyboards is gone.
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
+ * auto *dialog = new
+ * ZEMPasswordDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page);
+ * dialog->setTitle(QObject::tr("Wachtwoord"));
  * dialog->setText(QString()); // the secret of the last use is still there
  * dialog->slotHidePassword(true);
+ * auto *handler = new ZEMKeyboardInputHandler(dialog);
+ * QObject::connect(handler, &ZEMKeyboardInputHandler::sigSelect, dialog, &QWidget::hide);
  * dialog->setActiveInputHandler(handler);
  * dialog->show();
  * @endcode
@@ -31,6 +41,9 @@ class ZEMVirtualKeyboard;
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
  * in answer, and empty the field once the secret has been read, for the dialog never does. A new
  * dialog is 724 by 480 pixels.
+ *
+ * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
+ * palette with light texts, they cannot be read.
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
  */

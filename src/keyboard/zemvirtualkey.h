@@ -16,12 +16,11 @@
  *
  * A host rarely makes keys; a ZEMVirtualKeyboard asks its factory for them while it loads its file.
  * @code
- * ZEMVirtualKey *MyFactory::createKey(const QString &name)
- * {
- *     auto *key = new ZEMVirtualKey(name);
- *     key->setFocusPolicy(Qt::NoFocus);
- *     return key;
- * }
+ * #include <ZEMVirtualKey>
+ *
+ * auto *key = new ZEMVirtualKey(QStringLiteral("e")); // as a factory's createKey() makes it
+ * key->setFocusPolicy(Qt::NoFocus);
+ * key->setAlternateKeys(QString::fromUtf8("éè"));
  * @endcode
  *
  * Three things are kept apart: name(), by which the keyboard file knows the key and which never

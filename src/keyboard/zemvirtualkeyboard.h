@@ -24,19 +24,32 @@ class ZEMVirtualKey;
  * of the library do that with any keyboard they are given, and KeyboardFactoryDefault makes
  * keyboards that are ready for them. By hand, in this order:
  * @code
+ * #include <KeyboardFactoryDefault>
+ * #include <QLineEdit>
+ * #include <QVBoxLayout>
+ * #include <ZEMVirtualKeyboard>
+ *
+ * auto *page = new QWidget;
+ * auto *layout = new QVBoxLayout(page);
+ * auto *lineEdit = new QLineEdit;
+ * layout->addWidget(lineEdit);
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ *                                         QStringLiteral("nl"));
  * auto *keyboard = new ZEMVirtualKeyboard;
- * keyboard->setFactory(&factory); // keys and their looks; before load()
+ * keyboard->setFactory(&keyboards); // keys and their looks; before load()
  * keyboard->setMargins(QMargins(0, 46, 0, 2)); // room for the popups of the top row
  * if (keyboard->load(QStringLiteral("/usr/share/display/keyboard_en.xml"))) {
  *     layout->addWidget(keyboard);
  *     keyboard->setFocusWidget(lineEdit);
- *     keyboard->setPopupParent(keyboard->parentWidget());
+ *     keyboard->setPopupParent(page);
  * }
  * @endcode
  *
  * What is typed reaches the target as QKeyEvent of type QEvent::KeyPress through
  * QCoreApplication::postEvent(), that is, on a later turn of the event loop; there are no events
- * for releases. A character is sent with its own Unicode value as key code, so that "a" is 97.
+ * for releases. A character is sent with its own Unicode value as key code, so that "a" is 97, not
+ * Qt::Key_A, and "A" is 65. Delete is sent as Qt::Key_Backspace with the text "\b", Space as
+ * Qt::Key_Space with a blank, and Enter as Qt::Key_Enter with two carriage returns as its text.
  *
  * A key is sent when it is released, and so when the finger is moved off it. While it is down, a
  * character key shows its character in a popup; after 750 ms it opens a panel with its alternative
@@ -58,7 +71,7 @@ class ZEMVirtualKey;
  *   characters; @c layout, the page that the key opens, which makes it a page key;
  * - @c stretch, with @c value;
  * - @c space, as wide as the key that @c key names, which has to come first in the file.
- * @code
+ * @code{.xml}
  * <keyboard>
  *   <layout id="0">
  *     <row><key value="CAPS" size="1.5"/><key value="e" alternate="éèêë"/></row>

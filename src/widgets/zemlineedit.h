@@ -35,8 +35,9 @@ class QValidator;
  * disabled. Its text has the colour of QPalette::Text. Without a picture a new widget is 640 by 480
  * pixels.
  *
- * Text, placeholder, the flags, length and validator are those of the QLineEdit, and behave as
- * there. It is a child named "lineEdit"; a host connects to its signals, as this class has none.
+ * Text, placeholder, the flags, length and validator are those of the QLineEdit, named "lineEdit",
+ * and behave as there. Its signals and the focus are not passed on: whoever wants them, or lets a
+ * keyboard type into the field, takes findChild<QLineEdit *>("lineEdit").
  */
 class ZEM_EXPORT ZEMLineEdit : public ZEMPixmap
 {
