@@ -53,6 +53,13 @@ struct Scene
 
 using ScenePtr = std::shared_ptr<Scene>;
 
+constexpr int longHold = 3600000; // ms, so that a tap is one on the slowest machine
+
+inline QTimer *holdTimerOf(const ZEMVirtualKeyboard *keyboard)
+{
+    return keyboard->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 /** A keyboard without a dialog, with a page key and a key with alternatives. */
 inline ScenePtr keyboardScene()
 {
@@ -72,6 +79,7 @@ inline ScenePtr keyboardScene()
     keyboard->resize(keyboard->sizeHint());
     keyboard->show();
     scene->keyboard = keyboard;
+    holdTimerOf(keyboard)->setInterval(longHold);
     scene->settle();
     return scene;
 }
@@ -97,7 +105,7 @@ ScenePtr shownDialog()
 
 inline void holdOn(const ScenePtr &scene)
 {
-    auto *timer = scene->keyboard->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    QTimer *timer = holdTimerOf(scene->keyboard);
     if (!timer->isActive()) {
         qFatal("no hold is timed");
     }
@@ -105,6 +113,7 @@ inline void holdOn(const ScenePtr &scene)
     if (!QTest::qWaitFor([timer] { return !timer->isActive(); })) {
         qFatal("a hold does not end");
     }
+    timer->setInterval(longHold);
 }
 
 /** Holds the key "a", and returns the first key of its panel. */
