@@ -53,8 +53,6 @@ struct Scene
 
 using ScenePtr = std::shared_ptr<Scene>;
 
-constexpr int longHold = 3600000; // ms, so that a tap is one on the slowest machine
-
 inline QTimer *holdTimerOf(const ZEMVirtualKeyboard *keyboard)
 {
     return keyboard->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
@@ -79,7 +77,7 @@ inline ScenePtr keyboardScene()
     keyboard->resize(keyboard->sizeHint());
     keyboard->show();
     scene->keyboard = keyboard;
-    holdTimerOf(keyboard)->setInterval(longHold);
+    holdTimerOf(keyboard)->setInterval(KeyboardTest::longHold);
     scene->settle();
     return scene;
 }
@@ -113,7 +111,7 @@ inline void holdOn(const ScenePtr &scene)
     if (!QTest::qWaitFor([timer] { return !timer->isActive(); })) {
         qFatal("a hold does not end");
     }
-    timer->setInterval(longHold);
+    timer->setInterval(KeyboardTest::longHold);
 }
 
 /** Holds the key "a", and returns the first key of its panel. */

@@ -30,6 +30,7 @@ constexpr int keySide = 50;
 constexpr int popupSide = 40;
 constexpr int hSpacing = 7;
 constexpr int vSpacing = 9;
+constexpr int longHold = 3600000; // ms, so that a tap is one on the slowest machine
 
 #if defined(__GNUC__) // the interface has no destructor
 #pragma GCC diagnostic push
@@ -232,6 +233,7 @@ public:
         pages = keyboard->findChild<QStackedWidget *>();
         keys = pages->findChildren<ZEMVirtualKey *>();
         timer = keyboard->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+        timer->setInterval(longHold);
     }
 
     bool show()
@@ -264,7 +266,8 @@ public:
         release(name);
     }
 
-    /** Lets the time of a hold pass at once. False if no hold is timed. */
+    /** Lets the time of a hold, which does not pass by itself, pass at once. False if no hold is
+     * timed. */
     bool holdOn() const
     {
         if (!timer->isActive()) {
