@@ -5,6 +5,7 @@
 #include "arrowwave_p.h"
 #include "dashboardtest.h"
 #include "messagelog.h"
+#include "turnedtime.h"
 #include "zemtest.h"
 
 #include <ZEMAnimatedArrows>
@@ -17,7 +18,6 @@
 #include <QTimeLine>
 
 #include <array>
-#include <optional>
 
 using namespace DashboardTest;
 using namespace WidgetTest;
@@ -72,16 +72,11 @@ static Opacities opacitiesOf(const Arrows &arrows)
             icon(arrows, 3)->getOpacity()};
 }
 
+constexpr int patience = 120000; // ms, for a machine that hangs
+
 static const Opacities transparent {0.0, 0.0, 0.0};
 
 enum class Pass { Rising, Falling };
-
-/** A moment of the wave: what it would have to be for the arrows to look as they do. */
-struct Moment
-{
-    Pass pass;
-    int time; // ms on the time line
-};
 
 /** The opacities at a time, from the arrow that leads to the last. */
 static Opacities waveAt(int time, const ArrowWave::Timing &timing)
@@ -102,60 +97,22 @@ static bool alike(const Opacities &a, const Opacities &b)
     return true;
 }
 
-/** The moment in which the arrows are; none if no moment of the wave looks as they do. */
-static std::optional<Moment> momentOf(const Opacities &leftToRight, Arrows::Direction direction,
-                                      const ArrowWave::Timing &timing)
+/** Whether the arrows look as the wave does at @p time of its time line. */
+static bool show(const Arrows &arrows, Pass pass, int time, const ArrowWave::Timing &timing)
 {
-    const Opacities rightToLeft {leftToRight[2], leftToRight[1], leftToRight[0]};
-    const bool left = direction == Arrows::Left;
-    for (int time = 0; time <= timing.pass; ++time) {
-        const Opacities wave = waveAt(time, timing);
-        if (alike(wave, left ? rightToLeft : leftToRight)) {
-            return Moment {Pass::Rising, time};
-        }
-        if (alike(wave, left ? leftToRight : rightToLeft)) {
-            return Moment {Pass::Falling, time};
-        }
-    }
-    return {};
+    const Opacities shown = opacitiesOf(arrows);
+    const bool leadsFromTheRight =
+        (arrows.getDirection() == Arrows::Left) == (pass == Pass::Rising);
+    const Opacities inOrder = leadsFromTheRight ? Opacities {shown[2], shown[1], shown[0]} : shown;
+    return alike(inOrder, waveAt(time, timing));
 }
 
-/**
- * The moments that are seen until the wave has begun its third pass, for at most ten seconds. Those
- * at an end are left out, since there a rising wave looks like a falling one. Ends with an empty
- * list when the arrows look like no moment of the wave.
- */
-static QVector<Moment> watchThreePasses(const Arrows &arrows, const ArrowWave::Timing &timing)
+/** Lets fast arrows fall, to the time of 700 ms. */
+static void turnToTheFall(TurnedTime *time, const Arrows &arrows)
 {
-    QVector<Moment> seen;
-    int passes = 0;
-    QElapsedTimer timer;
-    timer.start();
-    while (passes < 3 && timer.elapsed() < 10000) {
-        QTest::qWait(5);
-        const auto moment = momentOf(opacitiesOf(arrows), arrows.getDirection(), timing);
-        if (!moment) {
-            return {};
-        }
-        const bool atAnEnd = moment->time == 0 || moment->time == timing.pass;
-        if (!atAnEnd && (seen.isEmpty() || seen.last().time != moment->time)) {
-            passes += seen.isEmpty() || seen.last().pass != moment->pass ? 1 : 0;
-            seen << *moment;
-        }
-    }
-    return seen;
-}
-
-/** Waits until the wave falls. Fast arrows that have just been started do so after a second. */
-static bool waitForFall(const Arrows &arrows)
-{
-    return QTest::qWaitFor(
-        [&] {
-            const auto moment =
-                momentOf(opacitiesOf(arrows), arrows.getDirection(), ArrowWave::fast);
-            return moment && moment->pass == Pass::Falling && moment->time < 900;
-        },
-        5000);
+    time->turnTo(ArrowWave::fast.pass);
+    time->turnTo(700);
+    QVERIFY(show(arrows, Pass::Falling, 700, ArrowWave::fast));
 }
 
 void tst_ZEMAnimatedArrows::newArrows()
@@ -311,25 +268,25 @@ void tst_ZEMAnimatedArrows::waveRisesAndFalls()
 {
     QFETCH(Arrows::Direction, direction);
 
+    TurnedTime time;
     Arrows arrows;
     arrows.setDirection(direction);
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
-    const QVector<Moment> seen = watchThreePasses(arrows, ArrowWave::fast);
-    QVERIFY(seen.size() > 10);
-
-    QVector<Pass> passes {seen.first().pass};
-    for (int i = 1; i < seen.size(); ++i) {
-        if (seen[i].pass != seen[i - 1].pass) {
-            passes << seen[i].pass;
-        } else if (seen[i].pass == Pass::Rising) {
-            QVERIFY(seen[i].time > seen[i - 1].time);
-        } else {
-            QVERIFY(seen[i].time < seen[i - 1].time);
+    for (int pass = 0; pass < 2; ++pass) {
+        for (int ms = 50; ms < 1000; ms += 50) {
+            time.turnTo(ms);
+            QVERIFY(show(arrows, Pass::Rising, ms, ArrowWave::fast));
         }
+        time.turnTo(1000);
+        QVERIFY(arrows.getRunning());
+        for (int ms = 950; ms > 0; ms -= 50) {
+            time.turnTo(ms);
+            QVERIFY(show(arrows, Pass::Falling, ms, ArrowWave::fast));
+        }
+        time.turnTo(0);
+        QVERIFY(arrows.getRunning());
     }
-    QCOMPARE(passes, (QVector<Pass> {Pass::Rising, Pass::Falling, Pass::Rising}));
-    QVERIFY(arrows.getRunning());
 }
 
 void tst_ZEMAnimatedArrows::paceOfTheSpeed_data()
@@ -350,85 +307,75 @@ void tst_ZEMAnimatedArrows::paceOfTheSpeed()
     QFETCH(int, secondDelay);
     QFETCH(int, thirdDelay);
 
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(speed);
-    QElapsedTimer timer;
-    timer.start();
     arrows.start();
-    qint64 smallestLag = pass;
-    while (timer.elapsed() < 900) {
-        QTest::qWait(5);
-        const qint64 elapsed = timer.elapsed();
-        const auto moment =
-            momentOf(opacitiesOf(arrows), Arrows::Left, {pass, secondDelay, thirdDelay});
-        QVERIFY(moment);
-        QVERIFY(moment->time <= elapsed);
-        if (elapsed > 600) {
-            smallestLag = qMin(smallestLag, elapsed - moment->time);
-        }
+    QVERIFY(time.line());
+    QCOMPARE(time.line()->duration(), pass);
+    QCOMPARE(time.line()->updateInterval(), 50); // ms
+    for (int ms = 0; ms < pass; ms += 100) {
+        time.turnTo(ms);
+        QVERIFY(show(arrows, Pass::Rising, ms, {pass, secondDelay, thirdDelay}));
     }
-    // A pace of another speed would be behind or ahead by hundreds of milliseconds.
-    QVERIFY2(smallestLag < 150, qPrintable(QString::number(smallestLag)));
 }
 
 void tst_ZEMAnimatedArrows::directionChangesInMidPass()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
-    QTest::qWait(400);
+    time.turnTo(400);
     const Opacities before = opacitiesOf(arrows);
-    const auto momentBefore = momentOf(before, Arrows::Left, ArrowWave::fast);
-    QVERIFY(momentBefore && momentBefore->time > 200);
 
     arrows.setDirection(Arrows::Right);
     QCOMPARE(imageOf(icon(arrows, 1)->getPixmap()),
              DashboardTest::picture("icons/arrow_right.png"));
     QCOMPARE(opacitiesOf(arrows), before);
     QVERIFY(arrows.getRunning());
+    QCOMPARE(time.line()->currentTime(), 400);
 
-    QTRY_VERIFY(opacitiesOf(arrows) != before);
-    const auto momentAfter = momentOf(opacitiesOf(arrows), Arrows::Right, ArrowWave::fast);
-    QVERIFY(momentAfter);
-    QVERIFY(momentAfter->pass == Pass::Rising);
-    QVERIFY(momentAfter->time > momentBefore->time);
+    time.turnTo(450);
+    QVERIFY(show(arrows, Pass::Rising, 450, ArrowWave::fast));
     QVERIFY(opacitiesOf(arrows)[0] > opacitiesOf(arrows)[2]);
 }
 
 void tst_ZEMAnimatedArrows::speedChangesInMidPass()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Slow);
     arrows.start();
-    QTest::qWait(300);
+    time.turnTo(300);
     arrows.setSpeed(Arrows::Fast);
     QVERIFY(arrows.getRunning());
-    const Opacities before = opacitiesOf(arrows);
-    QTRY_VERIFY(opacitiesOf(arrows) != before);
-    const auto moment = momentOf(opacitiesOf(arrows), Arrows::Left, ArrowWave::fast);
-    QVERIFY(moment);
-    QVERIFY(moment->time > 250);
+    QCOMPARE(time.line()->currentTime(), 300);
+    time.turnTo(350);
+    QVERIFY(show(arrows, Pass::Rising, 350, ArrowWave::fast));
 }
 
 void tst_ZEMAnimatedArrows::timelineSpeedLeavesTheSpeedAlone()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.setTimelineSpeed(Arrows::Fast);
     arrows.setTimelineSpeed(Arrows::Stopped);
     QCOMPARE(arrows.getSpeed(), Arrows::Medium);
     arrows.start();
-    QVERIFY(waitForFall(arrows)); // in the shape of the fast wave
+    turnToTheFall(&time, arrows); // in the shape of the fast wave
     arrows.setTimelineSpeed(Arrows::Stopped);
     QVERIFY(arrows.getRunning());
 }
 
 void tst_ZEMAnimatedArrows::stopHidesTheArrows()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
     QVERIFY(arrows.getRunning());
-    QTest::qWait(500);
+    time.turnTo(500);
     for (const qreal opacity : opacitiesOf(arrows)) {
         QVERIFY(opacity > 0.0);
     }
@@ -442,42 +389,40 @@ void tst_ZEMAnimatedArrows::stopHidesTheArrows()
 
 void tst_ZEMAnimatedArrows::startAlwaysRises()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
-    QVERIFY(waitForFall(arrows));
+    turnToTheFall(&time, arrows);
     arrows.stop();
     QCOMPARE(opacitiesOf(arrows), transparent);
     arrows.start();
-    QTRY_VERIFY(opacitiesOf(arrows) != transparent);
-    const auto moment = momentOf(opacitiesOf(arrows), Arrows::Left, ArrowWave::fast);
-    QVERIFY(moment);
-    QVERIFY(moment->pass == Pass::Rising);
-    QVERIFY(moment->time < 500);
+    QCOMPARE(time.line()->currentTime(), 0);
+    time.turnTo(100);
+    QVERIFY(show(arrows, Pass::Rising, 100, ArrowWave::fast));
 }
 
 void tst_ZEMAnimatedArrows::startOfARunningWaveTurnsItUpwards()
 {
     MessageLog log;
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
-    QVERIFY(waitForFall(arrows));
+    turnToTheFall(&time, arrows);
     arrows.start();
     QVERIFY(arrows.getRunning());
-    const Opacities before = opacitiesOf(arrows);
-    QTRY_VERIFY(opacitiesOf(arrows) != before);
-    const auto moment = momentOf(opacitiesOf(arrows), Arrows::Left, ArrowWave::fast);
-    QVERIFY(moment);
-    QVERIFY(moment->pass == Pass::Rising);
+    time.turnTo(750);
+    QVERIFY(show(arrows, Pass::Rising, 750, ArrowWave::fast));
     QCOMPARE(log.warnings, 0);
 }
 
 void tst_ZEMAnimatedArrows::stoppedSpeedStopsAndNoOtherStarts()
 {
+    TurnedTime time;
     Arrows arrows;
     arrows.start();
-    QTest::qWait(200);
+    time.turnTo(800);
     arrows.setSpeed(Arrows::Stopped);
     QVERIFY(!arrows.getRunning());
     QCOMPARE(arrows.getSpeed(), Arrows::Stopped);
@@ -495,17 +440,17 @@ void tst_ZEMAnimatedArrows::presentSpeedDoesNothing()
     stopped.setSpeed(Arrows::Stopped);
     QVERIFY(stopped.getRunning());
 
+    stopped.stop();
+    TurnedTime time;
     Arrows arrows;
     arrows.setSpeed(Arrows::Fast);
     arrows.start();
-    QVERIFY(waitForFall(arrows));
+    turnToTheFall(&time, arrows);
     const Opacities before = opacitiesOf(arrows);
     arrows.setSpeed(Arrows::Fast);
     QCOMPARE(opacitiesOf(arrows), before);
-    QTRY_VERIFY(opacitiesOf(arrows) != before);
-    const auto moment = momentOf(opacitiesOf(arrows), Arrows::Left, ArrowWave::fast);
-    QVERIFY(moment);
-    QVERIFY(moment->pass == Pass::Falling);
+    time.turnTo(650);
+    QVERIFY(show(arrows, Pass::Falling, 650, ArrowWave::fast));
 }
 
 void tst_ZEMAnimatedArrows::runningProperty()
@@ -527,13 +472,12 @@ void tst_ZEMAnimatedArrows::hiddenArrowsAreNotPainted()
     arrows.start();
     const PaintCounter first(icon(arrows, 1));
     const PaintCounter third(icon(arrows, 3));
-    QTRY_VERIFY(first.count > 0 && third.count > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(first.count > 0 && third.count > 0, patience);
 
     arrows.hide();
     const int before = first.count + third.count;
     const Opacities look = opacitiesOf(arrows);
-    QTest::qWait(300);
-    QVERIFY(opacitiesOf(arrows) != look);
+    QTRY_VERIFY_WITH_TIMEOUT(opacitiesOf(arrows) != look, patience);
     QCOMPARE(first.count + third.count, before);
 }
 
@@ -548,10 +492,10 @@ void tst_ZEMAnimatedArrows::paintsPerSecondAreFew()
     timer.start();
     arrows.start();
     QTest::qWait(1000);
+    QTRY_VERIFY_WITH_TIMEOUT(counter.count > 4, patience);
     constexpr int updateInterval = 50; // ms
     QVERIFY2(counter.count <= timer.elapsed() / updateInterval + 2,
              qPrintable(QString::number(counter.count)));
-    QVERIFY(counter.count > 4);
 }
 
 /** Counts the timer events of time lines. */
@@ -577,7 +521,7 @@ void tst_ZEMAnimatedArrows::stoppedArrowsHaveNoTimer()
     QTest::qWait(150);
     QCOMPARE(ticks.count, 0);
     arrows.start();
-    QTRY_VERIFY(ticks.count > 1);
+    QTRY_VERIFY_WITH_TIMEOUT(ticks.count > 1, patience);
     arrows.setSpeed(Arrows::Stopped);
     const int before = ticks.count;
     QTest::qWait(150);

@@ -85,7 +85,7 @@ class Watchdog
 public:
     Watchdog()
     {
-        constexpr int patience = 20000; // ms
+        constexpr int patience = 200000; // ms
         QObject::connect(&timer, &QTimer::timeout, [] { qFatal("A local loop does not end"); });
         timer.start(patience);
     }

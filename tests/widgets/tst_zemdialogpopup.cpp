@@ -42,12 +42,15 @@ bool spinnerIsEmpty(const ZEMDialogPopup &dialog)
     return spinnerOf(dialog)->pixmap(Qt::ReturnByValue).isNull();
 }
 
-/** Whether the spinner shows one picture after the other. */
-bool spins(const ZEMDialogPopup &dialog)
+constexpr int patience = 120000; // ms, for a machine that hangs
+constexpr int someFrames = 500; // ms
+
+/** Whether the spinner shows another picture within @p time. */
+bool spins(const ZEMDialogPopup &dialog, int time = patience)
 {
     const auto picture = [&] { return spinnerOf(dialog)->pixmap(Qt::ReturnByValue).cacheKey(); };
     const qint64 first = picture();
-    return QTest::qWaitFor([&] { return picture() != first; }, 500);
+    return QTest::qWaitFor([&] { return picture() != first; }, time);
 }
 
 } // namespace
@@ -251,7 +254,7 @@ void tst_ZEMDialogPopup::textShowsTheThirdLine()
     QVERIFY(!line(dialog, 3)->isHidden());
     QVERIFY(spinnerOf(dialog)->isHidden());
     QVERIFY(spinnerIsEmpty(dialog));
-    QVERIFY(!spins(dialog));
+    QVERIFY(!spins(dialog, someFrames));
 }
 
 void tst_ZEMDialogPopup::clearTextEmptiesAll()
@@ -265,7 +268,7 @@ void tst_ZEMDialogPopup::clearTextEmptiesAll()
     }
     QVERIFY(spinnerOf(dialog)->isHidden());
     QVERIFY(spinnerIsEmpty(dialog));
-    QVERIFY(!spins(dialog));
+    QVERIFY(!spins(dialog, someFrames));
 }
 
 void tst_ZEMDialogPopup::isPaintedOverThePage()
