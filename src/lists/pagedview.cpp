@@ -103,7 +103,7 @@ void PagedView::rowsChanged()
 /** A model may change row by row, and each scroll lays a view out anew. */
 void PagedView::showPageLater()
 {
-    if (isPageDue) {
+    if (isPageDue || !listener) {
         return;
     }
     isPageDue = true;

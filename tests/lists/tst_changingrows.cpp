@@ -38,6 +38,8 @@ private Q_SLOTS:
     void deletedModelIsTold();
     void formerModelIsNotFollowed_data() { addEngines(); }
     void formerModelIsNotFollowed();
+    void modelThatIsTakenAwayWhileItsRowsCome_data() { addEngines(); }
+    void modelThatIsTakenAwayWhileItsRowsCome();
     void manyChangesScrollOnce_data() { addEngines(); }
     void manyChangesScrollOnce();
     void randomChangesLeaveThePageRight_data() { addEngines(); }
@@ -234,6 +236,24 @@ void tst_ChangingRows::formerModelIsNotFollowed()
         other.removeRows(19, 1);
         QCOMPARE(paged.told.count(), 1);
         paged.logic->setModel(nullptr);
+    });
+}
+
+void tst_ChangingRows::modelThatIsTakenAwayWhileItsRowsCome()
+{
+    withEngine([](auto engine) {
+        Fixture<decltype(engine)> paged(3, 2);
+        paged.rowsOfTexts.removeRows(0, 3);
+        auto *const logic = paged.logic;
+        connect(paged.view.selectionModel(), &QItemSelectionModel::currentChanged, logic,
+                [logic] { logic->setModel(nullptr); });
+        QCoreApplication::processEvents();
+        paged.forget();
+        paged.rowsOfTexts.insertRows(0, 2); // makes a row current
+        QVERIFY(!paged.view.model());
+        QCOMPARE(paged.lastTold(), Pages(false, false));
+        QCoreApplication::processEvents();
+        QVERIFY(paged.view.scrolls.isEmpty());
     });
 }
 
