@@ -236,12 +236,16 @@ public:
         timer->setInterval(longHold);
     }
 
+    /** Shows the keyboard and waits for the redraw that each show brings after 50 ms. */
     bool show()
     {
         host.show();
         const bool exposed = QTest::qWaitForWindowExposed(&host);
+        bool isDrawn = false;
+        QTimer::singleShot(60, &host, [&] { isDrawn = true; });
+        const bool settled = QTest::qWaitFor([&] { return isDrawn; }, 60000);
         factory.looks.clear();
-        return loaded && exposed && keyboard->isVisible();
+        return loaded && exposed && settled && keyboard->isVisible();
     }
 
     ZEMVirtualKey *key(const char *name) const
