@@ -84,7 +84,8 @@ void PagedView::followRowsOf(QAbstractItemModel *model)
     QObject::connect(model, &QAbstractItemModel::rowsRemoved, listener.get(), follow);
     QObject::connect(model, &QAbstractItemModel::rowsMoved, listener.get(), follow);
     QObject::connect(model, &QAbstractItemModel::layoutChanged, listener.get(), follow);
-    QObject::connect(model, &QObject::destroyed, listener.get(), follow);
+    // A model may go together with the view, halfway through its end: no moment to tell anything.
+    QObject::connect(model, &QObject::destroyed, listener.get(), [this] { showPageLater(); });
 }
 
 void PagedView::rowsChanged()
@@ -103,6 +104,7 @@ void PagedView::rowsChanged()
 /** A model may change row by row, and each scroll lays a view out anew. */
 void PagedView::showPageLater()
 {
+    // Whoever heard of the current row may have taken the model away.
     if (isPageDue || !listener) {
         return;
     }

@@ -96,9 +96,9 @@ Q_SIGNALS:
     /**
      * Whether a page lies before and after the one that is shown. Comes after every setIndex(),
      * every page move and every reset of the model, changed or not, when the view has moved; not
-     * after setModel() and setNrPageItems(). When rows have come, gone or moved, or the model was
-     * deleted, it comes at once, for the page of the current row, and again when the view has
-     * moved.
+     * after setModel() and setNrPageItems(). When rows have come, gone or moved it comes at once,
+     * for the page of the current row, and again when the view has moved; when the model was
+     * deleted it comes from the event loop.
      */
     void has_page(bool prev_hasPage, bool next_hasPage);
 

@@ -95,8 +95,8 @@ Q_SIGNALS:
      * whether a page lies before the one that is shown; the second can be false while the last
      * rows still lie on a page of their own. Comes after every setIndex(), every page move and
      * every reset of the model, changed or not, when the view has moved; not after setModel() and
-     * setNrPageItems(). When rows have come, gone or moved, or the model was deleted, it comes at
-     * once, and again when the view has moved.
+     * setNrPageItems(). When rows have come, gone or moved it comes at once, and again when the
+     * view has moved; when the model was deleted it comes from the event loop.
      */
     void has_page(bool prev_hasPage, bool next_hasPage);
 

@@ -257,8 +257,7 @@ private:
         if (which == shown) {
             shown = -1;
             expected.current = -1;
-            expected.selected.clear();
-            tell(-1);
+            expected.selected.clear(); // it is told from the event loop, which does not run here
         }
     }
 

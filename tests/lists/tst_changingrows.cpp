@@ -36,6 +36,10 @@ private Q_SLOTS:
     void untouchedListStaysUntouched();
     void deletedModelIsTold_data() { addEngines(); }
     void deletedModelIsTold();
+    void viewThatTakesItsModelAlongTellsNothing_data() { addEngines(); }
+    void viewThatTakesItsModelAlongTellsNothing();
+    void modelTakenAwayWhenARowBecomesCurrent_data() { addEngines(); }
+    void modelTakenAwayWhenARowBecomesCurrent();
     void formerModelIsNotFollowed_data() { addEngines(); }
     void formerModelIsNotFollowed();
     void modelThatIsTakenAwayWhileItsRowsCome_data() { addEngines(); }
@@ -211,10 +215,46 @@ void tst_ChangingRows::deletedModelIsTold()
         paged.logic->setIndex(8);
         QCOMPARE(paged.lastTold().first, true);
         brief.reset();
-        QCOMPARE(paged.lastTold(), Pages(false, false));
-        QCoreApplication::processEvents();
+        QTRY_COMPARE(paged.lastTold(), Pages(false, false));
         paged.logic->page_next();
         QCOMPARE(paged.lastTold(), Pages(false, false));
+    });
+}
+
+void tst_ChangingRows::viewThatTakesItsModelAlongTellsNothing()
+{
+    withEngine([](auto engine) {
+        using Engine = decltype(engine);
+        auto view = std::make_unique<typename Engine::View>();
+        auto *model = new QStringListModel(texts(20), view.get()); // goes before the engine
+        auto *logic = new typename Engine::Logic(view.get());
+        logic->setModel(model);
+        logic->setIndex(8);
+        int count = 0;
+        connect(logic, &Engine::Logic::has_page, [&count] { ++count; });
+        view.reset();
+        QCOMPARE(count, 0);
+    });
+}
+
+void tst_ChangingRows::modelTakenAwayWhenARowBecomesCurrent()
+{
+    withEngine([](auto engine) {
+        using Engine = decltype(engine);
+        QStringListModel model;
+        auto view = std::make_unique<typename Engine::View>();
+        auto *logic = new typename Engine::Logic(view.get());
+        logic->setModel(&model);
+        logic->setIndex(0);
+        connect(view->selectionModel(), &QItemSelectionModel::currentChanged, logic,
+                [logic] { logic->setModel(nullptr); });
+        int count = 0;
+        connect(logic, &Engine::Logic::has_page, [&count] { ++count; });
+        model.insertRows(0, 20);
+        const int countAtOnce = count;
+        QCoreApplication::processEvents(); // nothing is left to scroll to
+        QCOMPARE(count, countAtOnce);
+        QVERIFY(!Engine::text(*logic).isValid());
     });
 }
 

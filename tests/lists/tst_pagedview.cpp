@@ -176,7 +176,7 @@ void checkDeletedModel(const Told &told)
         paged.logic->page_next();
         paged.told.clear();
     }
-    QCOMPARE(paged.told, Told({{false, false}}));
+    QTRY_COMPARE(paged.told, Told({{false, false}}));
     paged.told.clear();
     QCOMPARE(paged.logic->index(), 13);
     useEmptyView<Engine>(*paged.logic);
