@@ -43,7 +43,7 @@ QVariant PagedView::text(int row, int column) const
 void PagedView::setModel(QAbstractItemModel *model)
 {
     index = 0;
-    wasAsked = false;
+    isInUse = false;
     isPageDue = false;
     listener.reset();
     if (!view) {
@@ -85,16 +85,21 @@ void PagedView::followRowsOf(QAbstractItemModel *model)
     QObject::connect(model, &QAbstractItemModel::rowsMoved, listener.get(), follow);
     QObject::connect(model, &QAbstractItemModel::layoutChanged, listener.get(), follow);
     // A model may go together with the view, halfway through its end: no moment to tell anything.
-    QObject::connect(model, &QObject::destroyed, listener.get(), [this] { showPageLater(); });
+    QObject::connect(model, &QObject::destroyed, listener.get(), [this] {
+        if (isInUse) {
+            showPageLater();
+        }
+    });
 }
 
 void PagedView::rowsChanged()
 {
+    isInUse = isInUse || currentIndex().isValid();
+    if (!isInUse) {
+        return;
+    }
     const int rows = rowCount();
     if (rows > 0 && !currentIndex().isValid()) {
-        if (!wasAsked) {
-            return;
-        }
         view->setCurrentIndex(indexAt(qBound(0, index, rows - 1)));
     }
     showPageLater();
@@ -140,8 +145,9 @@ int PagedView::pageTop(int row) const
 
 bool PagedView::choose(int row)
 {
-    wasAsked = true;
     const QModelIndex chosen = indexAt(row);
+    // The first row of a list that is still empty counts, as it is the chosen one from the start.
+    isInUse = isInUse || chosen.isValid() || row == index;
     if (chosen.isValid()) {
         index = row;
         view->setCurrentIndex(chosen);
@@ -151,6 +157,7 @@ bool PagedView::choose(int row)
 
 bool PagedView::moveTo(int row)
 {
+    isInUse = true;
     const QModelIndex target = indexAt(row);
     if (target.isValid()) {
         view->selectionModel()->setCurrentIndex(target, selectionFlags);
@@ -167,7 +174,7 @@ void PagedView::scrollTo(int row)
 
 void PagedView::restore(int rowCount)
 {
-    wasAsked = true;
+    isInUse = true;
     index = ListPaging::keptRow(index, rowCount);
     const QModelIndex chosen = indexAt(index);
     if (chosen.isValid()) {

@@ -74,7 +74,7 @@ private:
     std::function<void(int row)> tellRow;
     std::unique_ptr<QObject> listener; // hears of the rows of the present model
     QVector<QPointer<QItemSelectionModel>> selections; // made by the view for its model
-    bool wasAsked = false; // for a row, since the model was set
+    bool isInUse = false; // a row was chosen or current since the model was set
     bool isPageDue = false;
 };
 

@@ -57,9 +57,10 @@ public:
      * does so twice.
      *
      * When rows come, go or move without a reset, as by a filter, the list goes on from its current
-     * row: its page is shown as soon as the event loop runs. When rows come into a list that was
-     * emptied, the chosen row becomes current again: the last row if there are fewer, the first one
-     * if none is chosen. All this is for a list in which a row was chosen or is current.
+     * row: its page is shown as soon as the event loop runs. A list that was emptied makes the
+     * chosen row current again when rows come: the last row if there are fewer, the first for -1.
+     * All this is for a list in which a row was chosen or is current; setIndex(0) on a list that is
+     * still empty chooses the first row that comes.
      *
      * Left to the host: to call setIndex() for a new model, and after a reset that should scroll;
      * the chosen row keeps its number when rows come or go above it.

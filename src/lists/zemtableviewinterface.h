@@ -56,9 +56,10 @@ public:
      * does so twice.
      *
      * When rows come, go or move without a reset, as by a filter, the table goes on from its
-     * current row: its page is shown as soon as the event loop runs. When rows come into a table
-     * that was emptied, the chosen row becomes current again: the last row if there are fewer, the
-     * first one if none is chosen. All this is for a table in which a row was chosen or is current.
+     * current row: its page is shown as soon as the event loop runs. A table that was emptied makes
+     * the chosen row current again when rows come: the last row if there are fewer, the first for
+     * -1. All this is for a table in which a row was chosen or is current; setIndex(0) on a table
+     * that is still empty chooses the first row that comes.
      *
      * Left to the host: to call setIndex() for a new model, and after a reset that should scroll;
      * the chosen row keeps its number when rows come or go above it.

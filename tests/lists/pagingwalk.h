@@ -169,7 +169,7 @@ private:
 
     void setIndex(int row)
     {
-        wasAsked = true;
+        isInUse = isInUse || exists(row) || row == expected.index;
         lastCall = QStringLiteral("setIndex %1 of %2").arg(row).arg(rows());
         logic->setIndex(row);
         if (exists(row)) {
@@ -202,7 +202,7 @@ private:
             expected.selected.clear();
         }
         for (int i = 0; i < source.timesSet; ++i) {
-            wasAsked = true;
+            isInUse = true;
             expected.index = qMin(expected.index, rows() - 1);
             if (exists(expected.index)) {
                 choose(expected.index);
@@ -224,7 +224,7 @@ private:
         lastCall = QStringLiteral("setModel %1").arg(which);
         logic->setModel(sources[which].model.get());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        wasAsked = false;
+        isInUse = false;
         expected.index = 0;
         ++sources[which].timesSet;
         if (which != shown) {
@@ -243,7 +243,8 @@ private:
             sources[shown].model->removeLast(count);
             expected.current = view.currentIndex().row();
             expected.selected = selectedRows(view);
-            if (wasAsked || expected.current >= 0 || rows() == 0) {
+            isInUse = isInUse || expected.current >= 0;
+            if (isInUse) {
                 tell(Rules::toldAfterChoice(expected.current, expected.current, expected.pageSize));
             }
         }
@@ -281,6 +282,7 @@ private:
         if (expected.current < 0) {
             return;
         }
+        isInUse = true;
         const qint64 landing = Rules::landing(target, expected.pageSize);
         expected.current = int(landing);
         if (flags & QItemSelectionModel::Clear) {
@@ -313,7 +315,7 @@ private:
     ScrollLog<View> view;
     Logic *logic;
     int shown = -1;
-    bool wasAsked = false; // for a row, since the model was set
+    bool isInUse = false; // a row was chosen or current since the model was set
     QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::NoUpdate;
     QAbstractItemView::ScrollHint hint = QAbstractItemView::PositionAtTop;
     Outcome<View> actual;

@@ -34,6 +34,10 @@ private Q_SLOTS:
     void refilledListCanBePaged();
     void untouchedListStaysUntouched_data() { addEngines(); }
     void untouchedListStaysUntouched();
+    void rowThatDoesNotExistIsNotChosenLater_data() { addEngines(); }
+    void rowThatDoesNotExistIsNotChosenLater();
+    void firstRowIsChosenBeforeItComes_data() { addEngines(); }
+    void firstRowIsChosenBeforeItComes();
     void deletedModelIsTold_data() { addEngines(); }
     void deletedModelIsTold();
     void viewThatTakesItsModelAlongTellsNothing_data() { addEngines(); }
@@ -199,9 +203,46 @@ void tst_ChangingRows::untouchedListStaysUntouched()
         other.insertRows(0, 10);
         other.removeRows(3, 2);
         QCoreApplication::processEvents();
+        other.removeRows(0, other.rowCount());
+        other.insertRows(0, 3);
+        QCoreApplication::processEvents();
         QCOMPARE(paged.currentRow(), -1);
         QCOMPARE(paged.told, Told());
         QVERIFY(paged.view.scrolls.isEmpty());
+        paged.logic->setModel(nullptr);
+    });
+}
+
+void tst_ChangingRows::rowThatDoesNotExistIsNotChosenLater()
+{
+    withEngine([](auto engine) {
+        Fixture<decltype(engine)> paged(20);
+        QStringListModel other;
+        paged.logic->setModel(&other);
+        for (const int row : {-1, 5, 100}) {
+            paged.logic->setIndex(row);
+            paged.forget();
+            other.insertRows(0, 4);
+            QCoreApplication::processEvents();
+            QCOMPARE(paged.currentRow(), -1);
+            QCOMPARE(paged.told, Told());
+            QVERIFY(paged.view.scrolls.isEmpty());
+            other.removeRows(0, 4);
+        }
+        paged.logic->setModel(nullptr);
+    });
+}
+
+void tst_ChangingRows::firstRowIsChosenBeforeItComes()
+{
+    withEngine([](auto engine) {
+        Fixture<decltype(engine)> paged(20);
+        QStringListModel other;
+        paged.logic->setModel(&other);
+        paged.logic->setIndex(0);
+        other.insertRows(0, 9);
+        QCOMPARE(paged.currentRow(), 0);
+        QCOMPARE(paged.lastTold(), Pages(false, true));
         paged.logic->setModel(nullptr);
     });
 }
