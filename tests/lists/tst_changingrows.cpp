@@ -249,6 +249,7 @@ void tst_ChangingRows::firstRowIsChosenBeforeItComes()
 
 void tst_ChangingRows::deletedModelIsTold()
 {
+    const DeletedModelsAreNoNews quiet;
     withEngine([](auto engine) {
         Fixture<decltype(engine)> paged(20);
         auto brief = std::make_unique<QStringListModel>(texts(20));
