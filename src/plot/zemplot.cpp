@@ -41,13 +41,34 @@ private:
 class ZEMPlot::Private
 {
 public:
-    /** Nothing but the address of @p item is left if it is being deleted. */
     void handleDetached(const QwtPlotItem *item)
     {
+        detached = Detached();
         if (item != curveBeingRemoved) {
+            // What is being deleted is a plain item by now, and its address may be used again.
+            if (item->rtti() != QwtPlotItem::Rtti_PlotItem) {
+                detached = {item, item->z(), curves};
+            }
             curves.erase(std::remove(curves.begin(), curves.end(), item), curves.end());
         }
     }
+
+    /** Qwt detaches an item whose z changes too, and attaches it at once, with the new z. */
+    void handleAttached(const QwtPlotItem *item)
+    {
+        if (item == detached.item && item->z() != detached.z) {
+            curves = detached.curvesBefore;
+        }
+        detached = Detached();
+    }
+
+    /** What was detached last, unless it cannot come back. */
+    struct Detached
+    {
+        const QwtPlotItem *item = nullptr;
+        double z = 0.0;
+        QList<QwtPlotCurve *> curvesBefore;
+    };
 
     // A program that gives the plot another canvas deletes the old one and both of these with it.
     QPointer<QwtPlotPanner> panner;
@@ -57,6 +78,7 @@ public:
     ZEMQwtPlotCurvePointGetter *curvePointGetter = nullptr;
     QList<QwtPlotCurve *> curves;
     const QwtPlotItem *curveBeingRemoved = nullptr;
+    Detached detached;
     QObject listener; // the last member: it hears of items only as long as the others live
 };
 
@@ -70,7 +92,9 @@ ZEMPlot::ZEMPlot(ZEMPlotStyler *styler, QWidget *parent)
     d->grid = new Grid(d->grid);
     d->curvePointGetter = new ZEMQwtPlotCurvePointGetter(this);
     connect(this, &QwtPlot::itemAttached, &d->listener, [this](QwtPlotItem *item, bool on) {
-        if (!on) {
+        if (on) {
+            d->handleAttached(item);
+        } else {
             d->handleDetached(item);
         }
     });
@@ -211,6 +235,7 @@ void ZEMPlot::setFontForScale(int axis, const QString &family, int pointSize)
 void ZEMPlot::addCurve(QwtPlotCurve *curve, bool updateZoomBase)
 {
     d->styler->styleCurve(curve, getNumCurves());
+    d->detached = Private::Detached(); // one that was detached before is new
     curve->attach(this);
     d->curves.append(curve);
     if (updateZoomBase && d->zoomer) {

@@ -102,8 +102,8 @@ public:
     ZEMQwtPlotCurvePointGetter *getCurvePointGetter();
 
     /**
-     * The curves in the order in which they were added. A curve leaves the list when it is removed,
-     * and also when it is deleted, detached or attached to another plot.
+     * The curves in the order in which they were added, whatever their z. A curve leaves the list
+     * when it is removed, and also when it is deleted, detached or attached to another plot.
      */
     const QList<QwtPlotCurve *> &getCurves() const;
     int getNumCurves() const;

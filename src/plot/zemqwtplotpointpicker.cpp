@@ -16,10 +16,28 @@
 class ZEMQwtPlotPointPicker::Private
 {
 public:
+    /** A curve whose z changes is detached too, but is in the list again when it is attached. */
+    void handleAttached(const QwtPlotItem *item, bool on)
+    {
+        if (!on && item == currentPoint.curve) {
+            pointBefore = currentPoint;
+            currentPoint = {};
+        } else if (on && item == pointBefore.curve) {
+            take(plot->getIndexOfCurve(pointBefore.curve) >= 0 ? pointBefore : currentPoint);
+        }
+    }
+
+    void take(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point)
+    {
+        currentPoint = point;
+        pointBefore = {};
+    }
+
     QString name;
     QPointer<ZEMPlot> plot;
     ZEMQwtPlotCurvePointGetter *curvePointGetter = nullptr;
     ZEMQwtPlotCurvePointGetter::PlotCurvePoint currentPoint;
+    ZEMQwtPlotCurvePointGetter::PlotCurvePoint pointBefore; // its curve was detached
 };
 
 ZEMQwtPlotPointPicker::ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
@@ -34,11 +52,8 @@ ZEMQwtPlotPointPicker::ZEMQwtPlotPointPicker(QString name, ZEMPlot *plot,
     setStateMachine(new ZEMTrackerPickerMachine(pattern));
     // The base's signal and the slot here share their name, so that only strings tell them apart.
     connect(this, SIGNAL(selected(QPointF)), this, SLOT(selected(QPointF)));
-    connect(plot, &QwtPlot::itemAttached, this, [this](QwtPlotItem *item, bool on) {
-        if (!on && item == d->currentPoint.curve) {
-            clearPickedPlotPoint();
-        }
-    });
+    connect(plot, &QwtPlot::itemAttached, this,
+            [this](QwtPlotItem *item, bool on) { d->handleAttached(item, on); });
 }
 
 ZEMQwtPlotPointPicker::~ZEMQwtPlotPointPicker() = default;
@@ -75,7 +90,7 @@ ZEMQwtPlotCurvePointGetter::PlotCurvePoint ZEMQwtPlotPointPicker::getPickedPlotP
 
 void ZEMQwtPlotPointPicker::clearPickedPlotPoint()
 {
-    d->currentPoint = {};
+    d->take({});
 }
 
 void ZEMQwtPlotPointPicker::selected(const QPointF &pos)
@@ -86,7 +101,7 @@ void ZEMQwtPlotPointPicker::selected(const QPointF &pos)
 void ZEMQwtPlotPointPicker::updateCurrentPoint(ZEMQwtPlotCurvePointGetter::PlotCurvePoint point)
 {
     if (point.valid) {
-        d->currentPoint = point;
+        d->take(point);
         Q_EMIT selectedPlotPoint(point);
     }
 }
