@@ -85,11 +85,16 @@ void ZEMPlotTouchGuard::setLeastView(const QSizeF &size)
 
 bool ZEMPlotTouchGuard::eventFilter(QObject *watched, QEvent *event)
 {
+    // The newest filter is asked first, and pickers are made and enabled at any time. Installed
+    // while filters are being asked, one behind those that are gone would not hear of the event.
+    const auto getAhead = [this, watched] { watched->installEventFilter(this); };
     switch (event->type()) {
+    case QEvent::ChildAdded:
+        QMetaObject::invokeMethod(this, getAhead, Qt::QueuedConnection);
+        return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        // The newest filter is asked first, and pickers may have been made since.
-        watched->installEventFilter(this);
+        QMetaObject::invokeMethod(this, getAhead, Qt::QueuedConnection);
         d->handlePress(static_cast<const QMouseEvent *>(event));
         return false;
     case QEvent::MouseMove:

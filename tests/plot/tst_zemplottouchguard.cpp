@@ -28,6 +28,9 @@ private Q_SLOTS:
     void tremblingTapPicks();
     void tremblingTapDoesNotZoom();
     void tapIsGuardedForPickersMadeLater();
+    void dragZoomsAfterAPickerIsGone_data();
+    void dragZoomsAfterAPickerIsGone();
+    void swiftTapIsGuardedForPickersMadeLater();
     void quickSecondTapIsGuardedToo();
     void movesBeyondTheDistanceReachTheZoomer_data();
     void movesBeyondTheDistanceReachTheZoomer();
@@ -68,6 +71,19 @@ void touch(QWidget *canvas, const QVector<QPoint> &moves, Qt::MouseButton button
         ZemTest::moveTo(canvas, start + way);
     }
     ZemTest::release(canvas, start + moves.last(), button);
+}
+
+/** A trembling tap of which all is delivered before the event loop gets its turn. */
+void tapSwiftly(QWidget *canvas, QEvent::Type press)
+{
+    const QPoint end = start + QPoint(2, 2);
+    QMouseEvent down(press, start, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(canvas, &down);
+    QMouseEvent move(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(canvas, &move); // of which the first may only arm a picker
+    QCoreApplication::sendEvent(canvas, &move);
+    QMouseEvent up(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(canvas, &up);
 }
 
 const QVector<QPoint> tremble = {QPoint(2, 1), QPoint(-3, -4), QPoint(1, -2)};
@@ -143,21 +159,45 @@ void tst_ZEMPlotTouchGuard::tapIsGuardedForPickersMadeLater()
     QCOMPARE(zoomer()->zoomRectIndex(), 0u);
 }
 
+void tst_ZEMPlotTouchGuard::dragZoomsAfterAPickerIsGone_data()
+{
+    QTest::addColumn<bool>("deleted");
+
+    QTest::newRow("deleted") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void tst_ZEMPlotTouchGuard::dragZoomsAfterAPickerIsGone()
+{
+    QFETCH(bool, deleted);
+    addGuard();
+    auto picker = std::make_unique<ZEMQwtPlotPointPicker>(QString(), stage->plot.get(),
+                                                          QwtEventPattern::MouseSelect1);
+    if (deleted) {
+        picker.reset();
+    } else {
+        picker->setEnabled(false);
+    }
+    touch(stage->canvas(), {QPoint(40, 30), QPoint(80, 60)});
+    QCOMPARE(zoomer()->zoomRectIndex(), 1u);
+}
+
+void tst_ZEMPlotTouchGuard::swiftTapIsGuardedForPickersMadeLater()
+{
+    addGuard();
+    const ZEMQwtPlotPointPicker picker(QString(), stage->plot.get(), QwtEventPattern::MouseSelect1);
+    QCoreApplication::processEvents();
+    tapSwiftly(stage->canvas(), QEvent::MouseButtonPress);
+    QVERIFY(picker.getPickedPlotPoint().valid);
+}
+
 void tst_ZEMPlotTouchGuard::quickSecondTapIsGuardedToo()
 {
     ZEMQwtPlotPointPicker picker(QString(), stage->plot.get(), QwtEventPattern::MouseSelect1);
     addGuard();
     const QSignalSpy spy(&picker, &ZEMQwtPlotPointPicker::selectedPlotPoint);
     touch(stage->canvas(), tremble);
-    QMouseEvent again(QEvent::MouseButtonDblClick, start, Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(stage->canvas(), &again);
-    QMouseEvent move(QEvent::MouseMove, start + QPoint(2, 2), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(stage->canvas(), &move);
-    QMouseEvent release(QEvent::MouseButtonRelease, start + QPoint(2, 2), Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(stage->canvas(), &release);
+    tapSwiftly(stage->canvas(), QEvent::MouseButtonDblClick);
     QCOMPARE(spy.count(), 2);
 }
 
