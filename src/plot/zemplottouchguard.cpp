@@ -12,6 +12,12 @@
 #include <QPointer>
 #include <QStack>
 
+namespace {
+
+constexpr double finestPart = 100000.0; // of the zoom base: the least size of QwtPlotZoomer
+
+} // namespace
+
 class ZEMPlotTouchGuard::Private
 {
 public:
@@ -34,7 +40,9 @@ public:
     {
         QStack<QRectF> views = zoomer->zoomStack();
         int index = static_cast<int>(zoomer->zoomRectIndex());
-        const QRectF view = ZoomGesture::keptInside(views.at(index), views.first(), leastView);
+        // Of a view that lies outside of the base nothing is left, which no scale can show.
+        const QSizeF least = leastView.expandedTo(views.first().size() / finestPart);
+        const QRectF view = ZoomGesture::keptInside(views.at(index), views.first(), least);
         if (index == 0 || view == views.at(index)) {
             return;
         }
