@@ -8,12 +8,12 @@
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
+#include <QStringList>
 #include <QWidget>
 #include <QXmlStreamReader>
 
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace KeyboardFile {
 
@@ -36,21 +36,18 @@ public:
 class Entities
 {
 public:
-    explicit Entities(QString content) : text(std::move(content))
+    explicit Entities(const QString &content) : text(withoutEscapes(content))
     {
-        // An escaped sign of a reference is one when the entity around it is used.
-        static const QRegularExpression escaped(QStringLiteral("&#(?:0*38|x0*26);"));
-        static const QRegularExpression escapedPercent(QStringLiteral("&#(?:0*37|x0*25);"));
         static const QRegularExpression declaration(
             QStringLiteral("<!ENTITY\\s+(%\\s+)?([^\\s\"']+)\\s+(?:\"([^\"]*)\"|'([^']*)')"));
-        text.replace(escaped, QStringLiteral("&"));
-        text.replace(escapedPercent, QStringLiteral("%"));
         auto matches = declaration.globalMatch(text);
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
             const QChar sign = QLatin1Char(match.capturedLength(1) > 0 ? '%' : '&');
+            const QString meaning = match.captured(3) + match.captured(4);
             // Of several meanings all count.
-            meanings[sign + match.captured(2)] += match.captured(3) + match.captured(4);
+            meanings[sign + match.captured(2)] += meaning;
+            allLength += meaning.size();
         }
     }
 
@@ -58,6 +55,35 @@ public:
     qint64 growth() { return growthOf(text, 0); }
 
 private:
+    /** An escaped reference is one when the entity around it is used. */
+    static QString withoutEscapes(const QString &content)
+    {
+        static const QRegularExpression escape(QStringLiteral("&#(?:x([0-9a-fA-F]+)|([0-9]+));"));
+        QString plain;
+        int from = 0;
+        auto matches = escape.globalMatch(content);
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            const bool isHex = match.capturedLength(1) > 0;
+            const ushort code =
+                isHex ? match.captured(1).toUShort(nullptr, 16) : match.captured(2).toUShort();
+            // No quotation mark of its own ends a meaning.
+            if (code != 0 && code != '"' && code != '\'') {
+                plain += content.mid(from, match.capturedStart() - from) + QChar(code);
+                from = match.capturedEnd();
+            }
+        }
+        return plain + content.mid(from);
+    }
+
+    static bool isCharacter(const QString &name)
+    {
+        static const QStringList predefined {QStringLiteral("&amp"), QStringLiteral("&lt"),
+                                             QStringLiteral("&gt"), QStringLiteral("&quot"),
+                                             QStringLiteral("&apos")};
+        return name.startsWith(QLatin1String("&#")) || predefined.contains(name);
+    }
+
     qint64 growthOf(const QString &content, int level)
     {
         constexpr int levelLimit = 16;
@@ -67,6 +93,8 @@ private:
         while (matches.hasNext() && growth <= growthLimit) {
             const QString name = matches.next().captured(1);
             if (!meanings.contains(name)) {
+                // It may have been declared by what another one stands for.
+                growth += isCharacter(name) ? 0 : allLength;
                 continue;
             }
             if (!lengths.contains(name)) {
@@ -81,6 +109,7 @@ private:
 
     QString text;
     QHash<QString, QString> meanings; // by the sign and the name of a reference
+    qint64 allLength = 0; // of the meanings
     QHash<QString, qint64> lengths;
 };
 

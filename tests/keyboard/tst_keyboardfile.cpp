@@ -324,6 +324,10 @@ void tst_KeyboardFile::readsWhatEntitiesAddUpToTheLimit()
     QDomDocument document;
     QVERIFY(KeyboardFile::read(files.write(withEntity(half, "<a>&e;</a>")), &document));
     QCOMPARE(document.documentElement().text().size(), half.size());
+    const QByteArray others = QByteArray("&amp;&lt;&#233;&#x26;").repeated(1000);
+    QVERIFY(
+        KeyboardFile::read(files.write(withEntity("xx", "<a>&e;" + others + "</a>")), &document));
+    QCOMPARE(document.documentElement().text().size(), 2 + 4 * 1000);
     // A file may be large by itself.
     const QByteArray text(3 * KeyboardFile::growthLimit, 'x');
     const QByteArray large = withEntity("y", "<a b='" + text + "'>&e;" + text + "</a>");
@@ -354,6 +358,12 @@ void tst_KeyboardFile::refusesWhatEntitiesMakeTooLarge_data()
     QTest::newRow("behind an escape") << "<!DOCTYPE keyboard [<!ENTITY a \"" + longText
             + "\"><!ENTITY e \"" + QByteArray("&#38;a;").repeated(9) + "\">]><keyboard>"
             + QByteArray("&e;").repeated(20000) + "</keyboard>";
+    QTest::newRow("behind an escaped name") << "<!DOCTYPE keyboard [<!ENTITY a \"" + longText
+            + "\"><!ENTITY e \"&#38;&#97;;\">]><keyboard>&e;&e;</keyboard>";
+    QTest::newRow("behind an escaped quotation mark")
+        << withEntity("&#34;" + longText, QByteArray("&e;&e;"));
+    QTest::newRow("declared by another one") << "<!DOCTYPE keyboard [<!ENTITY % p \"<!ENTITY e '"
+            + longText + "'>\"> %p;]><keyboard>&e;&e;</keyboard>";
     QTest::newRow("too long by itself")
         << withEntity(QByteArray(KeyboardFile::growthLimit + 1, 'x'), "<a>&e;&e;</a>");
 }
