@@ -19,6 +19,14 @@ namespace LifetimeRows {
 
 using Make = std::function<Lifetime::Stage()>;
 
+} // namespace LifetimeRows
+
+// Before the first function that makes a column of them.
+Q_DECLARE_METATYPE(LifetimeRows::Make)
+Q_DECLARE_METATYPE(Lifetime::End)
+
+namespace LifetimeRows {
+
 /** The signals of each class that rows were added for. */
 inline QHash<QByteArray, QSet<QByteArray>> &heardSignals()
 {
@@ -142,8 +150,5 @@ inline QStringList unheard(const QMetaObject &metaObject)
 }
 
 } // namespace LifetimeRows
-
-Q_DECLARE_METATYPE(LifetimeRows::Make)
-Q_DECLARE_METATYPE(Lifetime::End)
 
 #endif
