@@ -21,6 +21,7 @@
 
 using namespace DashboardTest;
 using namespace WidgetTest;
+using ZemTest::PaintCounter;
 
 using Arrows = ZEMAnimatedArrows;
 using Opacities = std::array<qreal, 3>; // from left to right

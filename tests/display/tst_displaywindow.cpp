@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "chartspage.h"
+#include "paintcounter.h"
 #include "playedsource.h"
 
 #include <QAbstractEventDispatcher>
@@ -25,31 +26,16 @@
 using namespace ZemTest;
 using Readings::Quantity;
 
-/** Counts the paint events of all arrows in a widget. */
-class PaintCounter : public QObject
+/** Lets @p counter count the paint events of all arrows in @p root. */
+static void watchArrows(PaintCounter *counter, QWidget *root)
 {
-    Q_OBJECT
-
-public:
-    explicit PaintCounter(QWidget *root)
-    {
-        for (ZEMAnimatedArrows *arrows : root->findChildren<ZEMAnimatedArrows *>()) {
-            arrows->installEventFilter(this);
-            for (QWidget *icon : arrows->findChildren<QWidget *>()) {
-                icon->installEventFilter(this);
-            }
+    for (ZEMAnimatedArrows *arrows : root->findChildren<ZEMAnimatedArrows *>()) {
+        counter->watch(arrows);
+        for (QWidget *icon : arrows->findChildren<QWidget *>()) {
+            counter->watch(icon);
         }
     }
-
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
+}
 
 /** Lets the display come to rest: all that was begun by showing it is painted. */
 static void settle(const PaintCounter &paints)
@@ -297,7 +283,8 @@ void tst_DisplayWindow::hiddenArrowsPaintNothing()
     PlayedDisplay display(*source);
     DisplayWindow &window = display.window;
     QVERIFY(display.show());
-    PaintCounter paints(&window);
+    PaintCounter paints;
+    watchArrows(&paints, &window);
     ZEM_TRY_VERIFY(paints.count > 5);
 
     window.openPage(QStringLiteral("charts"));
@@ -318,7 +305,8 @@ void tst_DisplayWindow::stoppedFlowsPaintNothing()
     PlayedDisplay display(*source);
     DisplayWindow &window = display.window;
     QVERIFY(display.show());
-    PaintCounter paints(&window);
+    PaintCounter paints;
+    watchArrows(&paints, &window);
     settle(paints);
     paints.count = 0;
     QTest::qWait(400);

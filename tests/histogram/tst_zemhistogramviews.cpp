@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "chartfixture.h"
+#include "paintcounter.h"
 #include "zemtest.h"
 
 #include <ZEMHistogramData>
@@ -19,21 +20,6 @@
 using namespace ZemTest;
 
 namespace {
-
-/** Counts how often a widget is painted. */
-class PaintCount : public QObject
-{
-public:
-    explicit PaintCount(QWidget *watchedWidget) { watchedWidget->installEventFilter(this); }
-
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
 
 /** A shown chart of weeks, and the axis with their dates. */
 class MonthStage
@@ -141,7 +127,7 @@ void tst_ZEMHistogramViews::timestampShowsOnAnAxisOfDates()
     QVERIFY(stage.isReady);
     const QImage before = render(stage.axis);
     QCoreApplication::processEvents();
-    const PaintCount paints(stage.axis);
+    const PaintCounter paints(stage.axis);
     stage.chart.setDataChangedTimestamp(QDateTime(QDate(2016, 6, 6), QTime(0, 0), Qt::UTC));
     stage.chart.replot();
     QCoreApplication::processEvents();

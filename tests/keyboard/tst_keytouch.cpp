@@ -10,7 +10,7 @@
 #include <QWindow>
 
 using namespace KeyboardTest;
-using WidgetTest::PaintCounter;
+using ZemTest::PaintCounter;
 
 /** How keys are painted while they are touched, and what is beneath them. */
 class tst_KeyTouch : public QObject

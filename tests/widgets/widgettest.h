@@ -4,8 +4,9 @@
 #ifndef WIDGETTEST_H
 #define WIDGETTEST_H
 
+#include "paintcounter.h"
+
 #include <QCoreApplication>
-#include <QEvent>
 #include <QMetaProperty>
 #include <QObject>
 #include <QStringList>
@@ -16,21 +17,6 @@
 /** What the tests of the page and control widgets share. */
 namespace WidgetTest {
 
-/** Counts the paint events of one widget. */
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
-
 enum class Painted { AtOnce, Later, Never };
 
 /** When @p widget, which must be visible, is painted because of @p change. */
@@ -39,7 +25,7 @@ Painted paintedBy(QWidget *widget, Change change)
 {
     constexpr int settleTime = 30; // ms, two frames
     QTest::qWait(settleTime);
-    PaintCounter counter(widget);
+    ZemTest::PaintCounter counter(widget);
     change();
     if (counter.count > 0) {
         return Painted::AtOnce;
