@@ -4,7 +4,7 @@
 #ifndef FASTSCALEDRAW_P_H
 #define FASTSCALEDRAW_P_H
 
-#include "chartshortcuts_p.h"
+#include "quickpaths_p.h"
 #include "scalelabels_p.h"
 #include "scaletexts_p.h"
 
@@ -96,7 +96,7 @@ public:
     double extent(const QFont &font) const override
     {
         std::optional<double> measured;
-        if (ChartShortcuts::areEnabled()) {
+        if (QuickPaths::areOpen()) {
             measured = ScaleMeasure(*this, this, font).extent();
         }
         return measured ? *measured : Base::extent(font);
@@ -105,7 +105,7 @@ public:
 protected:
     void drawLabel(QPainter *painter, double value) const override
     {
-        const bool isQuick = ChartShortcuts::areEnabled() && this->labelRotation() == 0.0
+        const bool isQuick = QuickPaths::areOpen() && this->labelRotation() == 0.0
             && painter->deviceTransform().type() <= QTransform::TxTranslate;
         const ScaleLabels::Label *label = isQuick ? findLabel(value, painter->font()) : nullptr;
         if (!label) {
@@ -127,7 +127,7 @@ protected:
     void drawTick(QPainter *painter, double value, double length) const override
     {
         const bool isThin = this->penWidth() == 0 && painter->pen().style() == Qt::SolidLine;
-        if (ChartShortcuts::areEnabled() && isThin && FastScale::keepsPixels(painter)) {
+        if (QuickPaths::areOpen() && isThin && FastScale::keepsPixels(painter)) {
             if (const auto rect = FastScale::tickRect(*this, value, length)) {
                 painter->fillRect(*rect, painter->pen().color());
                 return;

@@ -3,8 +3,8 @@
 
 #include "histogramplot_p.h"
 
-#include "chartshortcuts_p.h"
 #include "plotsizehints_p.h"
+#include "quickpaths_p.h"
 #include "quietaxes_p.h"
 #include "scalelabels_p.h"
 
@@ -91,7 +91,7 @@ HistogramPlot *HistogramPlot::newPlot(QWidget *parent)
 {
     const QuietBirth quiet(parent);
     auto *plot = new HistogramPlot(parent);
-    if (ChartShortcuts::areEnabled()) {
+    if (QuickPaths::areOpen()) {
         plot->isUnmeasured[yRight] = true;
         plot->isUnmeasured[xTop] = true;
     }
@@ -120,8 +120,7 @@ void HistogramPlot::setAxisScale(QwtPlot *plot, int axis, double minimum, double
 {
     plot->setAxisScale(axis, minimum, maximum, step);
     // A plot that replots on its own has done so already.
-    if (ChartShortcuts::areEnabled() && !plot->autoReplot()
-        && dynamic_cast<HistogramPlot *>(plot)) {
+    if (QuickPaths::areOpen() && !plot->autoReplot() && dynamic_cast<HistogramPlot *>(plot)) {
         plot->setAxisScaleDiv(
             axis,
             plot->axisScaleEngine(axis)->divideScale(minimum, maximum, plot->axisMaxMajor(axis),
@@ -131,7 +130,7 @@ void HistogramPlot::setAxisScale(QwtPlot *plot, int axis, double minimum, double
 
 void HistogramPlot::replot()
 {
-    if (!ChartShortcuts::areEnabled()) {
+    if (!QuickPaths::areOpen()) {
         QwtPlot::replot();
         return;
     }
@@ -198,13 +197,13 @@ bool HistogramPlot::layOutQuickly()
 
 QSize HistogramPlot::sizeHint() const
 {
-    const auto hint = ChartShortcuts::areEnabled() ? PlotSizeHints::preferred(*this) : std::nullopt;
+    const auto hint = QuickPaths::areOpen() ? PlotSizeHints::preferred(*this) : std::nullopt;
     return hint ? *hint : QwtPlot::sizeHint();
 }
 
 QSize HistogramPlot::minimumSizeHint() const
 {
-    const auto hint = ChartShortcuts::areEnabled() ? PlotSizeHints::minimum(*this) : std::nullopt;
+    const auto hint = QuickPaths::areOpen() ? PlotSizeHints::minimum(*this) : std::nullopt;
     return hint ? *hint : QwtPlot::minimumSizeHint();
 }
 

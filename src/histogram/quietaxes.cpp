@@ -3,7 +3,7 @@
 
 #include "quietaxes_p.h"
 
-#include "chartshortcuts_p.h"
+#include "quickpaths_p.h"
 
 #include <QChildEvent>
 
@@ -12,7 +12,7 @@
 
 bool mayBeQuiet(const QwtPlot &plot)
 {
-    return ChartShortcuts::areEnabled() && !plot.testAttribute(Qt::WA_WState_Polished);
+    return QuickPaths::areOpen() && !plot.testAttribute(Qt::WA_WState_Polished);
 }
 
 QuietScale::QuietScale(const QwtPlot *plot, QwtScaleDraw *quietDraw)
@@ -40,7 +40,7 @@ QuietAxes::QuietAxes(QwtPlot *plot)
 
 QuietBirth::QuietBirth(QObject *plotParent) : parentOfPlot(plotParent)
 {
-    if (ChartShortcuts::areEnabled()) {
+    if (QuickPaths::areOpen()) {
         parentOfPlot->installEventFilter(this);
     }
 }

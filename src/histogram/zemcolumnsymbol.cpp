@@ -3,8 +3,8 @@
 
 #include "zemcolumnsymbol.h"
 
-#include "chartshortcuts_p.h"
 #include "histogramgeometry_p.h"
+#include "quickpaths_p.h"
 #include "zempixmapcache.h"
 
 #include <QBrush>
@@ -51,7 +51,7 @@ void ZEMColumnSymbol::draw(QPainter *painter, const QwtColumnRect &rect) const
     if (!rect.hInterval.isValid()) {
         return;
     }
-    if (ChartShortcuts::areEnabled() && d->fillPlainBox(*this, painter, rect)) {
+    if (QuickPaths::areOpen() && d->fillPlainBox(*this, painter, rect)) {
         return;
     }
     painter->save();

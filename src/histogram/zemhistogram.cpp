@@ -3,10 +3,10 @@
 
 #include "zemhistogram.h"
 
-#include "chartshortcuts_p.h"
 #include "histogramlayout_p.h"
 #include "histogramplot_p.h"
 #include "objectname_p.h"
+#include "quickpaths_p.h"
 #include "quietaxes_p.h"
 #include "qwtplotmover.h"
 #include "scalelabels_p.h"
@@ -40,8 +40,7 @@ constexpr int canvasMarginRight = 10; // pixels
 /** As QwtScaleDraw::maxLabelWidth(), quickly for the library's own scales. */
 int widestLabel(const QwtScaleWidget &scale)
 {
-    const auto width =
-        ChartShortcuts::areEnabled() ? ScaleMeasure(scale).maxLabelWidth() : std::nullopt;
+    const auto width = QuickPaths::areOpen() ? ScaleMeasure(scale).maxLabelWidth() : std::nullopt;
     return width ? *width : scale.scaleDraw()->maxLabelWidth(scale.font());
 }
 

@@ -1,92 +1,29 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "chartshortcuts_p.h"
-#include "zemhistogramdata.h"
-#include "zemhistogramseries.h"
-#include "zemminidayhistogram.h"
-#include "zemsmartdayhistogram.h"
-#include "zemsmartmonthhistogram.h"
-#include "zemsmartweekhistogram.h"
+#include "quickpathsfixture.h"
 #include "zemtest.h"
-#include "zemweekhistogram.h"
 
 #include <QImage>
 #include <QLocale>
-#include <QPainter>
+#include <QScopeGuard>
 #include <QTest>
 #include <QVBoxLayout>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
+#include <qwt_text.h>
+#include <qwt_text_engine.h>
 
 #include <functional>
 #include <memory>
 #include <random>
 #include <vector>
 
+using namespace QuickPathsTest;
+
 namespace {
-
-constexpr unsigned int windows = 40;
-
-/** A ground of many colours, on which text and thin lines blend with something. */
-class Ground : public QWidget
-{
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override
-    {
-        QPainter painter(this);
-        QLinearGradient gradient(rect().topLeft(), rect().bottomRight());
-        gradient.setColorAt(0.0, QColor(200, 30, 60));
-        gradient.setColorAt(0.5, QColor(20, 140, 90));
-        gradient.setColorAt(1.0, QColor(10, 20, 200));
-        painter.fillRect(rect(), gradient);
-    }
-};
-
-struct Kind
-{
-    std::function<ZEMHistogram *()> make;
-    unsigned int slotCount;
-};
-
-const std::vector<std::pair<const char *, Kind>> &kinds()
-{
-    static const std::vector<std::pair<const char *, Kind>> all {
-        {"day", {[] { return new ZEMSmartDayHistogram; }, 24}},
-        {"week", {[] { return new ZEMSmartWeekHistogram; }, 7}},
-        {"month", {[] { return new ZEMSmartMonthHistogram; }, 5}},
-        {"plain week", {[] { return new ZEMWeekHistogram; }, 7}},
-        {"mini", {[] { return new ZEMMiniDayHistogram; }, 24}},
-    };
-    return all;
-}
-
-/** A series with gaps, merged runs, zeros and negative values. */
-ZEMHistogramSeries *newSeries(unsigned int slotCount, bool iconColumns, int seed)
-{
-    auto *data = new ZEMHistogramData;
-    data->setWindowSize(slotCount);
-    data->setCenterValue(iconColumns ? 0.05 : 0.1);
-    data->setNrWindows(windows);
-    std::mt19937 random(static_cast<std::mt19937::result_type>(seed));
-    for (unsigned int window = 0; window < windows; ++window) {
-        std::vector<double> values;
-        for (unsigned int i = 0; i < slotCount; ++i) {
-            values.push_back(double(random() % 40) / 4.0 - 1.0);
-        }
-        data->setWindowValues(window, 0, slotCount, values.data(), window % 5 == 3);
-        data->invalidateValues(window, 0, slotCount, 2.5);
-    }
-    auto *series = new ZEMHistogramSeries(
-        QStringLiteral("Verbruik"), QBrush(iconColumns ? Qt::green : Qt::yellow), iconColumns);
-    if (iconColumns) {
-        series->setIcon(QStringLiteral(":/zem/graphics/gwe/icons/icon_el_12x16.png"));
-    }
-    series->setData(data);
-    return series;
-}
 
 /** A chart on a ground, shown and fed. */
 class Stage
@@ -150,14 +87,51 @@ private:
     }
 };
 
+/** Counts how often a text is measured, as long as it is in place of Qwt's engine. */
+class CountingEngine : public QwtPlainTextEngine
+{
+public:
+    explicit CountingEngine(int *measuredTexts) : count(measuredTexts) { }
+
+    QSizeF textSize(const QFont &font, int flags, const QString &text) const override
+    {
+        ++*count;
+        return QwtPlainTextEngine::textSize(font, flags, text);
+    }
+
+private:
+    int *count;
+};
+
+/** Counts the events of one type that an object is sent. */
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QObject *watchedObject, QEvent::Type countedType) : type(countedType)
+    {
+        watchedObject->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == type ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    QEvent::Type type;
+};
+
 using Story = std::function<std::vector<QImage>()>;
 
-/** Plays a story without and with the shortcuts and compares the pictures. */
+/** Plays a story without and with the quick paths and compares the pictures. */
 void compare(const Story &story)
 {
-    ChartShortcuts::setEnabled(false);
+    setOpen(false);
     const std::vector<QImage> plain = story();
-    ChartShortcuts::setEnabled(true);
+    setOpen(true);
     const std::vector<QImage> quick = story();
     QCOMPARE(quick.size(), plain.size());
     for (std::size_t i = 0; i < plain.size(); ++i) {
@@ -176,13 +150,17 @@ void compare(const Story &story)
 
 Q_DECLARE_METATYPE(std::function<void(Stage &)>)
 
-/** The quick ways of the charts show what the slow ones show, byte for byte. */
-class tst_ChartShortcuts : public QObject
+/** The quick paths of the charts show what the slow ones show, byte for byte. */
+class tst_QuickPaths : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup();
+    void openWithTheVersionsThatWereTried();
+    void everyDragLaysOutWithAnUntriedQwt();
+    void newChartMeasuresNoLabel_data();
+    void newChartMeasuresNoLabel();
     void dragShowsTheSamePixels_data();
     void dragShowsTheSamePixels();
     void dragWithChildShowsTheSamePixels();
@@ -198,13 +176,61 @@ private Q_SLOTS:
     void changeShowsAtOnce();
 };
 
-void tst_ChartShortcuts::cleanup()
+void tst_QuickPaths::cleanup()
 {
-    ChartShortcuts::setEnabled(true);
+    setOpen(true);
     QLocale::setDefault(QLocale::c());
 }
 
-void tst_ChartShortcuts::dragShowsTheSamePixels_data()
+void tst_QuickPaths::openWithTheVersionsThatWereTried()
+{
+    QCOMPARE(
+        std::vector<int>(QuickPaths::triedQwtVersions.begin(), QuickPaths::triedQwtVersions.end()),
+        std::vector<int> {0x060104});
+    QCOMPARE(QuickPaths::qwtVersion(), QWT_VERSION);
+    for (const int untried : {0, 0x060103, 0x060105, 0x060106, 0x060200, 0x060300}) {
+        qApp->setProperty(QuickPaths::qwtVersionProperty, untried);
+        QVERIFY(!QuickPaths::areOpen());
+    }
+    qApp->setProperty(QuickPaths::qwtVersionProperty, 0x060104);
+    QVERIFY(QuickPaths::areOpen());
+}
+
+void tst_QuickPaths::everyDragLaysOutWithAnUntriedQwt()
+{
+    constexpr int drags = 10;
+    for (const bool tried : {true, false}) {
+        qApp->setProperty(QuickPaths::qwtVersionProperty, tried ? 0x060104 : 0x060200);
+        Stage stage(kinds()[0].second);
+        const EventCounter layouts(stage.plot(), QEvent::LayoutRequest);
+        for (int i = 0; i < drags; ++i) {
+            stage.drag(6);
+        }
+        QCOMPARE(layouts.count >= drags, !tried);
+    }
+}
+
+void tst_QuickPaths::newChartMeasuresNoLabel_data()
+{
+    dragShowsTheSamePixels_data();
+}
+
+void tst_QuickPaths::newChartMeasuresNoLabel()
+{
+    QFETCH(int, kind);
+    int measured = 0;
+    QwtText::setTextEngine(QwtText::PlainText, new CountingEngine(&measured));
+    const auto restore =
+        qScopeGuard([] { QwtText::setTextEngine(QwtText::PlainText, new QwtPlainTextEngine); });
+    for (const bool open : {true, false}) {
+        setOpen(open);
+        measured = 0;
+        const std::unique_ptr<ZEMHistogram> chart(kinds()[std::size_t(kind)].second.make());
+        QCOMPARE(measured > 0, !open);
+    }
+}
+
+void tst_QuickPaths::dragShowsTheSamePixels_data()
 {
     QTest::addColumn<int>("kind");
     for (std::size_t i = 0; i < kinds().size(); ++i) {
@@ -212,7 +238,7 @@ void tst_ChartShortcuts::dragShowsTheSamePixels_data()
     }
 }
 
-void tst_ChartShortcuts::dragShowsTheSamePixels()
+void tst_QuickPaths::dragShowsTheSamePixels()
 {
     QFETCH(int, kind);
     compare([kind] {
@@ -228,7 +254,7 @@ void tst_ChartShortcuts::dragShowsTheSamePixels()
     });
 }
 
-void tst_ChartShortcuts::dragWithChildShowsTheSamePixels()
+void tst_QuickPaths::dragWithChildShowsTheSamePixels()
 {
     compare([] {
         Stage stage(kinds()[0].second, true);
@@ -241,12 +267,12 @@ void tst_ChartShortcuts::dragWithChildShowsTheSamePixels()
     });
 }
 
-void tst_ChartShortcuts::periodMovesShowTheSamePixels_data()
+void tst_QuickPaths::periodMovesShowTheSamePixels_data()
 {
     dragShowsTheSamePixels_data();
 }
 
-void tst_ChartShortcuts::periodMovesShowTheSamePixels()
+void tst_QuickPaths::periodMovesShowTheSamePixels()
 {
     QFETCH(int, kind);
     compare([kind] {
@@ -267,12 +293,12 @@ void tst_ChartShortcuts::periodMovesShowTheSamePixels()
     });
 }
 
-void tst_ChartShortcuts::firstSightShowsTheSamePixels_data()
+void tst_QuickPaths::firstSightShowsTheSamePixels_data()
 {
     dragShowsTheSamePixels_data();
 }
 
-void tst_ChartShortcuts::firstSightShowsTheSamePixels()
+void tst_QuickPaths::firstSightShowsTheSamePixels()
 {
     QFETCH(int, kind);
     using Act = std::function<void(ZEMHistogram *)>;
@@ -315,12 +341,12 @@ void tst_ChartShortcuts::firstSightShowsTheSamePixels()
     }
 }
 
-void tst_ChartShortcuts::quietAxesKeepTheirLabels_data()
+void tst_QuickPaths::quietAxesKeepTheirLabels_data()
 {
     dragShowsTheSamePixels_data();
 }
 
-void tst_ChartShortcuts::quietAxesKeepTheirLabels()
+void tst_QuickPaths::quietAxesKeepTheirLabels()
 {
     QFETCH(int, kind);
     const auto labelled = [](ZEMHistogram *chart) {
@@ -333,7 +359,7 @@ void tst_ChartShortcuts::quietAxesKeepTheirLabels()
     };
     std::vector<std::vector<bool>> plain;
     for (const bool quick : {false, true}) {
-        ChartShortcuts::setEnabled(quick);
+        setOpen(quick);
         const std::unique_ptr<ZEMHistogram> chart(kinds()[std::size_t(kind)].second.make());
         QCOMPARE(labelled(chart.get()), std::vector<bool>(QwtPlot::axisCnt, true));
         chart->init();
@@ -345,17 +371,17 @@ void tst_ChartShortcuts::quietAxesKeepTheirLabels()
     QCOMPARE(plain[3], plain[1]);
 }
 
-void tst_ChartShortcuts::sizeHintsAreTheSame_data()
+void tst_QuickPaths::sizeHintsAreTheSame_data()
 {
     dragShowsTheSamePixels_data();
 }
 
-void tst_ChartShortcuts::sizeHintsAreTheSame()
+void tst_QuickPaths::sizeHintsAreTheSame()
 {
     QFETCH(int, kind);
     QVector<QSize> hints[2];
     for (const bool quick : {false, true}) {
-        ChartShortcuts::setEnabled(quick);
+        setOpen(quick);
         const std::unique_ptr<ZEMHistogram> chart(kinds()[std::size_t(kind)].second.make());
         auto *plot = chart->findChild<QwtPlot *>();
         const auto note = [&] {
@@ -378,7 +404,7 @@ void tst_ChartShortcuts::sizeHintsAreTheSame()
     QCOMPARE(hints[1], hints[0]);
 }
 
-void tst_ChartShortcuts::changeShowsAtOnce_data()
+void tst_QuickPaths::changeShowsAtOnce_data()
 {
     using Change = std::function<void(Stage &)>;
     QTest::addColumn<Change>("change");
@@ -392,7 +418,7 @@ void tst_ChartShortcuts::changeShowsAtOnce_data()
     });
     QTest::newRow("locale") << Change([](Stage &stage) {
         QLocale::setDefault(QLocale(QLocale::Dutch));
-        // Without the shortcuts Qwt keeps its labels for as long as the scale stays.
+        // Without the quick paths Qwt keeps its labels for as long as the scale stays.
         stage.drag(7);
     });
     QTest::newRow("palette") << Change([](Stage &stage) {
@@ -457,7 +483,7 @@ void tst_ChartShortcuts::changeShowsAtOnce_data()
     });
 }
 
-void tst_ChartShortcuts::changeShowsAtOnce()
+void tst_QuickPaths::changeShowsAtOnce()
 {
     using Change = std::function<void(Stage &)>;
     QFETCH(Change, change);
@@ -493,5 +519,5 @@ void tst_ChartShortcuts::changeShowsAtOnce()
     }
 }
 
-QTEST_MAIN(tst_ChartShortcuts)
-#include "tst_chartshortcuts.moc"
+QTEST_MAIN(tst_QuickPaths)
+#include "tst_quickpaths.moc"
