@@ -9,17 +9,22 @@
 #include "scaletexts_p.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QHash>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPen>
 #include <QRect>
 #include <QRectF>
+#include <QScreen>
 
 #include <qwt_painter.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
 #include <qwt_text.h>
 
+#include <cmath>
 #include <optional>
 
 namespace FastScale {
@@ -30,6 +35,36 @@ inline bool keepsPixels(QPainter *painter)
     return QwtPainter::roundingAlignment(painter)
         && painter->deviceTransform().type() <= QTransform::TxTranslate
         && !painter->testRenderHint(QPainter::Antialiasing);
+}
+
+/**
+ * True when @p painter draws the glyphs of a label as Qwt does: neither from right to left, nor on
+ * a device of another density, for which Qwt makes a font of its own.
+ */
+inline bool drawsGlyphs(const QPainter *painter)
+{
+    const QPaintDevice *device = painter->device();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return painter->layoutDirection() == Qt::LeftToRight
+        && painter->deviceTransform().type() <= QTransform::TxTranslate
+        && painter->paintEngine()->type() == QPaintEngine::Raster && screen
+        && device->logicalDpiX() == qRound(screen->logicalDotsPerInchX())
+        && device->logicalDpiY() == qRound(screen->logicalDotsPerInchY());
+}
+
+/**
+ * True when a label at @p corner comes to lie on the same pixels however its place is added up.
+ * Just beside the middle of two pixels it does not.
+ */
+inline bool roundsAlike(const QPainter *painter, const QPointF &corner)
+{
+    const auto isClear = [](double position) {
+        constexpr double uncertain = 1.0 / 32.0; // pixels; glyphs are placed to 1/64
+        const double fromMiddle = std::abs(position - std::floor(position) - 0.5);
+        return fromMiddle == 0.0 || fromMiddle > uncertain;
+    };
+    const QTransform &transform = painter->deviceTransform();
+    return isClear(corner.x() + transform.dx()) && isClear(corner.y() + transform.dy());
 }
 
 /** The pixels of a thin tick at @p value; nothing for what has to be drawn as a line. */
@@ -106,14 +141,15 @@ protected:
     void drawLabel(QPainter *painter, double value) const override
     {
         const bool isQuick = QuickPaths::areOpen() && this->labelRotation() == 0.0
-            && painter->deviceTransform().type() <= QTransform::TxTranslate;
+            && FastScale::drawsGlyphs(painter);
         const ScaleLabels::Label *label = isQuick ? findLabel(value, painter->font()) : nullptr;
-        if (!label) {
+        const QPointF corner =
+            label ? labelCorner(*this, this->labelPosition(value), label->size) : QPointF();
+        if (!label || !FastScale::roundsAlike(painter, corner)) {
             Base::drawLabel(painter, value);
             return;
         }
-        const QRectF room =
-            label->room.translated(labelCorner(*this, this->labelPosition(value), label->size));
+        const QRectF room = label->room.translated(corner);
         if (label->isCut) {
             painter->save();
             painter->setClipRect(room, Qt::IntersectClip);

@@ -3,13 +3,12 @@
 
 #include "histogramplot_p.h"
 
+#include "axisborders_p.h"
 #include "plotsizehints_p.h"
 #include "quickpaths_p.h"
 #include "quietaxes_p.h"
-#include "scalelabels_p.h"
 
 #include <QApplication>
-#include <QResizeEvent>
 
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_draw.h>
@@ -20,87 +19,15 @@
 #include <algorithm>
 #include <optional>
 
-namespace {
-
-ScaleBorders bordersOf(const QwtScaleWidget *widget)
-{
-    return {widget->startBorderDist(), widget->endBorderDist()};
-}
-
-void takeWantedBorders(QwtScaleWidget *widget)
-{
-    int start = 0;
-    int end = 0;
-    widget->getBorderDistHint(start, end);
-    widget->setBorderDist(start, end);
-}
-
-/**
- * Makes a scale widget ask for given borders without measuring its labels, for as long as this
- * lives.
- */
-class FixedBorders
-{
-public:
-    FixedBorders(QwtScaleWidget *quietWidget, const ScaleBorders &borders)
-        : FixedBorders(quietWidget, borders,
-                       // A scale without labels asks for a pixel at its end.
-                       borders.end == 0 ? dynamic_cast<LabelledScale *>(quietWidget->scaleDraw())
-                                        : nullptr)
-    {
-    }
-
-    /** The labels of @p silentScale keep their extent. */
-    FixedBorders(QwtScaleWidget *quietWidget, const ScaleBorders &borders,
-                 LabelledScale *silentScale)
-        : widget(quietWidget),
-          hadLabels(quietWidget->scaleDraw()->hasComponent(QwtAbstractScaleDraw::Labels)),
-          silent(hadLabels ? silentScale : nullptr)
-    {
-        widget->getMinBorderDist(least.start, least.end);
-        widget->setMinBorderDist(borders.start, borders.end);
-        if (silent) {
-            silent->setSilent(true);
-        } else {
-            widget->scaleDraw()->enableComponent(QwtAbstractScaleDraw::Labels, false);
-        }
-    }
-
-    ~FixedBorders()
-    {
-        if (silent) {
-            silent->setSilent(false);
-        } else {
-            widget->scaleDraw()->enableComponent(QwtAbstractScaleDraw::Labels, hadLabels);
-        }
-        widget->setMinBorderDist(least.start, least.end);
-    }
-
-private:
-    Q_DISABLE_COPY(FixedBorders)
-
-    QwtScaleWidget *widget;
-    bool hadLabels;
-    LabelledScale *silent;
-    ScaleBorders least;
-};
-
-} // namespace
-
 HistogramPlot *HistogramPlot::newPlot(QWidget *parent)
 {
     const QuietBirth quiet(parent);
-    auto *plot = new HistogramPlot(parent);
-    if (QuickPaths::areOpen()) {
-        plot->isUnmeasured[yRight] = true;
-        plot->isUnmeasured[xTop] = true;
-    }
-    return plot;
+    return new HistogramPlot(parent);
 }
 
 bool HistogramPlot::LayoutInput::operator==(const LayoutInput &other) const
 {
-    return settings == other.settings && extents == other.extents;
+    return settings == other.settings && extents == other.extents && borders == other.borders;
 }
 
 HistogramPlot::LayoutInput HistogramPlot::currentLayoutInput() const
@@ -109,7 +36,9 @@ HistogramPlot::LayoutInput HistogramPlot::currentLayoutInput() const
     input.settings = HistogramLayout::settingsOf(this);
     for (int axis = 0; axis < axisCnt; ++axis) {
         if (axisEnabled(axis)) {
-            input.extents[axis] = axisScaleDraw(axis)->extent(axisWidget(axis)->font());
+            const QwtScaleWidget *widget = axisWidget(axis);
+            input.extents[axis] = axisScaleDraw(axis)->extent(widget->font());
+            input.borders[axis] = ScaleMeasure(*widget).borders(*widget);
         }
     }
     return input;
@@ -149,20 +78,14 @@ void HistogramPlot::replot()
 
 void HistogramPlot::updateLayout()
 {
-    // Whatever is laid out before the plot is shown is laid out again then.
-    if (mayBeQuiet(*this)) {
-        return;
-    }
     for (int axis = 0; axis < axisCnt; ++axis) {
-        if (isUnmeasured[axis] && axisEnabled(axis)) {
-            isUnmeasured[axis] = false;
-            QwtScaleWidget *widget = axisWidget(axis);
-            // Lets the widget lay out its scale with the labels that it has now.
-            QResizeEvent resize(widget->size(), widget->size());
-            QCoreApplication::sendEvent(widget, &resize);
-            takeWantedBorders(widget);
+        if (isHidden[axis] && axisEnabled(axis)) {
+            AxisBorders::settle(axisWidget(axis));
         }
+        isHidden[axis] = !axisEnabled(axis);
     }
+    // Of now: the labels have other places when it is done.
+    layoutInput = currentLayoutInput();
     if (!isPanning || !layOutQuickly()) {
         QwtPlot::updateLayout();
     }
@@ -170,27 +93,26 @@ void HistogramPlot::updateLayout()
 
 /**
  * Lays out the plot without measuring the labels of the x axis again. Answers false, with the axis
- * as it was, when it needs other borders where it is now.
+ * as it was, when it needs other borders before or after.
  */
 bool HistogramPlot::layOutQuickly()
 {
     QwtScaleWidget *widget = axisWidget(xBottom);
     auto *labelled = dynamic_cast<LabelledScale *>(widget->scaleDraw());
-    if (!axisEnabled(xBottom) || !labelled) {
+    if (!axisEnabled(xBottom) || !labelled || !hasOldBorders(xBottom)) {
         return false;
     }
     const DrawnScale drawn = drawnScale(xBottom);
     const QRect place = widget->geometry();
-    const ScaleBorders borders = bordersOf(widget);
+    const ScaleBorders borders = AxisBorders::of(widget);
     {
-        const FixedBorders fixed(widget, borders, labelled);
+        const AxisBorders::Fixed fixed(widget, borders, labelled);
         QwtPlot::updateLayout();
     }
     if (ScaleMeasure(*widget).borders(*widget) == borders) {
         return true;
     }
     widget->setGeometry(place);
-    widget->setBorderDist(borders.start, borders.end);
     restore(xBottom, drawn);
     return false;
 }
@@ -210,7 +132,7 @@ QSize HistogramPlot::minimumSizeHint() const
 void HistogramPlot::showEvent(QShowEvent *event)
 {
     QwtPlot::showEvent(event);
-    takeWantedBorders(axisWidget(xBottom));
+    AxisBorders::take(axisWidget(xBottom));
     updateLayout();
 }
 
@@ -222,22 +144,26 @@ bool HistogramPlot::updateAxesQuickly()
             return false;
         }
     }
+    const DrawnScale still = drawnScale(xBottom);
     if (!moveXAxis()) {
         return false;
     }
 
-    std::array<DrawnScale, axisCnt> before;
+    std::array<DrawnScale, axisCnt> moved;
     for (int axis = 0; axis < axisCnt; ++axis) {
-        before[axis] = drawnScale(axis);
+        moved[axis] = drawnScale(axis);
     }
     updateAxesMeasuring(Measured::None);
     // An axis that somebody has given another scale has moved with its old borders.
     bool isDone = true;
     for (int axis = 0; axis < axisCnt; ++axis) {
-        if (axisScaleDraw(axis)->scaleDiv() != before[axis].scale) {
-            restore(axis, before[axis]);
+        if (axisScaleDraw(axis)->scaleDiv() != moved[axis].scale) {
+            restore(axis, moved[axis]);
             isDone = false;
         }
+    }
+    if (!isDone) {
+        restore(xBottom, still);
     }
     return isDone;
 }
@@ -245,12 +171,11 @@ bool HistogramPlot::updateAxesQuickly()
 /** As updateAxes(); the axes that are not measured keep their borders. */
 void HistogramPlot::updateAxesMeasuring(Measured which)
 {
-    std::array<std::optional<FixedBorders>, axisCnt> fixed;
+    std::array<std::optional<AxisBorders::Fixed>, axisCnt> fixed;
     for (int axis = 0; axis < axisCnt; ++axis) {
         if (which == Measured::None || !axisEnabled(axis)) {
-            fixed[axis].emplace(axisWidget(axis), bordersOf(axisWidget(axis)));
+            fixed[axis].emplace(axisWidget(axis), AxisBorders::of(axisWidget(axis)));
         }
-        isUnmeasured[axis] = isUnmeasured[axis] || !axisEnabled(axis);
     }
     updateAxes();
 }
@@ -259,7 +184,7 @@ void HistogramPlot::updateAxesMeasuring(Measured which)
 bool HistogramPlot::hasOldBorders(int axis) const
 {
     const QwtScaleWidget *widget = axisWidget(axis);
-    return ScaleMeasure(*widget).borders(*widget) == bordersOf(widget);
+    return ScaleMeasure(*widget).borders(*widget) == AxisBorders::of(widget);
 }
 
 /**
@@ -276,8 +201,9 @@ bool HistogramPlot::moveXAxis()
     }
     const ScaleMeasure measure(*widget);
     const DrawnScale before = drawnScale(xBottom);
-    const ScaleBorders borders = bordersOf(widget);
-    if (axisScaleDiv(xBottom) != before.scale) {
+    const ScaleBorders borders = AxisBorders::of(widget);
+    const bool isMoved = axisScaleDiv(xBottom) != before.scale;
+    if (isMoved) {
         draw->setScaleDiv(axisScaleDiv(xBottom));
         const auto hint = measure.borders(*widget);
         if (!hint) {
@@ -288,12 +214,6 @@ bool HistogramPlot::moveXAxis()
         const QRectF contents = widget->contentsRect();
         draw->move(contents.left() + room.start, contents.top() + widget->margin());
         draw->setLength(contents.width() - (room.start + room.end));
-        // QwtScaleWidget asks for a new layout with every scale.
-        const LayoutInput input = currentLayoutInput();
-        if (!(input == layoutInput)) {
-            layoutInput = input;
-            widget->updateGeometry();
-        }
         widget->update();
         Q_EMIT widget->scaleDivChanged();
     }
@@ -302,8 +222,12 @@ bool HistogramPlot::moveXAxis()
         return false;
     }
     if (!(*wanted == borders)) {
-        const FixedBorders fixed(widget, *wanted);
+        const AxisBorders::Fixed fixed(widget, *wanted);
         widget->setBorderDist(wanted->start, wanted->end);
+    }
+    // QwtScaleWidget asks for a new layout with every scale.
+    if (isMoved && !(currentLayoutInput() == layoutInput)) {
+        widget->updateGeometry();
     }
     return true;
 }
@@ -311,11 +235,16 @@ bool HistogramPlot::moveXAxis()
 HistogramPlot::DrawnScale HistogramPlot::drawnScale(int axis) const
 {
     const QwtScaleDraw *draw = axisScaleDraw(axis);
-    return {draw->scaleDiv(), draw->pos(), draw->length()};
+    return {draw->scaleDiv(), draw->pos(), draw->length(), AxisBorders::of(axisWidget(axis))};
 }
 
 void HistogramPlot::restore(int axis, const DrawnScale &drawn)
 {
+    QwtScaleWidget *widget = axisWidget(axis);
+    if (!(AxisBorders::of(widget) == drawn.borders)) {
+        const AxisBorders::Fixed fixed(widget, drawn.borders);
+        widget->setBorderDist(drawn.borders.start, drawn.borders.end);
+    }
     QwtScaleDraw *draw = axisScaleDraw(axis);
     draw->setScaleDiv(drawn.scale);
     draw->setLength(drawn.length);

@@ -5,6 +5,7 @@
 #define HISTOGRAMPLOT_P_H
 
 #include "histogramlayout_p.h"
+#include "scalelabels_p.h"
 
 #include <QPointF>
 
@@ -12,13 +13,14 @@
 #include <qwt_scale_div.h>
 
 #include <array>
+#include <optional>
 
 /**
  * The plot of a chart. It shows what a QwtPlot shows and differs in three points.
  *
- * It is laid out anew whenever it comes into view. What its labels need at the ends of the x axis
- * depends on the width that the axis got, and a hidden plot hears of no such change: it would come
- * up with its ticks and bars beside the canvas.
+ * It is laid out anew whenever it comes into view, and so is an axis. What its labels need at the
+ * ends of the x axis depends on the width that the axis got, and a hidden plot hears of no such
+ * change: it would come up with its ticks and bars beside the canvas.
  *
  * And it is panned quickly. A pan changes the x scale and, as a rule, no geometry, while
  * QwtPlot::replot() measures the labels of all four axes several times and lays the plot out.
@@ -50,12 +52,13 @@ protected:
 private:
     using QwtPlot::QwtPlot;
 
-    /** The scale of an axis and where it is drawn. */
+    /** The scale of an axis, where it is drawn, and the borders beside it. */
     struct DrawnScale
     {
         QwtScaleDiv scale;
         QPointF position;
         double length = 0.0;
+        ScaleBorders borders;
     };
 
     /** What the layout depends on and nobody is told of. */
@@ -63,6 +66,7 @@ private:
     {
         HistogramLayout::Settings settings {};
         std::array<double, axisCnt> extents {}; ///< of the scales, in pixels
+        std::array<std::optional<ScaleBorders>, axisCnt> borders; ///< that the scales ask for
 
         bool operator==(const LayoutInput &other) const;
     };
@@ -79,10 +83,10 @@ private:
     void restore(int axis, const DrawnScale &drawn);
     void replotCanvas();
 
-    LayoutInput layoutInput;
+    LayoutInput layoutInput; ///< of the layout made last
     bool isPanning = false;
-    /** Axes that have been hidden since they should have been measured. */
-    std::array<bool, axisCnt> isUnmeasured {};
+    /** Axes that were hidden in the layout made last; nothing has measured them since. */
+    std::array<bool, axisCnt> isHidden {{false, true, false, true}};
 };
 
 #endif

@@ -95,11 +95,14 @@ QSize minimumOf(const QwtPlot &plot, const Axes &axes)
         std::clamp(axes.left.borders.start - canvasBorder(QwtPlot::xBottom, frame.bottom()), 0,
                    axes.bottom.tickOffset);
 
-    const int canvasWidth = axes.bottom.size.width() - shiftLeft + frame.left() + frame.right() + 2;
+    // The axes that are hidden count with a size of 0.
+    const int canvasWidth =
+        std::max(axes.bottom.size.width() - shiftLeft, 0) + frame.left() + frame.right() + 2;
     const int canvasHeight =
-        axes.left.size.height() - shiftBottom + frame.top() + frame.bottom() + 2;
-    return {axes.left.size.width() + std::max(canvasWidth, canvas->minimumWidth()),
-            axes.bottom.size.height() + std::max(canvasHeight, canvas->minimumHeight())};
+        std::max(axes.left.size.height() - shiftBottom, 0) + frame.top() + frame.bottom() + 2;
+    const int ownFrame = 2 * plot.frameWidth();
+    return {axes.left.size.width() + std::max(canvasWidth, canvas->minimumWidth()) + ownFrame,
+            axes.bottom.size.height() + std::max(canvasHeight, canvas->minimumHeight()) + ownFrame};
 }
 
 } // namespace

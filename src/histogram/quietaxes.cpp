@@ -3,6 +3,7 @@
 
 #include "quietaxes_p.h"
 
+#include "axisborders_p.h"
 #include "quickpaths_p.h"
 
 #include <QChildEvent>
@@ -10,10 +11,14 @@
 #include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
+namespace {
+
 bool mayBeQuiet(const QwtPlot &plot)
 {
     return QuickPaths::areOpen() && !plot.testAttribute(Qt::WA_WState_Polished);
 }
+
+} // namespace
 
 QuietScale::QuietScale(const QwtPlot *plot, QwtScaleDraw *quietDraw)
     : draw(mayBeQuiet(*plot) && quietDraw->hasComponent(QwtAbstractScaleDraw::Labels) ? quietDraw
@@ -31,10 +36,20 @@ QuietScale::~QuietScale()
     }
 }
 
-QuietAxes::QuietAxes(QwtPlot *plot)
+QuietAxes::QuietAxes(QwtPlot *quietPlot) : plot(quietPlot)
 {
     for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
         scales[axis].emplace(plot, plot->axisScaleDraw(axis));
+    }
+}
+
+QuietAxes::~QuietAxes()
+{
+    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+        scales[axis].reset();
+        if (plot->axisEnabled(axis)) {
+            AxisBorders::settle(plot->axisWidget(axis));
+        }
     }
 }
 

@@ -17,16 +17,12 @@ class QwtScaleDraw;
 /*
  * Qwt measures all labels of a scale with each setter of its widget, though nobody sees the scale
  * before it has all that is set. A plot that has not been shown yet loses nothing when its scales
- * have no labels meanwhile: they are measured with the next replot, and laid out when the plot
- * is shown.
+ * have no labels meanwhile: they are measured when all is set.
  */
 
-/** True for a plot that was never shown, unless the quick ways are shut off. */
-bool mayBeQuiet(const QwtPlot &plot);
-
 /**
- * Takes the labels off a scale draw for as long as this lives, if its plot may be quiet. The draw
- * must live longer.
+ * Takes the labels off a scale draw for as long as this lives, if its plot was never shown. The
+ * draw must live longer.
  */
 class QuietScale
 {
@@ -40,13 +36,20 @@ private:
     QwtScaleDraw *draw;
 };
 
-/** The same for all scales that a plot has. */
+/**
+ * The same for all scales that a plot has. At its end the axes have the borders that they ask for:
+ * what was set meanwhile, in which order, and whether it was quiet does not show.
+ */
 class QuietAxes
 {
 public:
-    explicit QuietAxes(QwtPlot *plot);
+    explicit QuietAxes(QwtPlot *quietPlot);
+    ~QuietAxes();
 
 private:
+    Q_DISABLE_COPY(QuietAxes)
+
+    QwtPlot *plot;
     std::array<std::optional<QuietScale>, QwtPlot::axisCnt> scales;
 };
 

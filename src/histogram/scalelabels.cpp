@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QMarginsF>
 #include <QPointer>
+#include <QTextOption>
 #include <QtMath>
 
 #include <qwt_scale_div.h>
@@ -108,6 +109,10 @@ ScaleLabels::Label newLabel(const QString &text, const QSizeF &wholeSize, const 
     label.isCut = !label.room.contains(QRectF(label.room.topLeft(), wholeSize));
     label.glyphs.setText(text);
     label.glyphs.setTextFormat(Qt::PlainText);
+    // A painter, other than a static text, does not choose a direction by the text.
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
+    label.glyphs.setTextOption(option);
     return label;
 }
 

@@ -14,6 +14,7 @@
 #include <ZEMSmartWeekHistogram>
 #include <ZEMWeekHistogram>
 
+#include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QWidget>
@@ -38,15 +39,21 @@ constexpr unsigned int windows = 40;
 class Ground : public QWidget
 {
 protected:
-    void paintEvent(QPaintEvent * /*event*/) override
+    void resizeEvent(QResizeEvent * /*event*/) override
     {
-        QPainter painter(this);
+        // A gradient that is painted in parts has other colours than one painted at once.
+        picture = QImage(size(), QImage::Format_RGB32);
         QLinearGradient gradient(rect().topLeft(), rect().bottomRight());
         gradient.setColorAt(0.0, QColor(200, 30, 60));
         gradient.setColorAt(0.5, QColor(20, 140, 90));
         gradient.setColorAt(1.0, QColor(10, 20, 200));
-        painter.fillRect(rect(), gradient);
+        QPainter(&picture).fillRect(rect(), gradient);
     }
+
+    void paintEvent(QPaintEvent * /*event*/) override { QPainter(this).drawImage(0, 0, picture); }
+
+private:
+    QImage picture;
 };
 
 struct Kind

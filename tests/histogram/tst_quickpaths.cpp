@@ -12,6 +12,7 @@
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
 #include <qwt_text_engine.h>
@@ -172,6 +173,8 @@ private Q_SLOTS:
     void quietAxesKeepTheirLabels();
     void sizeHintsAreTheSame_data();
     void sizeHintsAreTheSame();
+    void plotThatWasNeverShownAnswersTheSame_data();
+    void plotThatWasNeverShownAnswersTheSame();
     void changeShowsAtOnce_data();
     void changeShowsAtOnce();
 };
@@ -404,6 +407,44 @@ void tst_QuickPaths::sizeHintsAreTheSame()
     QCOMPARE(hints[1], hints[0]);
 }
 
+void tst_QuickPaths::plotThatWasNeverShownAnswersTheSame_data()
+{
+    dragShowsTheSamePixels_data();
+}
+
+void tst_QuickPaths::plotThatWasNeverShownAnswersTheSame()
+{
+    QFETCH(int, kind);
+    QVector<QSizeF> answers[2];
+    QImage pictures[2];
+    for (const bool open : {false, true}) {
+        setOpen(open);
+        const std::unique_ptr<ZEMHistogram> chart(kinds()[std::size_t(kind)].second.make());
+        chart->init();
+        auto *plot = chart->findChild<QwtPlot *>();
+        const auto note = [&] {
+            for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
+                const QwtScaleMap map = plot->canvasMap(axis);
+                answers[open] << QSizeF(map.p1(), map.p2());
+            }
+            answers[open] << plot->sizeHint() << plot->minimumSizeHint() << chart->sizeHint();
+        };
+        note();
+        plot->resize(493, 240);
+        plot->updateLayout();
+        note();
+        chart->setValueLimits(QwtInterval(0.0, 12345.0));
+        chart->replot();
+        note();
+        plot->enableAxis(QwtPlot::yRight);
+        note();
+        pictures[open] = chart->grab().toImage();
+        note();
+    }
+    QCOMPARE(answers[1], answers[0]);
+    QCOMPARE(pictures[1], pictures[0]);
+}
+
 void tst_QuickPaths::changeShowsAtOnce_data()
 {
     using Change = std::function<void(Stage &)>;
@@ -476,6 +517,20 @@ void tst_QuickPaths::changeShowsAtOnce_data()
         [](Stage &stage) { stage.plot()->setAxisScaleDraw(QwtPlot::xBottom, new QwtScaleDraw); });
     QTest::newRow("scale of its own accord")
         << Change([](Stage &stage) { stage.plot()->setAxisAutoScale(QwtPlot::yLeft); });
+    QTest::newRow("layout from right to left")
+        << Change([](Stage &stage) { stage.ground.setLayoutDirection(Qt::RightToLeft); });
+    QTest::newRow("labels from right to left") << Change([scale](Stage &stage) {
+        QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+        stage.drag(7);
+        QwtScaleDraw *draw = scale(stage, QwtPlot::yLeft)->scaleDraw();
+        draw->setScaleDiv(draw->scaleDiv());
+    });
+    QTest::newRow("decimals and value limits, to and fro") << Change([](Stage &stage) {
+        stage.chart->setScaleDigits(QwtPlot::yLeft, 5);
+        stage.chart->setValueLimits(QwtInterval(0.0, 1234567.0));
+        stage.chart->replot();
+        stage.chart->setValueLimits(QwtInterval(-1.0, 9.0));
+    });
     QTest::newRow("hidden and shown") << Change([](Stage &stage) {
         stage.chart->hide();
         QCoreApplication::processEvents();
