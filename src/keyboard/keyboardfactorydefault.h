@@ -27,7 +27,7 @@
  * #include <ZEMNumericKeypad>
  *
  * auto *page = new QWidget;
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * auto *keypad = new ZEMNumericKeypad(keyboards.createNumericKeypad(), page);
  * @endcode

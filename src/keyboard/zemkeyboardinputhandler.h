@@ -18,7 +18,7 @@
  * #include <ZEMLineEditDialog>
  *
  * auto *page = new QWidget;
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * auto *dialog = new
  * ZEMLineEditDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page); auto

@@ -31,7 +31,7 @@ class ZEMVirtualKeyboard;
  *     using Intf = ZEMVirtualKeyboardFactoryIntf;
  *     return new ZEMLineEditDialog(keyboards.createKeyboard(Intf::PopupAbove), page);
  * };
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * editName(keyboards, new QWidget);
  * @endcode

@@ -24,7 +24,7 @@ class ZEMVirtualKeyboard;
  *
  * auto *page = new QWidget;
  * // It lives until the last of its keyboards is gone.
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * auto *dialog = new
  * ZEMLineEditDialog(keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove), page);

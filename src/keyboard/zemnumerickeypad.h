@@ -26,7 +26,7 @@ class ZEMVirtualKeyboard;
  *
  * auto *page = new QWidget;
  * // It lives until the last of its keyboards is gone.
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * auto *dialog = new ZEMNumericKeypad(keyboards.createNumericKeypad(), page);
  * dialog->setTitle(QObject::tr("Tarief"));

@@ -33,12 +33,12 @@ class ZEMVirtualKey;
  * auto *layout = new QVBoxLayout(page);
  * auto *lineEdit = new QLineEdit;
  * layout->addWidget(lineEdit);
- * static KeyboardFactoryDefault keyboards(QStringLiteral("/usr/share/display"),
+ * static KeyboardFactoryDefault keyboards(QStringLiteral("keyboards"),
  *                                         QStringLiteral("nl"));
  * auto *keyboard = new ZEMVirtualKeyboard;
  * keyboard->setFactory(&keyboards); // keys and their looks; before load()
  * keyboard->setMargins(QMargins(0, 46, 0, 2)); // room for the popups of the top row
- * if (keyboard->load(QStringLiteral("/usr/share/display/keyboard_en.xml"))) {
+ * if (keyboard->load(QStringLiteral("keyboards/keyboard_en.xml"))) {
  *     layout->addWidget(keyboard);
  *     keyboard->setFocusWidget(lineEdit);
  *     keyboard->setPopupParent(page);

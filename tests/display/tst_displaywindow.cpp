@@ -319,7 +319,9 @@ void tst_DisplayWindow::idleDisplaySleeps()
     source->count(Quantity::GridImport, 3);
     PlayedDisplay display(*source);
     QVERIFY(display.show());
-    settle(PaintCounter(&display.window));
+    PaintCounter paints;
+    watchArrows(&paints, &display.window);
+    settle(paints);
 
     // QTest's own waiting wakes up a hundred times a second; an event loop sleeps.
     constexpr int idleTime = 5000; // milliseconds

@@ -8,9 +8,11 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QPalette>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QTest>
 #include <QTimer>
+#include <QVector>
 #include <Zemkit>
 
 #include <algorithm>
@@ -77,6 +79,9 @@ private Q_SLOTS:
     void everyClassHasAnExample();
     void exampleRuns_data();
     void exampleRuns();
+
+private:
+    static void clearAway();
 };
 
 void tst_Examples::everyBlockIsCompiled_data()
@@ -128,6 +133,28 @@ void tst_Examples::everyClassHasAnExample()
     QVERIFY(examplesOf(header) > 0);
 }
 
+/**
+ * Deletes the pages that an example makes and leaves to its host, and the hidden keys from which a
+ * keyboard factory takes its pictures. None of them may be on the screen any more.
+ */
+void tst_Examples::clearAway()
+{
+    QVector<QPointer<QWidget>> left;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        // Qt keeps the desktop as a widget of its own.
+        if (window->windowType() != Qt::Desktop) {
+            left.append(window);
+        }
+    }
+    for (const QPointer<QWidget> &window : qAsConst(left)) {
+        if (window) {
+            QVERIFY2(!window->isVisible(), window->metaObject()->className());
+            delete window;
+        }
+    }
+}
+
 void tst_Examples::exampleRuns_data()
 {
     QTest::addColumn<int>("index");
@@ -149,11 +176,7 @@ void tst_Examples::exampleRuns()
     examples().at(std::size_t(index)).run();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
-    const QWidgetList left = QApplication::allWidgets();
-    for (const QWidget *widget : left) {
-        // Qt keeps the desktop as a widget of its own.
-        QVERIFY2(widget->windowType() == Qt::Desktop, widget->metaObject()->className());
-    }
+    clearAway();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(palette);
     QApplication::setFont(font);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../widgets/widgettest.h"
 #include "chartlifetime.h"
+#include "paintcounter.h"
 
 #include <ZEMScaleDraw>
 #include <ZEMSmartDayHistogram>
@@ -16,7 +16,7 @@
 #include <qwt_scale_widget.h>
 
 using namespace ChartLifetime;
-using WidgetTest::PaintCounter;
+using ZemTest::PaintCounter;
 
 /** New labels on an axis whose scale stays as it is. Nothing is painted on demand here. */
 class tst_AxisRepaint : public QObject

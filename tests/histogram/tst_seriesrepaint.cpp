@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../widgets/widgettest.h"
 #include "chartlifetime.h"
+#include "paintcounter.h"
 
 #include <ZEMHistogramLegendItem>
 #include <ZEMSmartDayHistogram>
@@ -13,7 +13,7 @@
 #include <type_traits>
 
 using namespace ChartLifetime;
-using WidgetTest::PaintCounter;
+using ZemTest::PaintCounter;
 
 /** A series of a chart on the screen: what it is made from, and when its changes show. */
 class tst_SeriesRepaint : public QObject

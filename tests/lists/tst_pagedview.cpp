@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "listtest.h"
 #include "pagingengines.h"
 
 #include <QTest>
@@ -294,6 +295,7 @@ void tst_PagedView::deletedModelLeavesAnEmptyView_data()
 
 void tst_PagedView::deletedModelLeavesAnEmptyView()
 {
+    const ListTest::DeletedModelsAreNoNews quiet;
     QFETCH(bool, isTable);
     isTable ? checkDeletedModel<Table>({{true, false}, {true, false}, {false, false}})
             : checkDeletedModel<List>({{false, false}, {true, false}, {false, false}});
