@@ -266,15 +266,13 @@ std::optional<ScaleBorders> ScaleMeasure::borders() const
     if (!minRect || !maxRect) {
         return std::nullopt;
     }
-    double before = 0.0;
-    double behind = 0.0;
-    if (draw.orientation() == Qt::Vertical) {
-        before = -minRect->top() - std::abs(map.transform(minTick) - qRound(map.p2()));
-        behind = maxRect->bottom() - std::abs(map.transform(maxTick) - map.p1());
-    } else {
-        before = -minRect->left() - std::abs(map.transform(minTick) - map.p1());
-        behind = maxRect->right() - std::abs(map.transform(maxTick) - map.p2());
-    }
+    const bool isVertical = draw.orientation() == Qt::Vertical;
+    const double before = isVertical
+        ? -minRect->top() - std::abs(map.transform(minTick) - qRound(map.p2()))
+        : -minRect->left() - std::abs(map.transform(minTick) - map.p1());
+    const double behind = isVertical
+        ? maxRect->bottom() - std::abs(map.transform(maxTick) - map.p1())
+        : maxRect->right() - std::abs(map.transform(maxTick) - map.p2());
     return ScaleBorders {int(std::ceil(std::max(before, 0.0))),
                          int(std::ceil(std::max(behind, 0.0)))};
 }

@@ -109,7 +109,7 @@ private:
     public:
         Life() = default;
         Life(const Life &) { }
-        Life &operator=(const Life &) { return *this; }
+        Life &operator=(Life) { return *this; }
 
         std::weak_ptr<const bool> watch() const { return mark; }
 
