@@ -87,12 +87,15 @@ public:
         }
     }
 
+    /** Null once the plot's end has begun. */
+    QwtPlot *livingPlot() const { return qobject_cast<QwtPlot *>(plotWidget.data()); }
+
     /** The plot has its new canvas only when the old one is gone, and the mover with it. */
     void watchCanvas()
     {
-        QObject::connect(livingPlot->canvas(), &QObject::destroyed, &context, [this] {
-            if (livingPlot && q->mover) {
-                q->mover->setParent(livingPlot);
+        QObject::connect(livingPlot()->canvas(), &QObject::destroyed, &context, [this] {
+            if (livingPlot() && q->mover) {
+                q->mover->setParent(livingPlot());
                 QTimer::singleShot(0, &context, [this] { takeCanvas(); });
             }
         });
@@ -101,8 +104,8 @@ public:
     /** Puts a mover that has lost its canvas on the one that the plot has now. */
     void takeCanvas()
     {
-        QWidget *canvas = livingPlot ? livingPlot->canvas() : nullptr;
-        if (!canvas || !q->mover || q->mover->parent() != livingPlot) {
+        QWidget *canvas = livingPlot() ? livingPlot()->canvas() : nullptr;
+        if (!canvas || !q->mover || q->mover->parent() != livingPlot()) {
             return;
         }
         const bool listens = q->mover->isEnabled();
@@ -127,7 +130,7 @@ public:
 
     ZEMHistogram *q;
     QLocale labelLocale;
-    QPointer<QwtPlot> livingPlot;
+    QPointer<QWidget> plotWidget;
     QPointer<ZEMHistogram> parentHistogram;
     QPointer<ZEMHistogram> childHistogram;
     QList<OwnedSeries> series;
@@ -138,7 +141,7 @@ ZEMHistogram::ZEMHistogram(QWidget *parent)
     : QWidget(parent), plot(HistogramPlot::newPlot(this)), yAxisText(QStringLiteral("kWh")),
       d(new Private(this))
 {
-    d->livingPlot = plot;
+    d->plotWidget = plot;
     setObjectNameFromClass(this, staticMetaObject);
     resize(200, 200);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
