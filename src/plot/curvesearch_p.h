@@ -4,7 +4,7 @@
 #ifndef CURVESEARCH_P_H
 #define CURVESEARCH_P_H
 
-#include "cuttoint_p.h"
+#include "saturatedint_p.h"
 
 #include <QPoint>
 #include <QPointF>
@@ -53,8 +53,8 @@ inline SampleWindow searchWindow(int x, double density, std::size_t count)
     if (!std::isfinite(density)) {
         return {0, count};
     }
-    const int first = cutToInt((x - reach) * density);
-    const int end = cutToInt((x + reach) * density);
+    const int first = truncatedInt((x - reach) * density);
+    const int end = truncatedInt((x + reach) * density);
     return {first < 0 ? 0 : static_cast<std::size_t>(first),
             end < 0 ? count : std::min(static_cast<std::size_t>(end), count)};
 }

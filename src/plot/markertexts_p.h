@@ -4,7 +4,7 @@
 #ifndef MARKERTEXTS_P_H
 #define MARKERTEXTS_P_H
 
-#include "cuttoint_p.h"
+#include "saturatedint_p.h"
 
 #include <QString>
 
@@ -14,7 +14,7 @@ namespace MarkerTexts {
 /** Without decimal places the x is cut: a marker in the fourth slot stands in slot 3. */
 inline QString xText(double x, int decimalPlaces)
 {
-    return decimalPlaces == 0 ? QString::number(PlotMath::cutToInt(x))
+    return decimalPlaces == 0 ? QString::number(truncatedInt(x))
                               : QString::number(x, 'f', decimalPlaces);
 }
 

@@ -45,8 +45,8 @@ public:
     /** @p pos in pixels by the two axes that positions are told in, whatever axes a curve has. */
     QPoint pixelOf(const QPointF &pos) const
     {
-        return {PlotMath::cutToInt(plot->transform(QwtPlot::xBottom, pos.x())),
-                PlotMath::cutToInt(plot->transform(QwtPlot::yLeft, pos.y()))};
+        return {truncatedInt(plot->transform(QwtPlot::xBottom, pos.x())),
+                truncatedInt(plot->transform(QwtPlot::yLeft, pos.y()))};
     }
 
     // Pickers may ask while the plot is being destroyed.
@@ -147,9 +147,8 @@ int ZEMQwtPlotCurvePointGetter::closestPoint(QwtPlotCurve *curve, const QPoint &
     const QwtScaleMap xMap = d->plot->canvasMap(curve->xAxis());
     const QwtScaleMap yMap = d->plot->canvasMap(curve->yAxis());
     const QwtSeriesData<QPointF> &samples = *curve->data();
-    const PlotMath::SampleWindow window =
-        PlotMath::searchWindow(PlotMath::cutToInt(xMap.invTransform(pos.x())),
-                               PlotMath::sampleDensity(samples), samples.size());
+    const PlotMath::SampleWindow window = PlotMath::searchWindow(
+        truncatedInt(xMap.invTransform(pos.x())), PlotMath::sampleDensity(samples), samples.size());
     const PlotMath::NearestSample nearest = PlotMath::nearestInX(samples, window, xMap, yMap, pos);
     if (dx) {
         *dx = nearest.dx;

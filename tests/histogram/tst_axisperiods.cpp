@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "axisperiods_p.h"
-#include "saturatedint_p.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -33,8 +32,6 @@ private Q_SLOTS:
     void withoutPeriodNothingIsSnapped();
     void numbersPastAnyIntAreHarmless_data();
     void numbersPastAnyIntAreHarmless();
-    void intsSaturate_data();
-    void intsSaturate();
     void randomMovesFollowModel();
     void randomDragsFollowModel();
 };
@@ -190,30 +187,6 @@ void tst_AxisPeriods::numbersPastAnyIntAreHarmless()
     QVERIFY(!far.contains(before.minimum));
     const View after = next(position, period, far, true);
     QVERIFY(!far.contains(after.minimum));
-}
-
-void tst_AxisPeriods::intsSaturate_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("truncated");
-    QTest::addColumn<int>("rounded");
-    QTest::newRow("0.5") << 0.5 << 0 << 1;
-    QTest::newRow("-0.5") << -0.5 << 0 << 0;
-    QTest::newRow("-0.6") << -0.6 << 0 << -1;
-    QTest::newRow("2.9") << 2.9 << 2 << 3;
-    QTest::newRow("-2.9") << -2.9 << -2 << -3;
-    QTest::newRow("largest") << double(INT_MAX) << INT_MAX << INT_MAX;
-    QTest::newRow("above") << 1.0e10 << INT_MAX << INT_MAX;
-    QTest::newRow("below") << -1.0e10 << -INT_MAX << -INT_MAX;
-    QTest::newRow("infinite") << qInf() << INT_MAX << INT_MAX;
-    QTest::newRow("no number") << qQNaN() << 0 << 0;
-}
-
-void tst_AxisPeriods::intsSaturate()
-{
-    QFETCH(double, value);
-    QTEST(truncatedInt(value), "truncated");
-    QTEST(roundedInt(value), "rounded");
 }
 
 /**

@@ -41,8 +41,6 @@ class tst_CurveSearch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cutToIntKeepsTheWholePart_data();
-    void cutToIntKeepsTheWholePart();
     void density_data();
     void density();
     void window_data();
@@ -54,29 +52,6 @@ private Q_SLOTS:
     void yOfTheSampleIsNotAsked();
     void onlyTheWindowIsRead();
 };
-
-void tst_CurveSearch::cutToIntKeepsTheWholePart_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("expected");
-
-    QTest::newRow("whole") << 3.0 << 3;
-    QTest::newRow("positive") << 3.99 << 3;
-    QTest::newRow("negative") << -3.99 << -3;
-    QTest::newRow("largest") << 2147483647.5 << INT_MAX;
-    QTest::newRow("smallest") << -2147483648.9 << INT_MIN;
-    QTest::newRow("beyond") << 1e300 << INT_MAX;
-    QTest::newRow("below") << -1e300 << INT_MIN;
-    QTest::newRow("infinite") << infinite << INT_MAX;
-    QTest::newRow("minus infinite") << -infinite << INT_MIN;
-    QTest::newRow("not a number") << notANumber << 0;
-}
-
-void tst_CurveSearch::cutToIntKeepsTheWholePart()
-{
-    QFETCH(double, value);
-    QTEST(cutToInt(value), "expected");
-}
 
 void tst_CurveSearch::density_data()
 {

@@ -1,25 +1,29 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#ifndef CUTTOINT_P_H
-#define CUTTOINT_P_H
+#ifndef SATURATEDINT_P_H
+#define SATURATEDINT_P_H
 
+#include <QtGlobal>
 #include <QtNumeric>
 
 #include <algorithm>
 #include <limits>
 
-/** What the plot tools calculate without a widget. */
-namespace PlotMath {
-
 /** The whole part of @p value, or the int nearest to it; 0 for not-a-number. */
-inline int cutToInt(double value)
+inline int truncatedInt(double value)
 {
     constexpr double least = std::numeric_limits<int>::min();
     constexpr double most = std::numeric_limits<int>::max();
     return qIsNaN(value) ? 0 : static_cast<int>(std::clamp(value, least, most));
 }
 
-} // namespace PlotMath
+/** The int nearest to @p value, halves going up; 0 for not-a-number. The least int is left out. */
+inline int roundedInt(double value)
+{
+    // qRound() takes 1 off what is negative, as an int.
+    constexpr double limit = std::numeric_limits<int>::max();
+    return qIsNaN(value) ? 0 : qRound(std::clamp(value, -limit, limit));
+}
 
 #endif
