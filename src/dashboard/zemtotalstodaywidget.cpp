@@ -3,13 +3,13 @@
 
 #include "zemtotalstodaywidget.h"
 
+#include "layoutmargins_p.h"
 #include "objectname_p.h"
 #include "ui_zemtotalstodaywidget.h"
 #include "zemminidayhistogram.h"
 #include "zemstyle.h"
 
 #include <QPalette>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -20,14 +20,6 @@ void setCaptionColor(QLabel *caption)
     caption->setPalette(palette);
     // A label on a button would be painted in the colour of the button's text.
     caption->setForegroundRole(QPalette::WindowText);
-}
-
-void fill(QWidget *container, QWidget *chart)
-{
-    auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(chart);
-    container->setLayout(layout);
 }
 
 } // namespace
@@ -50,8 +42,8 @@ ZEMTotalsTodayWidget::ZEMTotalsTodayWidget(QWidget *parent)
 
     d->bottomHistogram = new ZEMMiniDayHistogram(this);
     d->topHistogram = new ZEMMiniDayHistogram(this);
-    fill(d->ui.graphContainerProduction, d->bottomHistogram);
-    fill(d->ui.graphContainerConsumption, d->topHistogram);
+    fillWithoutMargins(d->ui.graphContainerProduction, d->bottomHistogram);
+    fillWithoutMargins(d->ui.graphContainerConsumption, d->topHistogram);
     d->topHistogram->init();
     d->bottomHistogram->init();
 

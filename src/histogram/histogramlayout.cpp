@@ -6,7 +6,6 @@
 
 #include "histogramlayout_p.h"
 
-#include <QVBoxLayout>
 #include <qwt_dyngrid_layout.h>
 #include <qwt_legend.h>
 #include <qwt_plot.h>
@@ -38,13 +37,6 @@ void arrangeLegend(QwtLegend *legend)
         layout->setSpacing(12);
         layout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     }
-}
-
-void fill(QWidget *space, QWidget *widget)
-{
-    auto *layout = new QVBoxLayout(space);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(widget);
 }
 
 } // namespace HistogramLayout

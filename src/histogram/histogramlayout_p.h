@@ -6,7 +6,6 @@
 
 #include <array>
 
-class QWidget;
 class QwtLegend;
 class QwtPlot;
 
@@ -28,9 +27,6 @@ Settings settingsOf(const QwtPlot *plot);
 
 /** Lets the items of @p legend start at its upper left, 12 pixels apart. */
 void arrangeLegend(QwtLegend *legend);
-
-/** Keeps @p widget as large as @p space, its parent, without a margin. */
-void fill(QWidget *space, QWidget *widget);
 
 } // namespace HistogramLayout
 

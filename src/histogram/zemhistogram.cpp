@@ -5,6 +5,7 @@
 
 #include "histogramlayout_p.h"
 #include "histogramplot_p.h"
+#include "layoutmargins_p.h"
 #include "objectname_p.h"
 #include "quickpaths_p.h"
 #include "quietaxes_p.h"
@@ -232,7 +233,7 @@ void ZEMHistogram::setLookAndFeel()
     auto *legend = new ZEMHistogramLegend(legendSpace);
     insertLegendExternal(plot, legend);
     HistogramLayout::arrangeLegend(legend);
-    HistogramLayout::fill(legendSpace, legend);
+    fillWithoutMargins(legendSpace, legend);
 }
 
 void ZEMHistogram::changed(QwtPlot *) { }
