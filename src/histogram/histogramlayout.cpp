@@ -19,18 +19,6 @@ void setCanvasMargins(QwtPlot *plot, int right)
     plot->plotLayout()->setCanvasMargin(right, QwtPlot::yRight);
 }
 
-Settings settingsOf(const QwtPlot *plot)
-{
-    const QwtPlotLayout *layout = plot->plotLayout();
-    Settings settings;
-    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis) {
-        settings[axis] = layout->canvasMargin(axis);
-        settings[QwtPlot::axisCnt + axis] = layout->alignCanvasToScale(axis);
-    }
-    settings.back() = layout->spacing();
-    return settings;
-}
-
 void arrangeLegend(QwtLegend *legend)
 {
     if (auto *layout = qobject_cast<QwtDynGridLayout *>(legend->contentsWidget()->layout())) {

@@ -4,8 +4,6 @@
 #ifndef HISTOGRAMLAYOUT_P_H
 #define HISTOGRAMLAYOUT_P_H
 
-#include <array>
-
 class QwtLegend;
 class QwtPlot;
 
@@ -20,10 +18,6 @@ constexpr int legendHeight = 71;
  * @p right pixels stays free of bars.
  */
 void setCanvasMargins(QwtPlot *plot, int right);
-
-/** Margins and spacing of a plot's layout, which tells nobody when they are changed. */
-using Settings = std::array<int, 9>;
-Settings settingsOf(const QwtPlot *plot);
 
 /** Lets the items of @p legend start at its upper left, 12 pixels apart. */
 void arrangeLegend(QwtLegend *legend);

@@ -33,7 +33,7 @@ bool HistogramPlot::LayoutInput::operator==(const LayoutInput &other) const
 HistogramPlot::LayoutInput HistogramPlot::currentLayoutInput() const
 {
     LayoutInput input;
-    input.settings = HistogramLayout::settingsOf(this);
+    input.settings = layoutSettingsOf(this);
     for (int axis = 0; axis < axisCnt; ++axis) {
         if (axisEnabled(axis)) {
             const QwtScaleWidget *widget = axisWidget(axis);

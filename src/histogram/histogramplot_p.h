@@ -4,7 +4,7 @@
 #ifndef HISTOGRAMPLOT_P_H
 #define HISTOGRAMPLOT_P_H
 
-#include "histogramlayout_p.h"
+#include "layoutsettings_p.h"
 #include "scalelabels_p.h"
 
 #include <QPointF>
@@ -64,7 +64,7 @@ private:
     /** What the layout depends on and nobody is told of. */
     struct LayoutInput
     {
-        HistogramLayout::Settings settings {};
+        LayoutSettings settings {};
         std::array<double, axisCnt> extents {}; ///< of the scales, in pixels
         std::array<std::optional<ScaleBorders>, axisCnt> borders; ///< that the scales ask for
 
