@@ -3,7 +3,7 @@
 
 #include "zemenergyicon.h"
 
-#include "buttonpainting_p.h"
+#include "centredmark_p.h"
 #include "objectname_p.h"
 #include "zempixmapcache.h"
 
@@ -48,7 +48,7 @@ public:
             return;
         }
         const QPixmap &symbol = symbols[size_t(energyType)];
-        painter.drawPixmap(ButtonPainting::centredMark(size, symbol.size()).topLeft(), symbol);
+        painter.drawPixmap(centredMark(size, symbol.size()).topLeft(), symbol);
     }
 
     bool useBigIcon = false;

@@ -6,8 +6,6 @@
 
 #include <QIcon>
 #include <QPalette>
-#include <QRect>
-#include <QSize>
 
 /** What the picture buttons draw in which state, without a painter. */
 namespace ButtonPainting {
@@ -70,14 +68,6 @@ constexpr IconLook iconLook(const State &state)
 constexpr QPalette::ColorGroup textGroup(const State &state)
 {
     return isOn(state) ? QPalette::Active : QPalette::Disabled;
-}
-
-/** A mark of size @p mark in the middle of @p button, or from its top left corner if too large. */
-constexpr QRect centredMark(const QSize &button, const QSize &mark)
-{
-    const int x = (button.width() - mark.width()) / 2;
-    const int y = (button.height() - mark.height()) / 2;
-    return {x > 0 ? x : 0, y > 0 ? y : 0, mark.width(), mark.height()};
 }
 
 } // namespace ButtonPainting

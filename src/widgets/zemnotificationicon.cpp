@@ -3,7 +3,7 @@
 
 #include "zemnotificationicon.h"
 
-#include "buttonpainting_p.h"
+#include "centredmark_p.h"
 #include "notificationbadge_p.h"
 #include "objectname_p.h"
 #include "zemstyle.h"
@@ -107,7 +107,7 @@ void ZEMNotificationIcon::paintEvent(QPaintEvent *event)
 {
     const QPixmap &picture = isEnabled() ? d->icon : d->iconDisabled;
     QPainter painter(this);
-    const QRect place = ButtonPainting::centredMark(size(), picture.size());
+    const QRect place = centredMark(size(), picture.size());
     painter.drawPixmap(QRectF(place), picture, QRectF());
     if (!picture.isNull()) {
         d->drawBadge(painter, width(), font());

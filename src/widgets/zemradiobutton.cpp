@@ -3,7 +3,7 @@
 
 #include "zemradiobutton.h"
 
-#include "buttonpainting_p.h"
+#include "centredmark_p.h"
 #include "objectname_p.h"
 
 #include <QPainter>
@@ -63,7 +63,7 @@ void ZEMRadioButton::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.drawPixmap(QRectF(rect()), d->background, QRectF());
     if (isChecked()) {
-        const QRect mark = ButtonPainting::centredMark(size(), d->checkedIcon.size());
+        const QRect mark = centredMark(size(), d->checkedIcon.size());
         painter.drawPixmap(QRectF(mark), d->checkedIcon, QRectF());
     }
     QWidget::paintEvent(event); // NOLINT(bugprone-parent-virtual-call): QAbstractButton has none

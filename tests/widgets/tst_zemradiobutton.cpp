@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "buttonpainting_p.h"
+#include "centredmark_p.h"
 #include "widgettest.h"
 #include "zemtest.h"
 
@@ -138,7 +138,7 @@ void tst_ZEMRadioButton::markStandsInTheMiddle()
     QFETCH(QSize, mark);
     QFETCH(QPoint, place);
 
-    QCOMPARE(ButtonPainting::centredMark(button, mark), QRect(place, mark));
+    QCOMPARE(centredMark(button, mark), QRect(place, mark));
 
     ZEMRadioButton radio;
     radio.setBackground(flatPixmap(button, Qt::red));
