@@ -18,6 +18,6 @@ int main(int argc, char *argv[])
     ZEMSmartDayHistogram chart;
     chart.init();
     const bool works = button.width() == 75 && chart.layout()
-        && ZEMUtils::getVersion().startsWith(QStringLiteral("2.3."));
+        && ZEMUtils::getVersion().startsWith(QStringLiteral(ZEMKIT_VERSION "."));
     return works ? 0 : 1;
 }
