@@ -13,10 +13,7 @@
 
 #include <memory>
 
-#if defined(__GNUC__) // not to be deleted through a base, as told below
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // not to be deleted through a base, as told below
 
 /**
  * Makes the keyboards of a host from XML files in one directory, with keys that are light grey
@@ -112,8 +109,6 @@ private:
     std::unique_ptr<Private> d;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

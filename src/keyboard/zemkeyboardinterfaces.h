@@ -14,10 +14,7 @@ class QWidget;
 class ZEMVirtualKey;
 class ZEMVirtualKeyboard;
 
-#if defined(__GNUC__) // no destructors, as told below
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // no destructors, as told below
 
 /**
  * What a host asks for its keyboards, so that it need not know where their files lie and what their
@@ -119,8 +116,6 @@ private:
     Life life;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

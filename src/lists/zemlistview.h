@@ -12,10 +12,7 @@
 
 class QModelIndex;
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 /**
  * A page to pick one of a list of texts: the page beneath is darkened, and a panel in the middle
@@ -117,8 +114,6 @@ private:
     std::unique_ptr<Private> d;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

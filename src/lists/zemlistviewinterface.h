@@ -13,10 +13,7 @@
 class QAbstractItemDelegate;
 class QAbstractItemModel;
 
-#if defined(__GNUC__) // no destructor, as told below
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // no destructor, as told below
 
 /**
  * What a host can ask of every list that moves by pages: of the engine, ZEMListViewLogic, and of
@@ -102,8 +99,6 @@ public:
     virtual QVariant data(int index) = 0;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

@@ -13,10 +13,7 @@
 
 class QListView;
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 /**
  * Moves a list view by whole pages, for lists that have two buttons and no scroll bar.
@@ -114,8 +111,6 @@ private:
     std::unique_ptr<Private> d;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

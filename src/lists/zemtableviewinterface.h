@@ -13,10 +13,7 @@
 class QAbstractItemDelegate;
 class QAbstractItemModel;
 
-#if defined(__GNUC__) // no destructor, as told below
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // no destructor, as told below
 
 /**
  * What a host can ask of a table that moves by pages; ZEMTableViewLogic is one.
@@ -100,8 +97,6 @@ public:
     virtual QVariant data(int row, int column) = 0;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

@@ -13,10 +13,7 @@
 
 class QTableView;
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 /**
  * Moves a table view by whole pages, for tables that have two buttons and no scroll bar.
@@ -112,8 +109,6 @@ private:
     std::unique_ptr<Private> d;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 #endif

@@ -32,10 +32,7 @@ constexpr int hSpacing = 7;
 constexpr int vSpacing = 9;
 constexpr int longHold = 3600000; // ms, so that a tap is one on the slowest machine
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 /** Makes plain keys of one colour, red while they are pressed, and notes what it is asked for. */
 class FlatFactory : public ZEMVirtualKeyFactoryIntf
@@ -100,9 +97,7 @@ private:
     }
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 /** A directory for the files of one test. */
 class Files

@@ -84,10 +84,7 @@ int renderButtons()
     return count;
 }
 
-#if defined(__GNUC__) // the class has no virtual destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the class has no virtual destructor
 
 class GreenFactory : public KeyboardFactoryDefault
 {
@@ -108,9 +105,7 @@ public:
     ZEMVirtualKeyboard *createNumericKeypad() override { return nullptr; }
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 } // namespace
 

@@ -344,10 +344,7 @@ void tst_KeyboardLoading::spaceTakesThePresentWidth()
 
 namespace {
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 class EmptyFactory : public FlatFactory
 {
@@ -358,9 +355,7 @@ public:
     QWidget *createPopupKeysBackground() override { return nullptr; }
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 class OwnKeyboard : public ZEMVirtualKeyboard
 {

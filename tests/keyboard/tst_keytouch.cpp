@@ -79,10 +79,7 @@ public:
     }
 };
 
-#if defined(__GNUC__) // the interface has no destructor
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-#endif
+ZEM_BEGIN_INTERFACES // the interface has no destructor
 
 class OwnKeyFactory : public FlatFactory
 {
@@ -109,9 +106,7 @@ public:
     PressTaker taker;
 };
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+ZEM_END_INTERFACES
 
 } // namespace
 

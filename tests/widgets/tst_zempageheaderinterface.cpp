@@ -20,8 +20,7 @@ static_assert(std::is_base_of_v<ZEMPageHeaderInterface, ZEMPageHeader>);
 namespace {
 
 // The interface has no virtual destructor, and no header is deleted through it.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+ZEM_BEGIN_INTERFACES
 /** A host's own header, which writes down what it is told. */
 class RecordingHeader : public ZEMPageHeaderInterface
 {
@@ -50,7 +49,7 @@ private:
         log(call, argument ? argument->objectName() : QStringLiteral("null"));
     }
 };
-#pragma GCC diagnostic pop
+ZEM_END_INTERFACES
 
 /** The place of a virtual operation in the table of its class. */
 template <typename Operation>
