@@ -40,6 +40,7 @@ function(zem_add_helpers)
             endif()
         endforeach()
     endforeach()
+    target_include_directories(zemkit PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
 endfunction()
 
 # zem_add_forms(<target> <form>...)
