@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "paintcounter.h"
-#include "quickpathsfixture.h"
+#include "quick/quickpathsfixture.h"
 #include "zemtest.h"
 
 #include <QLocale>
