@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "chartlifetime.h"
+#include "../chartlifetime.h"
 
 #include <ZEMMiniDayHistogram>
 #include <ZEMSmartDayHistogram>

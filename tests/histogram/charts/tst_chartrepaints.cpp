@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "../quick/quickpathsfixture.h"
 #include "paintcounter.h"
-#include "quick/quickpathsfixture.h"
 #include "zemtest.h"
 
 #include <QLocale>
