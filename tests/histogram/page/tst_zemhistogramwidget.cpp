@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../dashboard/messagelog.h"
-#include "../widgets/widgettest.h"
+#include "../../dashboard/messagelog.h"
+#include "../../widgets/widgettest.h"
 #include "chartpagefixture.h"
 
 #include <ZEMEnergyIcon>

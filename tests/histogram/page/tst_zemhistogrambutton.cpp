@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../dashboard/dashboardtest.h"
-#include "../widgets/widgettest.h"
+#include "../../dashboard/dashboardtest.h"
+#include "../../widgets/widgettest.h"
 #include "zemtest.h"
 
 #include <ZEMButton>

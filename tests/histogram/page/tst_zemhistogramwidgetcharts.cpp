@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "../dashboard/messagelog.h"
+#include "../../dashboard/messagelog.h"
 #include "chartpagefixture.h"
 
 #include <ZEMEnergyIcon>

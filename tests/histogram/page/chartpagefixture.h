@@ -4,7 +4,7 @@
 #ifndef CHARTPAGEFIXTURE_H
 #define CHARTPAGEFIXTURE_H
 
-#include "../dashboard/dashboardtest.h"
+#include "../../dashboard/dashboardtest.h"
 
 #include <ZEMButton>
 #include <ZEMHistogramWidget>
