@@ -53,14 +53,17 @@ int ZEMUtils::calculateSpeed(double reference, double value)
     if (whole == 0.0) {
         return flow == 0.0 ? 0 : 2;
     }
+    constexpr double nothing = 0.5;
+    constexpr double oneThird = 33.3;
+    constexpr double twoThirds = 66.6;
     const double percent = flow * 100.0 / whole;
-    if (percent <= 0.5) {
+    if (percent <= nothing) {
         return 0;
     }
-    if (percent <= 33.3) {
+    if (percent <= oneThird) {
         return 1;
     }
-    if (percent <= 66.6) {
+    if (percent <= twoThirds) {
         return 2;
     }
     return 3;

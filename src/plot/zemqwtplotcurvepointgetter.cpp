@@ -18,6 +18,8 @@ using PlotCurvePoint = ZEMQwtPlotCurvePointGetter::PlotCurvePoint;
 
 namespace {
 
+constexpr double furtherThanAnyCurve = 2147483647.0; // units of the left axis
+
 PlotCurvePoint pointOfSample(QwtPlotCurve *curve, unsigned int index, double distance = 0.0)
 {
     return {curve->sample(static_cast<int>(index)), curve, distance, index, true};
@@ -162,7 +164,7 @@ int ZEMQwtPlotCurvePointGetter::closestPoint(QwtPlotCurve *curve, const QPoint &
 PlotCurvePoint ZEMQwtPlotCurvePointGetter::getCurvePoint(QPointF pos)
 {
     PlotCurvePoint result;
-    result.distance = 2147483647.0; // further than any curve
+    result.distance = furtherThanAnyCurve;
     if (!d->plot || pos.x() < 0.0) {
         return result;
     }

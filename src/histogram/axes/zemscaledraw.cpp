@@ -19,6 +19,15 @@ namespace {
 constexpr int hoursOfDay = 24;
 constexpr int daysOfWeek = 7;
 
+// In pixels: the ticks, and the space between them and the labels.
+constexpr double slotSeparator = 40.0;
+constexpr double hourTick = 18.0;
+constexpr double valueTick = 4.0;
+constexpr double noTick = 0.0;
+constexpr double slotSpacing = 15.0;
+constexpr double hourSpacing = 10.0;
+constexpr double valueSpacing = 8.0;
+
 void setTickLengths(QwtScaleDraw *scale, double major, double medium, double minor)
 {
     scale->setTickLength(QwtScaleDiv::MajorTick, major);
@@ -30,9 +39,9 @@ void setTickLengths(QwtScaleDraw *scale, double major, double medium, double min
 void setUpSlotScale(QwtScaleDraw *scale)
 {
     scale->enableComponent(QwtAbstractScaleDraw::Backbone, false);
-    setTickLengths(scale, 0.0, 40.0, 0.0);
+    setTickLengths(scale, noTick, slotSeparator, noTick);
     scale->setLabelAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    scale->setSpacing(15.0);
+    scale->setSpacing(slotSpacing);
 }
 
 /** Day 0 is a Monday, the days before it run backwards; the answer is from 1 to 7. */
@@ -95,9 +104,9 @@ void ScaleTexts::renew(QwtScaleDraw *draw)
 ZEMKWhScaleDraw::ZEMKWhScaleDraw(double)
 {
     enableComponent(Backbone, false);
-    setTickLengths(this, 4.0, 4.0, 4.0);
+    setTickLengths(this, valueTick, valueTick, valueTick);
     setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setSpacing(8.0);
+    setSpacing(valueSpacing);
 }
 
 ZEMKWhScaleDraw::~ZEMKWhScaleDraw() = default;
@@ -119,7 +128,7 @@ QwtText ZEMKWhScaleDraw::label(double value) const
 
 ZEMMonthKWhScaleDraw::ZEMMonthKWhScaleDraw(double unused) : ZEMKWhScaleDraw(unused)
 {
-    setTickLengths(this, 4.0, 4.0, 0.0);
+    setTickLengths(this, valueTick, valueTick, noTick);
 }
 
 ZEMMonthKWhScaleDraw::~ZEMMonthKWhScaleDraw() = default;
@@ -127,9 +136,9 @@ ZEMMonthKWhScaleDraw::~ZEMMonthKWhScaleDraw() = default;
 ZEMDayScaleDraw::ZEMDayScaleDraw()
 {
     enableComponent(Backbone, false);
-    setTickLengths(this, 40.0, 18.0, 18.0);
+    setTickLengths(this, slotSeparator, hourTick, hourTick);
     setLabelAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    setSpacing(10.0);
+    setSpacing(hourSpacing);
 }
 
 ZEMDayScaleDraw::~ZEMDayScaleDraw() = default;

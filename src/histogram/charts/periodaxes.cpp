@@ -41,7 +41,7 @@ void setValueAxis(QwtPlot *plot, QwtScaleDraw *draw)
     const QuietScale quiet(plot, draw);
     plot->setAxisScaleDraw(QwtPlot::yLeft, draw);
     plot->setAxisAutoScale(QwtPlot::yLeft, false);
-    plot->setAxisScale(QwtPlot::yLeft, 0.0, 10.0, 0.0);
+    plot->setAxisScale(QwtPlot::yLeft, 0.0, highestAtFirst, 0.0);
 }
 
 void setValueAxisTitle(QwtPlot *plot, const QString &text)

@@ -37,6 +37,10 @@ namespace {
 
 constexpr int dragThreshold = 5; // pixels
 constexpr int canvasMarginRight = 10; // pixels
+constexpr QSize firstSize {200, 200}; // pixels
+constexpr QSize leastSpaceBelowPlot {40, 20}; // pixels
+constexpr int xScaleFontSize = 11; // points
+constexpr int yScaleFontSize = 9; // points
 
 /** As QwtScaleDraw::maxLabelWidth(), quickly for the library's own scales. */
 int widestLabel(const QwtScaleWidget &scale)
@@ -144,7 +148,7 @@ ZEMHistogram::ZEMHistogram(QWidget *parent)
 {
     d->plotWidget = plot;
     setObjectNameFromClass(this, staticMetaObject);
-    resize(200, 200);
+    resize(firstSize);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(sizePolicy().hasHeightForWidth());
     setSizePolicy(policy);
@@ -206,7 +210,7 @@ void ZEMHistogram::initAxis()
     plot->updateAxes();
 
     QwtScaleWidget *xScale = plot->axisWidget(QwtPlot::xBottom);
-    xScale->setFont(fontOfScale(xScale, 11));
+    xScale->setFont(fontOfScale(xScale, xScaleFontSize));
     // Half of a label may stand out beyond the last tick.
     const int labelWidth = widestLabel(*xScale);
     xScale->setMinBorderDist(0, (labelWidth + 1) / 2);
@@ -214,7 +218,7 @@ void ZEMHistogram::initAxis()
 
     QwtScaleWidget *yScale = plot->axisWidget(QwtPlot::yLeft);
     yScale->setMargin(0);
-    yScale->setFont(fontOfScale(yScale, 9));
+    yScale->setFont(fontOfScale(yScale, yScaleFontSize));
 }
 
 void ZEMHistogram::setLookAndFeel()
@@ -225,7 +229,8 @@ void ZEMHistogram::setLookAndFeel()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(plot);
-    layout->addItem(new QSpacerItem(40, 20, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    layout->addItem(new QSpacerItem(leastSpaceBelowPlot.width(), leastSpaceBelowPlot.height(),
+                                    QSizePolicy::Minimum, QSizePolicy::Expanding));
 
     auto *legendSpace = new QWidget(this);
     legendSpace->setMinimumHeight(HistogramLayout::legendHeight);
@@ -371,7 +376,8 @@ void ZEMHistogram::syncAxis(int axis, QwtPlot *source)
     const double step = source->axisStepSize(axis);
     if (plot->axisInterval(axis) == wanted) {
         // An equal scale would not be divided again; a different one in between makes it so.
-        plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue() + 0.1, step);
+        constexpr double difference = 0.1;
+        plot->setAxisScale(axis, wanted.minValue(), wanted.maxValue() + difference, step);
         plot->updateAxes();
     }
     HistogramPlot::setAxisScale(plot, axis, wanted.minValue(), wanted.maxValue(), step);

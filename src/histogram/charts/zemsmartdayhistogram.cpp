@@ -40,6 +40,6 @@ void ZEMSmartDayHistogram::initAxisRefine()
     setValueAxisTitle(plot, yAxisText);
 
     auto *draw = new FastScaleDraw<xDayScaleDraw>;
-    setShortTicks(draw, {5.0, 5.0, 5.0});
-    setXAxis(plot, draw, nullptr, {24.0, 6.0, 4, 6});
+    setShortTicks(draw, allTicks);
+    setXAxis(plot, draw, nullptr, dayInHours);
 }

@@ -12,13 +12,20 @@
 #include <QVBoxLayout>
 #include <qwt_plot.h>
 
+namespace {
+
+constexpr QSize spaceAboveLegend {40, 5}; // pixels
+
+} // namespace
+
 ZEMSmartHistogram::ZEMSmartHistogram(QWidget *parent) : ZEMHistogram(parent) { }
 
 ZEMSmartHistogram::~ZEMSmartHistogram() = default;
 
 void ZEMSmartHistogram::initAxisRefine()
 {
-    PeriodAxes::setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(999.0));
+    using namespace PeriodAxes;
+    setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(unusedValue));
 }
 
 void ZEMSmartHistogram::setLookAndFeel()
@@ -32,7 +39,8 @@ void ZEMSmartHistogram::setLookAndFeel()
     if (getChild()) {
         layout->addWidget(getChild());
     }
-    layout->addItem(new QSpacerItem(40, 5, QSizePolicy::Minimum, QSizePolicy::Fixed));
+    layout->addItem(new QSpacerItem(spaceAboveLegend.width(), spaceAboveLegend.height(),
+                                    QSizePolicy::Minimum, QSizePolicy::Fixed));
 
     auto *legend = new ZEMHistogramLegend(nullptr);
     insertLegendExternal(plot, legend);

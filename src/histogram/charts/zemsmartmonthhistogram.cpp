@@ -54,8 +54,8 @@ void ZEMSmartMonthHistogram::initAxisRefine()
 {
     using namespace PeriodAxes;
     auto *dates = new FastScaleDraw<xMonthScaleDraw>(middleOfSlot);
-    setShortTicks(dates, {0.0, 5.0, 0.0});
-    setXAxis(plot, dates, new ZEMScaleEngine(middleOfSlot), {5.0, 1.0, 5, 2});
-    setValueAxis(plot, new FastScaleDraw<ZEMMonthKWhScaleDraw>(999.0));
+    setShortTicks(dates, separatorsOnly);
+    setXAxis(plot, dates, new ZEMScaleEngine(middleOfSlot), monthInWeeks);
+    setValueAxis(plot, new FastScaleDraw<ZEMMonthKWhScaleDraw>(unusedValue));
     setValueAxisTitle(plot, yAxisText);
 }

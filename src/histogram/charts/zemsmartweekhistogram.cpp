@@ -31,6 +31,6 @@ void ZEMSmartWeekHistogram::initAxisRefine()
     setValueAxisTitle(plot, yAxisText);
 
     auto *draw = new FastScaleDraw<xWeekScaleDraw>(middleOfSlot);
-    setShortTicks(draw, {0.0, 5.0, 0.0});
-    setXAxis(plot, draw, new ZEMScaleEngine(middleOfSlot), {7.0, 1.0, 7, 2});
+    setShortTicks(draw, separatorsOnly);
+    setXAxis(plot, draw, new ZEMScaleEngine(middleOfSlot), weekInDays);
 }

@@ -26,7 +26,7 @@ void ZEMWeekHistogram::initAxisRefine()
 {
     using namespace PeriodAxes;
     setXAxis(plot, new FastScaleDraw<ZEMWeekScaleDraw>(middleOfSlot),
-             new ZEMScaleEngine(middleOfSlot), {7.0, 1.0, 7, 2});
-    setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(999.0));
+             new ZEMScaleEngine(middleOfSlot), weekInDays);
+    setValueAxis(plot, new FastScaleDraw<ZEMKWhScaleDraw>(unusedValue));
     setValueAxisTitle(plot, yAxisText);
 }
