@@ -85,6 +85,16 @@ public:
         return nullptr;
     }
 
+    /** The dialog of that type, ready for typing: it selects its text once more when it is shown.
+     */
+    template <class Dialog>
+    Dialog *inputDialog() const
+    {
+        constexpr int secondSelection = 500; // ms
+        ZemTest::outlast(secondSelection);
+        return overlay<Dialog>();
+    }
+
     /** Calls @p answer with the overlay of that type as soon as there is one. */
     template <class Overlay, class Answer>
     void whenOpen(Answer answer)

@@ -89,7 +89,7 @@ void tst_GoalsPage::yearGoalIsTyped()
     auto *field = display->onPage<ZEMLineEditButton>("yearGoal");
     QCOMPARE(field->text(), QStringLiteral("3.500 kWh"));
     PlayedDisplay::tap(field);
-    auto *keypad = display->overlay<ZEMNumericKeypad>();
+    auto *keypad = display->inputDialog<ZEMNumericKeypad>();
     QVERIFY(keypad);
     for (const char *key : {"2", "4", "0", "0"}) {
         PlayedDisplay::tapKey(keypad, QLatin1String(key));
@@ -104,7 +104,7 @@ void tst_GoalsPage::yearGoalIsTyped()
 void tst_GoalsPage::yearGoalOfNothingIsRefused()
 {
     PlayedDisplay::tap(display->onPage<ZEMLineEditButton>("yearGoal"));
-    auto *keypad = display->overlay<ZEMNumericKeypad>();
+    auto *keypad = display->inputDialog<ZEMNumericKeypad>();
     QVERIFY(keypad);
     PlayedDisplay::tapKey(keypad, QStringLiteral("DELETE"));
     QCOMPARE(keypad->value(), QString());

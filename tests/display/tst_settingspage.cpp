@@ -49,7 +49,7 @@ private:
     Dialog *open(const char *name) const
     {
         PlayedDisplay::tap(field(name));
-        return display->overlay<Dialog>();
+        return display->inputDialog<Dialog>();
     }
     static void type(const QWidget *dialog, const QString &keys);
     static void tapButton(const QWidget *dialog, const char *name);

@@ -188,11 +188,12 @@ class AnyStage : public AnyDialog
 public:
     AnyStage() : AnyDialog(true) { }
 
-    /** Shows the dialog and lets what it posts arrive. */
+    /** Shows the dialog and lets what it posts arrive, and its second selection after half a
+     * second. */
     void show() const
     {
         dialog->show();
-        QTest::qWait(1);
+        ZemTest::outlast(secondSelection);
     }
 };
 

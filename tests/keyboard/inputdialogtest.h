@@ -94,6 +94,9 @@ inline void type(ZEMVirtualKeyboard *keyboard, const char *name)
     QCoreApplication::processEvents();
 }
 
+/** After which a dialog that was shown selects its text once more, in milliseconds. */
+constexpr int secondSelection = 500;
+
 /** A dialog on an active page of 640 by 480 pixels; hidden until show(). */
 template <typename Dialog>
 class Stage

@@ -69,7 +69,6 @@ QStringList operationsOf()
     return names;
 }
 
-constexpr int secondSelection = 500; // ms
 const QString number = QStringLiteral("123");
 
 /** A row for each dialog: its name, and behind it @p end, which a comma begins; isLine or not. */
@@ -379,7 +378,6 @@ void tst_InputDialogs::showSelectsTwice()
     stage.dialog->hide();
     stage.kind.setAutoSelect(stage.dialog, false);
     stage.show();
-    QTest::qWait(secondSelection + secondSelection / 5);
     QCOMPARE(stage.selectedText(), QString());
     QVERIFY(!isLine || stage.line()->cursorPosition() == number.size());
     QCOMPARE(log.events.size(), 2);
@@ -397,7 +395,7 @@ void tst_InputDialogs::showWithoutAutoSelect()
         stage.line()->setCursorPosition(1);
     }
     stage.dialog->show();
-    QTest::qWait(secondSelection + secondSelection / 5);
+    ZemTest::outlast(secondSelection);
     QCOMPARE(stage.selectedText(), QString());
     QVERIFY(!isLine || stage.line()->cursorPosition() == number.size());
     QCOMPARE(log.events, tapOnLastPixel(stage.field()));
@@ -424,7 +422,7 @@ void tst_InputDialogs::hideSoonAfterShow()
 
     stage.dialog->show();
     delete stage.dialog; // the second selection finds nothing
-    QTest::qWait(secondSelection + secondSelection / 5);
+    ZemTest::outlast(secondSelection);
 }
 
 void tst_InputDialogs::dialogMayBeDeletedFromItsSignals_data()

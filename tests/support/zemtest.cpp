@@ -3,8 +3,10 @@
 
 #include "zemtest.h"
 
+#include <QEventLoop>
 #include <QLayout>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -18,6 +20,15 @@ QPoint inWindow(const QWidget *widget, const QPoint &position)
 }
 
 } // namespace
+
+void outlast(int milliseconds)
+{
+    // Coarse timers may be late by a twentieth.
+    const int later = milliseconds + milliseconds / 10 + 1;
+    QEventLoop loop;
+    QTimer::singleShot(later, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 QPixmap flatPixmap(const QSize &size, const QColor &color)
 {

@@ -28,6 +28,12 @@ constexpr int hangs = 600000;
 #define ZEM_TRY_COMPARE(actual, expected)                                                          \
     QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), ZemTest::hangs)
 
+/**
+ * Runs the event loop until every timer of up to @p milliseconds that was started before has fired,
+ * however slow the machine is: timers fire in the order of their ends.
+ */
+void outlast(int milliseconds);
+
 /** A picture of one colour, so that a pixel tells which picture was painted. */
 QPixmap flatPixmap(const QSize &size, const QColor &color);
 
