@@ -3,7 +3,6 @@
 
 #include "../quick/quickpathsfixture.h"
 #include "paintcounter.h"
-#include "zemtest.h"
 
 #include <QLocale>
 #include <QTest>
@@ -52,21 +51,8 @@ public:
         drag(20);
     }
 
-    QwtPlot *plotOf(const ZEMHistogram *histogram) const
-    {
-        return histogram->findChild<QwtPlot *>(QString(), Qt::FindDirectChildrenOnly);
-    }
     QwtPlot *plot() const { return plotOf(chart); }
-
-    void drag(int dx)
-    {
-        QWidget *canvas = plot()->canvas();
-        const QPoint from(canvas->width() / 2, canvas->height() / 2);
-        ZemTest::press(canvas, from);
-        ZemTest::moveTo(canvas, from + QPoint(dx, 0));
-        ZemTest::release(canvas, from + QPoint(dx, 0));
-        QCoreApplication::processEvents();
-    }
+    void drag(int dx) { dragPlot(plot(), dx); }
 
     Kind kind;
     QWidget window;
@@ -219,7 +205,7 @@ void tst_ChartRepaints::changePaintsTheChild()
         Stage stage(kinds()[0].second, true);
         QVERIFY(stage.isReady);
         const Paints own(stage.plot());
-        const Paints ofChild(stage.plotOf(stage.child));
+        const Paints ofChild(plotOf(stage.child));
         change(stage);
         QCoreApplication::processEvents();
         QTRY_VERIFY(!(parts & Canvas) || (own.canvas.count > 0 && ofChild.canvas.count > 0));

@@ -26,11 +26,6 @@ namespace {
 
 using namespace QuickPathsTest;
 
-QwtPlot *plotOf(const ZEMHistogram *chart)
-{
-    return chart->findChild<QwtPlot *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
 void addPlaces(const ZEMHistogram *chart, std::vector<double> *numbers)
 {
     const QwtPlot *plot = plotOf(chart);

@@ -5,6 +5,7 @@
 #define QUICKPATHSFIXTURE_H
 
 #include "quickpaths_p.h"
+#include "zemtest.h"
 
 #include <ZEMHistogramData>
 #include <ZEMHistogramSeries>
@@ -14,10 +15,12 @@
 #include <ZEMSmartWeekHistogram>
 #include <ZEMWeekHistogram>
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QWidget>
+#include <qwt_plot.h>
 
 #include <functional>
 #include <random>
@@ -97,6 +100,23 @@ inline ZEMHistogramSeries *newSeries(unsigned int slotCount, bool iconColumns, i
     }
     series->setData(data);
     return series;
+}
+
+/** The plot of a chart, and not that of its child. */
+inline QwtPlot *plotOf(const ZEMHistogram *chart)
+{
+    return chart->findChild<QwtPlot *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+/** A drag of @p plot by @p dx pixels with all that follows from it. */
+inline void dragPlot(QwtPlot *plot, int dx)
+{
+    QWidget *canvas = plot->canvas();
+    const QPoint from(canvas->width() / 2, canvas->height() / 2);
+    ZemTest::press(canvas, from);
+    ZemTest::moveTo(canvas, from + QPoint(dx, 0));
+    ZemTest::release(canvas, from + QPoint(dx, 0));
+    QCoreApplication::processEvents();
 }
 
 } // namespace QuickPathsTest

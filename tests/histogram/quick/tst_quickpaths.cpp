@@ -56,17 +56,7 @@ public:
     }
 
     QwtPlot *plot() const { return plotOf(chart); }
-
-    void drag(int dx)
-    {
-        QWidget *canvas = plot()->canvas();
-        const QPoint from(canvas->width() / 2, canvas->height() / 2);
-        ZemTest::press(canvas, from);
-        ZemTest::moveTo(canvas, from + QPoint(dx, 0));
-        ZemTest::release(canvas, from + QPoint(dx, 0));
-        QCoreApplication::processEvents();
-    }
-
+    void drag(int dx) { dragPlot(plot(), dx); }
     QImage picture() { return ground.grab().toImage(); }
 
     Ground ground;
@@ -75,11 +65,6 @@ public:
     ZEMHistogram *child = nullptr;
 
 private:
-    static QwtPlot *plotOf(ZEMHistogram *histogram)
-    {
-        return histogram->findChild<QwtPlot *>(QString(), Qt::FindDirectChildrenOnly);
-    }
-
     void fill(ZEMHistogram *histogram, int seed) const
     {
         histogram->addSeries(newSeries(slotCount, false, seed));
@@ -305,16 +290,15 @@ void tst_QuickPaths::firstSightShowsTheSamePixels()
 {
     QFETCH(int, kind);
     using Act = std::function<void(ZEMHistogram *)>;
-    const auto plotOf = [](ZEMHistogram *chart) { return chart->findChild<QwtPlot *>(); };
     const Act acts[] = {
         [](ZEMHistogram *) {},
         [](ZEMHistogram *chart) { chart->replot(); },
         [](ZEMHistogram *chart) { chart->initAxisRefine(); },
         [](ZEMHistogram *chart) { chart->setValueLimits(QwtInterval(0.0, 12345.0)); },
         [](ZEMHistogram *chart) { chart->resize(300, 320); },
-        [plotOf](ZEMHistogram *chart) { plotOf(chart)->enableAxis(QwtPlot::yRight); },
-        [plotOf](ZEMHistogram *chart) { plotOf(chart)->enableAxis(QwtPlot::xTop); },
-        [plotOf](ZEMHistogram *chart) {
+        [](ZEMHistogram *chart) { plotOf(chart)->enableAxis(QwtPlot::yRight); },
+        [](ZEMHistogram *chart) { plotOf(chart)->enableAxis(QwtPlot::xTop); },
+        [](ZEMHistogram *chart) {
             plotOf(chart)->axisWidget(QwtPlot::yLeft)->setFont(QFont(QStringLiteral("Cabin"), 17));
         },
         [](ZEMHistogram *chart) { chart->ensurePolished(); },
