@@ -10,22 +10,33 @@
 
 namespace ZemTest {
 
-/** Counts the paint events of the widgets that it watches, each from then on. */
-class PaintCounter : public QObject
+/** Counts the events of one type that reach the objects that it watches, each from then on. */
+class EventCounter : public QObject
 {
 public:
-    PaintCounter() = default;
-    explicit PaintCounter(QWidget *widget) { watch(widget); }
+    explicit EventCounter(QEvent::Type countedType) : type(countedType) { }
+    EventCounter(QObject *object, QEvent::Type countedType) : type(countedType) { watch(object); }
 
-    void watch(QWidget *widget) { widget->installEventFilter(this); }
+    void watch(QObject *object) { object->installEventFilter(this); }
 
     bool eventFilter(QObject * /*watched*/, QEvent *event) override
     {
-        count += event->type() == QEvent::Paint ? 1 : 0;
+        count += event->type() == type ? 1 : 0;
         return false;
     }
 
     int count = 0;
+
+private:
+    QEvent::Type type;
+};
+
+/** Counts how often widgets are painted. */
+class PaintCounter : public EventCounter
+{
+public:
+    PaintCounter() : EventCounter(QEvent::Paint) { }
+    explicit PaintCounter(QWidget *widget) : EventCounter(widget, QEvent::Paint) { }
 };
 
 } // namespace ZemTest

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "paintcounter.h"
 #include "quickpathsfixture.h"
 #include "zemtest.h"
 
@@ -89,27 +90,6 @@ private:
     int *count;
 };
 
-/** Counts the events of one type that an object is sent. */
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QObject *watchedObject, QEvent::Type countedType) : type(countedType)
-    {
-        watchedObject->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        count += event->type() == type ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-
-private:
-    QEvent::Type type;
-};
-
 using Story = std::function<std::vector<QImage>()>;
 
 /** Plays a story without and with the quick paths and compares the pictures. */
@@ -190,7 +170,7 @@ void tst_QuickPaths::everyDragLaysOutWithAnUntriedQwt()
     for (const bool tried : {true, false}) {
         qApp->setProperty(QuickPaths::qwtVersionProperty, tried ? 0x060104 : 0x060200);
         Stage stage(kinds()[0].second);
-        const EventCounter layouts(stage.plot(), QEvent::LayoutRequest);
+        const ZemTest::EventCounter layouts(stage.plot(), QEvent::LayoutRequest);
         for (int i = 0; i < drags; ++i) {
             stage.drag(6);
         }
