@@ -3,27 +3,10 @@
 
 #include <QwtLegendItem>
 
+#include "paintcounter.h"
 #include "zemtest.h"
 
-#include <QPaintEvent>
 #include <QTest>
-
-namespace {
-
-class Item : public QwtLegendItem
-{
-public:
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        ++paints;
-        QwtLegendItem::paintEvent(event);
-    }
-};
-
-} // namespace
 
 class tst_QwtLegendItem : public QObject
 {
@@ -145,16 +128,16 @@ void tst_QwtLegendItem::textBeginsBehindTheIdentifier()
 
 void tst_QwtLegendItem::identifierUpdatesTheItem()
 {
-    Item item;
+    QwtLegendItem item;
     item.resize(60, 21);
     item.show();
     QVERIFY(QTest::qWaitForWindowExposed(&item));
     QCoreApplication::processEvents();
-    item.paints = 0;
+    const ZemTest::PaintCounter counter(&item);
     const QPixmap identifier = ZemTest::flatPixmap(QSize(9, 9), Qt::green);
     item.setIdentifier(identifier);
-    QCOMPARE(item.paints, 0);
-    QTRY_COMPARE(item.paints, 1);
+    QCOMPARE(counter.count, 0);
+    QTRY_COMPARE(counter.count, 1);
     QCOMPARE(item.identifier().cacheKey(), identifier.cacheKey());
 }
 

@@ -4,28 +4,11 @@
 #include <ZEMHistogramLegendItem>
 
 #include "histogramgeometry_p.h"
+#include "paintcounter.h"
 #include "zemtest.h"
 
-#include <QPaintEvent>
 #include <QPainter>
 #include <QTest>
-
-namespace {
-
-class Item : public ZEMHistogramLegendItem
-{
-public:
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        ++paints;
-        ZEMHistogramLegendItem::paintEvent(event);
-    }
-};
-
-} // namespace
 
 class tst_ZEMHistogramLegendItem : public QObject
 {
@@ -102,14 +85,14 @@ void tst_ZEMHistogramLegendItem::backgroundFixesTheSize()
 
 void tst_ZEMHistogramLegendItem::backgroundRepaintsAtOnce()
 {
-    Item item;
+    ZEMHistogramLegendItem item;
     item.setBackground(ZemTest::flatPixmap(QSize(127, 27), Qt::blue));
     item.show();
     QVERIFY(QTest::qWaitForWindowExposed(&item));
     QCoreApplication::processEvents();
-    item.paints = 0;
+    const ZemTest::PaintCounter counter(&item);
     item.setBackground(ZemTest::flatPixmap(QSize(127, 27), Qt::red));
-    QCOMPARE(item.paints, 1);
+    QCOMPARE(counter.count, 1);
 }
 
 void tst_ZEMHistogramLegendItem::identifierIndentSetsTheIndent_data()
