@@ -137,8 +137,10 @@ void tst_ZEMHistogramViews::timestampShowsOnAnAxisOfDates()
 
 void tst_ZEMHistogramViews::dateOfATimestampCountsNotItsInstant()
 {
+    const QByteArray former = qgetenv("TZ");
     qputenv("TZ", "Europe/Amsterdam");
-    const auto restore = qScopeGuard([] { qunsetenv("TZ"); });
+    const auto restore =
+        qScopeGuard([&] { former.isNull() ? qunsetenv("TZ") : qputenv("TZ", former); });
     const QDateTime evening(QDate(2018, 3, 4), QTime(23, 0), Qt::UTC);
     const QDateTime midnight(QDate(2018, 3, 5), QTime(0, 0), Qt::LocalTime);
     QCOMPARE(evening, midnight);
