@@ -4,6 +4,7 @@
 #ifndef RECORDINGDEVICE_H
 #define RECORDINGDEVICE_H
 
+#include <QLineF>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPen>
@@ -27,6 +28,16 @@ struct Drawn
     QTransform transform;
     QPen pen;
 };
+
+/** Lines as the device below tells of them. */
+inline QVector<QPolygonF> lines(const QVector<QLineF> &expected)
+{
+    QVector<QPolygonF> polygons;
+    for (const QLineF &line : expected) {
+        polygons << QPolygonF(QVector<QPointF> {line.p1(), line.p2()});
+    }
+    return polygons;
+}
 
 /** Notes what is drawn instead of drawing it. */
 class RecordingEngine : public QPaintEngine

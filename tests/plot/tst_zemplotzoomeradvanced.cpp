@@ -43,15 +43,6 @@ public:
     }
 };
 
-QVector<QPolygonF> lines(const QVector<QLineF> &expected)
-{
-    QVector<QPolygonF> polygons;
-    for (const QLineF &line : expected) {
-        polygons << QPolygonF(QVector<QPointF> {line.p1(), line.p2()});
-    }
-    return polygons;
-}
-
 } // namespace
 
 class tst_ZEMPlotZoomerAdvanced : public QObject

@@ -64,15 +64,6 @@ QPolygon points(const QPoint &first, const QPoint &last)
     return QVector<QPoint> {first, last};
 }
 
-QVector<QPolygonF> lines(const QVector<QLineF> &expected)
-{
-    QVector<QPolygonF> polygons;
-    for (const QLineF &line : expected) {
-        polygons << QPolygonF(QVector<QPointF> {line.p1(), line.p2()});
-    }
-    return polygons;
-}
-
 } // namespace
 
 class tst_ZEMQwtPickerDraw : public QObject
