@@ -138,22 +138,6 @@ public:
     std::unique_ptr<ZEMPlot> plot;
 };
 
-/** Counts how often it is replotted. */
-class CountingPlot : public ZEMPlot
-{
-public:
-    using ZEMPlot::ZEMPlot;
-    ~CountingPlot() override = default;
-
-    void replot() override
-    {
-        ++replots;
-        ZEMPlot::replot();
-    }
-
-    int replots = 0;
-};
-
 /** A drag with the mouse from one pixel of @p canvas to another, by way of the middle. */
 inline void drag(QWidget *canvas, const QPoint &start, const QPoint &end,
                  Qt::MouseButton button = Qt::LeftButton)

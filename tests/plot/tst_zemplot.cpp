@@ -4,6 +4,7 @@
 #include <ZEMPlot>
 #include <ZEMPlotZoomerAdvanced>
 
+#include "countingplot.h"
 #include "plotfixture.h"
 
 #include <QMetaMethod>
@@ -89,13 +90,13 @@ private Q_SLOTS:
 
 private:
     Styler styler;
-    std::unique_ptr<CountingPlot> plot;
+    std::unique_ptr<ZemTest::CountingPlot<ZEMPlot>> plot;
     Getter getter;
 };
 
 void tst_ZEMPlot::init()
 {
-    plot = std::make_unique<CountingPlot>(&styler);
+    plot = std::make_unique<ZemTest::CountingPlot<ZEMPlot>>(&styler);
     getter.reset(plot->getCurvePointGetter());
     plot->replots = 0;
 }

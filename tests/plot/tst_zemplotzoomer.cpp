@@ -4,6 +4,7 @@
 #include <ZEMPlotZoomer>
 #include <ZEMQwtPickerDraw>
 
+#include "countingplot.h"
 #include "plotfixture.h"
 
 #include <QPointer>
@@ -180,17 +181,7 @@ void tst_ZEMPlotZoomer::defaults()
 
 void tst_ZEMPlotZoomer::replotsFirstIfTold()
 {
-    class Plot : public QwtPlot
-    {
-    public:
-        void replot() override
-        {
-            ++replots;
-            QwtPlot::replot();
-        }
-        int replots = 0;
-    };
-    Plot counting;
+    ZemTest::CountingPlot<QwtPlot> counting;
     auto *const canvas = qobject_cast<QwtPlotCanvas *>(counting.canvas());
     const ZEMPlotZoomer quiet(canvas, false);
     QCOMPARE(counting.replots, 0);

@@ -3,6 +3,7 @@
 
 #include <ZEMQwtPlotHistogram>
 
+#include "countingplot.h"
 #include "recordingdevice.h"
 #include "zemtest.h"
 
@@ -288,13 +289,7 @@ void tst_ZEMQwtPlotHistogram::withoutBrushNothingIsFilled()
 
 void tst_ZEMQwtPlotHistogram::tailLengthDoesNotReplot()
 {
-    class Plot : public QwtPlot
-    {
-    public:
-        void replot() override { ++replots; }
-        int replots = 0;
-    };
-    Plot plot;
+    ZemTest::CountingPlot<QwtPlot> plot;
     plot.setAutoReplot(true);
     auto *bars = new ZEMQwtPlotHistogram;
     bars->attach(&plot);

@@ -3,6 +3,7 @@
 
 #include <ZEMQwtPlotMarker>
 
+#include "countingplot.h"
 #include "markertexts_p.h"
 #include "recordingdevice.h"
 #include "zemtest.h"
@@ -226,13 +227,7 @@ void tst_ZEMQwtPlotMarker::ownLabelIsNotUsed()
 
 void tst_ZEMQwtPlotMarker::settersDoNotReplot()
 {
-    class Plot : public QwtPlot
-    {
-    public:
-        void replot() override { ++replots; }
-        int replots = 0;
-    };
-    Plot plot;
+    ZemTest::CountingPlot<QwtPlot> plot;
     plot.setAutoReplot(true);
     auto *marker = new ZEMQwtPlotMarker;
     marker->attach(&plot);

@@ -6,6 +6,7 @@
 #include <ZEMHistogramLegendItem>
 #include <ZEMHistogramSeries>
 
+#include "countingplot.h"
 #include "zemtest.h"
 
 #include <QPainter>
@@ -38,17 +39,7 @@ public:
     using ZEMHistogramSeries::ZEMHistogramSeries;
 };
 
-class Plot : public QwtPlot
-{
-public:
-    void replot() override
-    {
-        ++replots;
-        QwtPlot::replot();
-    }
-
-    int replots = 0;
-};
+using Plot = ZemTest::CountingPlot<QwtPlot>;
 
 QwtScaleMap scaleMap(double s1, double s2, double p1, double p2)
 {
