@@ -138,6 +138,14 @@ public:
     std::unique_ptr<ZEMPlot> plot;
 };
 
+/** A stage with two level curves. */
+class TwoCurves : public Stage
+{
+public:
+    QwtPlotCurve *upper = addCurve(levelRow(wholeRow, 200.0), QStringLiteral("upper"));
+    QwtPlotCurve *lower = addCurve(levelRow(wholeRow, 50.0), QStringLiteral("lower"));
+};
+
 /** A drag with the mouse from one pixel of @p canvas to another, by way of the middle. */
 inline void drag(QWidget *canvas, const QPoint &start, const QPoint &end,
                  Qt::MouseButton button = Qt::LeftButton)

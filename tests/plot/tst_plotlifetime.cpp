@@ -243,16 +243,16 @@ private Q_SLOTS:
     void canvasEndsFirst();
 
 private:
-    std::unique_ptr<Stage> stage;
+    std::unique_ptr<TwoCurves> stage;
     QwtPlotCurve *upper = nullptr;
     QwtPlotCurve *lower = nullptr;
 };
 
 void tst_PlotLifetime::init()
 {
-    stage = std::make_unique<Stage>();
-    upper = stage->addCurve(levelRow(wholeRow, 200.0), QStringLiteral("upper"));
-    lower = stage->addCurve(levelRow(wholeRow, 50.0), QStringLiteral("lower"));
+    stage = std::make_unique<TwoCurves>();
+    upper = stage->upper;
+    lower = stage->lower;
     stage->styler.log.clear();
 }
 
