@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "formtest.h"
+#include "margintest.h"
 #include "widgettest.h"
 #include "zemtest.h"
 
@@ -17,8 +18,6 @@ using namespace WidgetTest;
 using FormTest::part;
 using ZemTest::flatPixmap;
 using ZemTest::render;
-
-Q_DECLARE_METATYPE(QMargins)
 
 class tst_ZEMLineEdit : public QObject
 {
@@ -140,32 +139,12 @@ void tst_ZEMLineEdit::lineEditReachesTheAccessors()
 
 void tst_ZEMLineEdit::marginsAreIndependent_data()
 {
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<QMargins>("expected");
-    QTest::newRow("left") << QByteArray("layoutLeft") << QMargins(10, 2, 3, 4);
-    QTest::newRow("top") << QByteArray("layoutTop") << QMargins(1, 10, 3, 4);
-    QTest::newRow("right") << QByteArray("layoutRight") << QMargins(1, 2, 10, 4);
-    QTest::newRow("bottom") << QByteArray("layoutBottom") << QMargins(1, 2, 3, 10);
+    MarginTest::addRows();
 }
 
 void tst_ZEMLineEdit::marginsAreIndependent()
 {
-    QFETCH(QByteArray, property);
-    ZEMLineEdit field;
-    field.setLayoutLeft(1);
-    field.setLayoutTop(2);
-    field.setLayoutRight(3);
-    field.setLayoutBottom(4);
-    QCOMPARE(field.layout()->contentsMargins(), QMargins(1, 2, 3, 4));
-    QVERIFY(field.setProperty(property.constData(), 10));
-    QTEST(field.layout()->contentsMargins(), "expected");
-    QCOMPARE(field.property(property.constData()).toInt(), 10);
-
-    field.layout()->setContentsMargins(5, 6, 7, 8);
-    QCOMPARE(field.layoutLeft(), 5);
-    QCOMPARE(field.layoutTop(), 6);
-    QCOMPARE(field.layoutRight(), 7);
-    QCOMPARE(field.layoutBottom(), 8);
+    MarginTest::compare<ZEMLineEdit>();
 }
 
 void tst_ZEMLineEdit::marginsPlaceTheField()

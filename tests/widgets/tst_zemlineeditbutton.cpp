@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "formtest.h"
+#include "margintest.h"
 #include "widgettest.h"
 #include "zemtest.h"
 
@@ -16,8 +17,6 @@ using namespace WidgetTest;
 using FormTest::part;
 using ZemTest::flatPixmap;
 using ZemTest::render;
-
-Q_DECLARE_METATYPE(QMargins)
 
 class tst_ZEMLineEditButton : public QObject
 {
@@ -119,32 +118,12 @@ void tst_ZEMLineEditButton::textAndAlignmentAreTheLabels()
 
 void tst_ZEMLineEditButton::marginsAreIndependent_data()
 {
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<QMargins>("expected");
-    QTest::newRow("left") << QByteArray("layoutLeft") << QMargins(10, 2, 3, 4);
-    QTest::newRow("top") << QByteArray("layoutTop") << QMargins(1, 10, 3, 4);
-    QTest::newRow("right") << QByteArray("layoutRight") << QMargins(1, 2, 10, 4);
-    QTest::newRow("bottom") << QByteArray("layoutBottom") << QMargins(1, 2, 3, 10);
+    MarginTest::addRows();
 }
 
 void tst_ZEMLineEditButton::marginsAreIndependent()
 {
-    QFETCH(QByteArray, property);
-    ZEMLineEditButton button;
-    button.setLayoutLeft(1);
-    button.setLayoutTop(2);
-    button.setLayoutRight(3);
-    button.setLayoutBottom(4);
-    QCOMPARE(button.layout()->contentsMargins(), QMargins(1, 2, 3, 4));
-    QVERIFY(button.setProperty(property.constData(), 10));
-    QTEST(button.layout()->contentsMargins(), "expected");
-    QCOMPARE(button.property(property.constData()).toInt(), 10);
-
-    button.layout()->setContentsMargins(5, 6, 7, 8);
-    QCOMPARE(button.layoutLeft(), 5);
-    QCOMPARE(button.layoutTop(), 6);
-    QCOMPARE(button.layoutRight(), 7);
-    QCOMPARE(button.layoutBottom(), 8);
+    MarginTest::compare<ZEMLineEditButton>();
 }
 
 void tst_ZEMLineEditButton::flagsAreStoredOnly()
