@@ -29,6 +29,8 @@ private Q_SLOTS:
     void disabledButtonShowsTheDisabledIcon();
     void touchReachesTheButton();
     void signalsCanSetTheBadge();
+    void settersPaintTheIconSoon_data();
+    void settersPaintTheIconSoon();
 };
 
 static ZEMNotificationIcon *iconOf(const ZEMNotificationButton &button)
@@ -176,6 +178,35 @@ void tst_ZEMNotificationButton::signalsCanSetTheBadge()
     QVERIFY(button.getWarning());
     source.setChecked(false);
     QVERIFY(!button.getWarning());
+}
+
+void tst_ZEMNotificationButton::settersPaintTheIconSoon_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("isPainted");
+    const auto row = [](const char *name, const char *property, const QVariant &value,
+                        bool paints) {
+        QTest::newRow(name) << QByteArray(property) << value << paints;
+    };
+    row("picture", "icon", flatPixmap({20, 20}, Qt::blue), true);
+    row("picture of the disabled one", "iconDisabled", flatPixmap({20, 20}, Qt::green), true);
+    row("count", "notifyCount", 3, true);
+    row("negative count", "notifyCount", -3, false);
+    row("warning", "warning", true, true);
+}
+
+void tst_ZEMNotificationButton::settersPaintTheIconSoon()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, value);
+    QFETCH(bool, isPainted);
+    ZEMNotificationButton button;
+    const Stage stage(&button);
+    QVERIFY(stage.isReady());
+    const Painted painted = paintedBy(
+        iconOf(button), [&] { QVERIFY(button.setProperty(property.constData(), value)); });
+    QCOMPARE(painted, isPainted ? Painted::Later : Painted::Never);
 }
 
 QTEST_MAIN(tst_ZEMNotificationButton)
