@@ -13,7 +13,6 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMetaMethod>
 #include <QStackedWidget>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -326,20 +325,6 @@ public:
     QTimer *timer;
     bool loaded;
 };
-
-/** The signals and slots that a class itself declares, in words and in their order. */
-inline QStringList ownMethods(const QMetaObject &metaObject)
-{
-    QStringList methods;
-    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
-        const QMetaMethod method = metaObject.method(i);
-        const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        const bool isPrivate = method.access() == QMetaMethod::Private;
-        methods.append(QLatin1String(isSignal ? "signal " : (isPrivate ? "private " : "public "))
-                       + QLatin1String(method.methodSignature()));
-    }
-    return methods;
-}
 
 } // namespace KeyboardTest
 

@@ -3,6 +3,7 @@
 
 #include "../widgets/widgettest.h"
 #include "anydialog.h"
+#include "ownmethods.h"
 
 #include <ZEMButton>
 #include <ZEMPixmap>
@@ -449,7 +450,7 @@ void tst_InputDialogForms::declaresItsOwn()
 {
     QFETCH(QStringList, others);
     const AnyDialog any;
-    QStringList own = KeyboardTest::ownMethods(*any.dialog->metaObject());
+    QStringList own = ZemTest::ownMethods(*any.dialog->metaObject());
     for (const char *method :
          {"signal sigShown()", "signal sigSelect()", "signal sigCancel()",
           "private slotInputHandlerSelect()", "private slotInputHandlerCancel()"}) {

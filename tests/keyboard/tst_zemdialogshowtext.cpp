@@ -4,6 +4,7 @@
 #include "../widgets/dialogtest.h"
 #include "../widgets/widgettest.h"
 #include "keyboardtest.h"
+#include "ownmethods.h"
 #include "zemtest.h"
 
 #include <ZEMButton>
@@ -170,7 +171,7 @@ void tst_ZEMDialogShowText::textsAreTranslated()
 
 void tst_ZEMDialogShowText::declaresItsSignalsAndSlots()
 {
-    QCOMPARE(KeyboardTest::ownMethods(ZEMDialogShowText::staticMetaObject),
+    QCOMPARE(ZemTest::ownMethods(ZEMDialogShowText::staticMetaObject),
              strings({"signal sigBtnEditClicked()", "private btn_accepted_clicked()",
                       "private btn_pg_up_clicked()", "private btn_pg_down_clicked()"}));
     QVERIFY(WidgetTest::ownProperties(ZEMDialogShowText::staticMetaObject).isEmpty());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "keyboardtest.h"
+#include "ownmethods.h"
 
 #include <ZEMKeyboardInputHandler>
 
@@ -21,7 +22,7 @@ private Q_SLOTS:
 void tst_ZEMKeyboardInputHandler::declaresItsOwn()
 {
     QCOMPARE(
-        KeyboardTest::ownMethods(Handler::staticMetaObject),
+        ZemTest::ownMethods(Handler::staticMetaObject),
         QStringList({QStringLiteral("signal sigSelect()"), QStringLiteral("signal sigCancel()"),
                      QStringLiteral("signal sigSearch()"),
                      QStringLiteral("signal sigTextEdited(QString)")}));

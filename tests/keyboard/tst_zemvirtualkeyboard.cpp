@@ -4,6 +4,7 @@
 #include "../dashboard/messagelog.h"
 #include "../widgets/widgettest.h"
 #include "keyboardtest.h"
+#include "ownmethods.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -90,7 +91,7 @@ void tst_ZEMVirtualKeyboard::declaresItsOwn()
     QCOMPARE(metaObject.className(), "ZEMVirtualKeyboard");
     QCOMPARE(metaObject.superClass()->className(), "QWidget");
     QVERIFY(WidgetTest::ownProperties(metaObject).isEmpty());
-    QCOMPARE(ownMethods(metaObject),
+    QCOMPARE(ZemTest::ownMethods(metaObject),
              QStringList({QStringLiteral("signal sigKey_enter()"),
                           QStringLiteral("private sendKey(int)"),
                           QStringLiteral("private buttonPressed(int)"),

@@ -7,7 +7,6 @@
 #include <QAbstractItemView>
 #include <QAbstractTableModel>
 #include <QFont>
-#include <QMetaMethod>
 #include <QPair>
 #include <QSet>
 #include <QSize>
@@ -146,21 +145,6 @@ private:
         }
     }
 };
-
-/** The signals and slots that a class itself declares, each with its access. */
-inline QStringList ownMethods(const QMetaObject &metaObject)
-{
-    QStringList methods;
-    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
-        const QMetaMethod method = metaObject.method(i);
-        const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        const bool isPrivate = method.access() == QMetaMethod::Private;
-        methods.append(QLatin1String(isSignal ? "signal " : (isPrivate ? "private slot " : "slot "))
-                       + QLatin1String(method.methodSignature()));
-    }
-    methods.sort();
-    return methods;
-}
 
 #ifdef Q_PROCESSOR_X86_64
 /**

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "listtest.h"
+#include "ownmethods.h"
 #include "zemtest.h"
 
 #include <ZEMActionListModel>
@@ -123,7 +124,7 @@ void tst_ZEMActionListModel::newModelIsEmpty()
 
 void tst_ZEMActionListModel::declaresNoSignalAndNoSlot()
 {
-    QCOMPARE(ownMethods(ZEMActionListModel::staticMetaObject), QStringList());
+    QCOMPARE(ZemTest::ownMethods(ZEMActionListModel::staticMetaObject), QStringList());
     QCOMPARE(ZEMActionListModel::staticMetaObject.superClass(),
              &QAbstractListModel::staticMetaObject);
 }
