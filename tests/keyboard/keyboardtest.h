@@ -4,6 +4,7 @@
 #ifndef KEYBOARDTEST_H
 #define KEYBOARDTEST_H
 
+#include "holdtimer.h"
 #include "zemtest.h"
 
 #include <ZEMVirtualKey>
@@ -264,19 +265,7 @@ public:
         release(name);
     }
 
-    /** Lets the time of a hold, which does not pass by itself, pass at once. False if no hold is
-     * timed. */
-    bool holdOn() const
-    {
-        if (!timer->isActive()) {
-            return false;
-        }
-        const int interval = timer->interval();
-        timer->setInterval(1);
-        const bool ranOut = QTest::qWaitFor([this] { return !timer->isActive(); });
-        timer->setInterval(interval);
-        return ranOut;
-    }
+    bool holdOn() const { return letHoldPass(timer); }
 
     /** The panel with the alternative characters: the one child with a layout and keys. */
     QWidget *panel() const

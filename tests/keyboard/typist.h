@@ -4,6 +4,7 @@
 #ifndef TYPIST_H
 #define TYPIST_H
 
+#include "holdtimer.h"
 #include "zemtest.h"
 
 #include <KeyboardFactoryDefault>
@@ -178,10 +179,7 @@ private:
         if (!timer->isActive()) {
             return false;
         }
-        const int interval = timer->interval();
-        timer->setInterval(1);
-        const bool ranOut = QTest::qWaitFor([this] { return !timer->isActive(); });
-        timer->setInterval(interval);
+        const bool ranOut = letHoldPass(timer);
         ZemTest::release(key, key->rect().center());
         for (ZEMVirtualKey *each : dialog->findChildren<ZEMVirtualKey *>()) {
             if (ranOut && each->name().isNull() && each->isVisible() && each->key() == character) {
