@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "../dashboard/messagelog.h"
+#include "../widgets/widgettest.h"
 #include "keyboardtest.h"
 #include "sizehash_p.h"
 
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void picturesOfBothStates();
     void sizesWithoutAPicture();
     void pressedLook();
+    void lookIsPaintedAtOnce();
     void subclassChangesTheLook();
     void keyboardOfTheLanguage_data();
     void keyboardOfTheLanguage();
@@ -336,6 +338,20 @@ void tst_KeyboardFactoryDefault::pressedLook()
              factory.getBackground(QSize(90, 40), false).cacheKey());
     QCOMPARE(key.size(), QSize(90, 40));
     QVERIFY(key.styleSheet().isEmpty());
+}
+
+void tst_KeyboardFactoryDefault::lookIsPaintedAtOnce()
+{
+    using namespace WidgetTest;
+    KeyboardFactoryDefault factory({}, {});
+    ZEMVirtualKey key(QStringLiteral("a"));
+    key.resize(90, 40);
+    const Stage stage(&key);
+    QVERIFY(stage.isReady());
+    for (const bool pressed : {true, false}) {
+        QCOMPARE(paintedBy(&key, [&] { factory.changeKeyStylesheet(&key, pressed); }),
+                 Painted::AtOnce);
+    }
 }
 
 void tst_KeyboardFactoryDefault::subclassChangesTheLook()
