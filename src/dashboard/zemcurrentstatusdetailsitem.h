@@ -49,11 +49,14 @@ public:
     explicit ZEMCurrentStatusDetailsItem(QWidget *parent = nullptr);
     ~ZEMCurrentStatusDetailsItem() override;
 
-    /** The icon in front of the power; null by default. It is shown in its own size, at once. */
+    /**
+     * The icon in front of the power; null by default. It is shown in its own size: at once, or, if
+     * it needs other room, when the layout has made that.
+     */
     QPixmap getIcon() const;
     void setIcon(const QPixmap &icon);
 
-    /** The icon behind the power; null by default. It is shown in its own size, at once. */
+    /** The icon behind the power; null by default. It is shown as the one in front is. */
     QPixmap getIconPowerSource() const;
     void setIconPowerSource(const QPixmap &icon);
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void declaresItsOwn();
     void windowTitleIsTranslated();
     void iconsAreShownInTheirSize();
+    void iconsShowAtOnceOrWithTheLayout();
     void absentIconsTakeNoRoom();
     void text_data();
     void text();
@@ -134,6 +135,24 @@ void tst_ZEMCurrentStatusDetailsItem::iconsAreShownInTheirSize()
     QCOMPARE(image.pixelColor(165, 15), QColor(Qt::blue));
     QCOMPARE(image.pixelColor(146, 15), QColor(Qt::blue));
     QVERIFY(image.pixelColor(145, 15) != QColor(Qt::blue));
+}
+
+void tst_ZEMCurrentStatusDetailsItem::iconsShowAtOnceOrWithTheLayout()
+{
+    ZEMCurrentStatusDetailsItem item;
+    item.resize(166, 30);
+    const Stage stage(&item);
+    QVERIFY(stage.isReady());
+    auto *front = part<ZEMPixmap>(item, "zemPixmapFront");
+    auto *back = part<ZEMPixmap>(item, "zemPixmapBack");
+    const QPixmap icon = flatPixmap({20, 18}, Qt::blue);
+    // The layout has no room for them yet.
+    QVERIFY(paintedBy(front, [&] { item.setIcon(icon); }) != Painted::Never);
+    QVERIFY(paintedBy(back, [&] { item.setIconPowerSource(icon); }) != Painted::Never);
+
+    const QPixmap next = flatPixmap({20, 18}, Qt::red);
+    QCOMPARE(paintedBy(front, [&] { item.setIcon(next); }), Painted::AtOnce);
+    QCOMPARE(paintedBy(back, [&] { item.setIconPowerSource(next); }), Painted::AtOnce);
 }
 
 void tst_ZEMCurrentStatusDetailsItem::absentIconsTakeNoRoom()
