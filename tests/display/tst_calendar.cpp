@@ -39,7 +39,7 @@ Meter steadyMeter(const Interval &interval)
 
 } // namespace
 
-class TestCalendar : public QObject
+class tst_Calendar : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void oneMetersGapIsAGapOfAll();
 };
 
-void TestCalendar::plainDayHas24EqualHours()
+void tst_Calendar::plainDayHas24EqualHours()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.day(plainDay), (Interval {utc(plainDay, 0) - 2 * Hour, utc(plainDay, 22)}));
@@ -69,7 +69,7 @@ void TestCalendar::plainDayHas24EqualHours()
     }
 }
 
-void TestCalendar::springDayHasAnEmptySlot()
+void tst_Calendar::springDayHasAnEmptySlot()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.day(springDay).seconds(), 23 * Hour);
@@ -80,7 +80,7 @@ void TestCalendar::springDayHasAnEmptySlot()
     QCOMPARE(calendar.hour(springDay, 3), (Interval {change, change + Hour}));
 }
 
-void TestCalendar::autumnDayHasASlotOfTwoHours()
+void tst_Calendar::autumnDayHasASlotOfTwoHours()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.day(autumnDay).seconds(), 25 * Hour);
@@ -90,7 +90,7 @@ void TestCalendar::autumnDayHasASlotOfTwoHours()
     QCOMPARE(calendar.hour(autumnDay, 3), (Interval {change + Hour, change + 2 * Hour}));
 }
 
-void TestCalendar::hoursOfEveryDayTouch_data()
+void tst_Calendar::hoursOfEveryDayTouch_data()
 {
     QTest::addColumn<QByteArray>("zone");
     for (const char *zone : {"Europe/Amsterdam", "America/Vancouver", "Australia/Lord_Howe",
@@ -99,7 +99,7 @@ void TestCalendar::hoursOfEveryDayTouch_data()
     }
 }
 
-void TestCalendar::hoursOfEveryDayTouch()
+void tst_Calendar::hoursOfEveryDayTouch()
 {
     QFETCH(QByteArray, zone);
     const Calendar calendar {QTimeZone(zone)};
@@ -117,7 +117,7 @@ void TestCalendar::hoursOfEveryDayTouch()
     }
 }
 
-void TestCalendar::weeksBeginOnMonday()
+void tst_Calendar::weeksBeginOnMonday()
 {
     const Calendar calendar = amsterdam();
     const QDate monday(2023, 6, 12);
@@ -130,14 +130,14 @@ void TestCalendar::weeksBeginOnMonday()
     QCOMPARE(calendar.week(monday).seconds(), 7 * 24 * Hour);
 }
 
-void TestCalendar::weeksOfTheClockChangeAreAnHourOff()
+void tst_Calendar::weeksOfTheClockChangeAreAnHourOff()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.week(springDay).seconds(), (7 * 24 - 1) * Hour);
     QCOMPARE(calendar.week(autumnDay).seconds(), (7 * 24 + 1) * Hour);
 }
 
-void TestCalendar::invalidQuestionsAreEmpty()
+void tst_Calendar::invalidQuestionsAreEmpty()
 {
     const Calendar calendar = amsterdam();
     QVERIFY(calendar.hour(QDate(), 3).isEmpty());
@@ -157,7 +157,7 @@ void TestCalendar::invalidQuestionsAreEmpty()
     QCOMPARE(calendar.hoursOfDay({}, plainDay), Calendar::Amounts(24, std::nullopt));
 }
 
-void TestCalendar::instantsAreFoundInTheirSlots()
+void tst_Calendar::instantsAreFoundInTheirSlots()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.timeZone().id(), QByteArray("Europe/Amsterdam"));
@@ -169,7 +169,7 @@ void TestCalendar::instantsAreFoundInTheirSlots()
     }
 }
 
-void TestCalendar::hoursOfDayAnswerEachSlot()
+void tst_Calendar::hoursOfDayAnswerEachSlot()
 {
     const Calendar calendar = amsterdam();
     const Meter plain = steadyMeter(calendar.day(plainDay));
@@ -187,7 +187,7 @@ void TestCalendar::hoursOfDayAnswerEachSlot()
     QCOMPARE(calendar.hoursOfDay({&autumn}, autumnDay), expected);
 }
 
-void TestCalendar::daysAndWeeksAnswerEachSlot()
+void tst_Calendar::daysAndWeeksAnswerEachSlot()
 {
     const Calendar calendar = amsterdam();
     const Meter meter = steadyMeter({calendar.week(springDay).from, calendar.week(autumnDay).to});
@@ -206,7 +206,7 @@ void TestCalendar::daysAndWeeksAnswerEachSlot()
     QCOMPARE(calendar.weeks({&meter}, autumnDay, 2), (Calendar::Amounts {169.0, std::nullopt}));
 }
 
-void TestCalendar::severalMetersAddUp()
+void tst_Calendar::severalMetersAddUp()
 {
     const Calendar calendar = amsterdam();
     const Meter low = steadyMeter(calendar.day(plainDay));
@@ -214,7 +214,7 @@ void TestCalendar::severalMetersAddUp()
     QCOMPARE(calendar.hoursOfDay({&low, &normal}, plainDay), Calendar::Amounts(24, 2.0));
 }
 
-void TestCalendar::oneMetersGapIsAGapOfAll()
+void tst_Calendar::oneMetersGapIsAGapOfAll()
 {
     const Calendar calendar = amsterdam();
     const Meter whole = steadyMeter(calendar.day(plainDay));
@@ -225,5 +225,5 @@ void TestCalendar::oneMetersGapIsAGapOfAll()
     QCOMPARE(calendar.hoursOfDay({&whole, &half}, plainDay), expected);
 }
 
-QTEST_APPLESS_MAIN(TestCalendar)
+QTEST_APPLESS_MAIN(tst_Calendar)
 #include "tst_calendar.moc"

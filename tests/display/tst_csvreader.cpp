@@ -22,7 +22,7 @@ QByteArray bytes(std::string_view text)
 
 } // namespace
 
-class TestCsvReader : public QObject
+class tst_CsvReader : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ private:
     QTemporaryDir folder;
 };
 
-QString TestCsvReader::write(const QByteArray &content)
+QString tst_CsvReader::write(const QByteArray &content)
 {
     QFile file(folder.filePath(QStringLiteral("lines.csv")));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
@@ -52,7 +52,7 @@ QString TestCsvReader::write(const QByteArray &content)
     return file.fileName();
 }
 
-void TestCsvReader::lines_data()
+void tst_CsvReader::lines_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArrayList>("expected");
@@ -72,7 +72,7 @@ void TestCsvReader::lines_data()
                                << QByteArrayList {QByteArray("a\0b", 3), "c"};
 }
 
-void TestCsvReader::lines()
+void tst_CsvReader::lines()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArrayList, expected);
@@ -89,7 +89,7 @@ void TestCsvReader::lines()
     QCOMPARE(reader.readError(), QString());
 }
 
-void TestCsvReader::overlongLineIsOneLine()
+void tst_CsvReader::overlongLineIsOneLine()
 {
     for (const int length : {16383, 16384, 16385, 32768, 100000}) {
         CsvReader reader(write("a\n" + QByteArray(length, 'x') + "\nb"));
@@ -105,7 +105,7 @@ void TestCsvReader::overlongLineIsOneLine()
     }
 }
 
-void TestCsvReader::lineWithoutEndDoesNotHang()
+void tst_CsvReader::lineWithoutEndDoesNotHang()
 {
     const QString path = QStringLiteral("/dev/zero");
     if (!QFile::exists(path)) {
@@ -117,14 +117,14 @@ void TestCsvReader::lineWithoutEndDoesNotHang()
     QVERIFY(reader.isTooLong());
 }
 
-void TestCsvReader::obstaclesAreTold()
+void tst_CsvReader::obstaclesAreTold()
 {
     QCOMPARE(CsvReader(folder.filePath(QStringLiteral("none.csv"))).open(),
              QStringLiteral("no such file"));
     QCOMPARE(CsvReader(folder.path()).open(), QStringLiteral("is a directory"));
 }
 
-void TestCsvReader::split_data()
+void tst_CsvReader::split_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<bool>("good");
@@ -144,7 +144,7 @@ void TestCsvReader::split_data()
         << QByteArray("\"a\"b,c") << false << QByteArrayList {"a"};
 }
 
-void TestCsvReader::split()
+void tst_CsvReader::split()
 {
     QFETCH(QByteArray, line);
     QFETCH(bool, good);
@@ -159,7 +159,7 @@ void TestCsvReader::split()
     QCOMPARE(found, expected);
 }
 
-void TestCsvReader::numbers_data()
+void tst_CsvReader::numbers_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<char>("sign");
@@ -197,7 +197,7 @@ void TestCsvReader::numbers_data()
                                << '.' << bad;
 }
 
-void TestCsvReader::numbers()
+void tst_CsvReader::numbers()
 {
     QFETCH(QByteArray, text);
     QFETCH(char, sign);
@@ -209,5 +209,5 @@ void TestCsvReader::numbers()
     }
 }
 
-QTEST_APPLESS_MAIN(TestCsvReader)
+QTEST_APPLESS_MAIN(tst_CsvReader)
 #include "tst_csvreader.moc"

@@ -20,7 +20,7 @@ const QByteArray portalGasHeader = "datum_tijd;levering;buitentemperatuur\n";
 
 } // namespace
 
-class TestHousehold : public QObject
+class tst_Household : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private:
     ReadingsFolder folder;
 };
 
-void TestHousehold::filesAreMerged()
+void tst_Household::filesAreMerged()
 {
     const QString first = folder.write(QStringLiteral("first.csv"),
                                        "time,gas_m3\n"
@@ -66,7 +66,7 @@ void TestHousehold::filesAreMerged()
     }
 }
 
-void TestHousehold::sameFileTwiceIsSilent()
+void tst_Household::sameFileTwiceIsSilent()
 {
     const QString path = folder.write(QStringLiteral("twice.csv"),
                                       portalGasHeader
@@ -77,7 +77,7 @@ void TestHousehold::sameFileTwiceIsSilent()
     QCOMPARE(household.total(Quantity::Gas), 1.25);
 }
 
-void TestHousehold::contradictionsAreToldWithTheLaterFile()
+void tst_Household::contradictionsAreToldWithTheLaterFile()
 {
     const QString first = folder.write(QStringLiteral("first.csv"),
                                        "time,gas_m3\n"
@@ -99,7 +99,7 @@ void TestHousehold::contradictionsAreToldWithTheLaterFile()
     QCOMPARE(household.amount(Quantity::Gas, {start + Hour, start + 2 * Hour}), Amount(1.0));
 }
 
-void TestHousehold::otherWaysOfCountingAreLeftOut()
+void tst_Household::otherWaysOfCountingAreLeftOut()
 {
     const QString counter = folder.write(QStringLiteral("counter.csv"),
                                          "time,gas_m3,electricity_import_kwh\n"
@@ -125,7 +125,7 @@ void TestHousehold::otherWaysOfCountingAreLeftOut()
     QCOMPARE(household.metersOf(Quantity::GridImport).size(), std::size_t(1));
 }
 
-void TestHousehold::firstFileGivesTheTimeZone()
+void tst_Household::firstFileGivesTheTimeZone()
 {
     const QString german = folder.write(QStringLiteral("german.csv"),
                                         germanHeader + "2016-01-01T00:00:00,1,2,3,4,5,\n");
@@ -146,7 +146,7 @@ void TestHousehold::firstFileGivesTheTimeZone()
     QCOMPARE(third.timeZone.id(), QByteArray("Europe/Amsterdam"));
 }
 
-void TestHousehold::ownFormatHasNoTimeZoneOfItsOwn()
+void tst_Household::ownFormatHasNoTimeZoneOfItsOwn()
 {
     const QString german = folder.write(QStringLiteral("german.csv"),
                                         germanHeader + "2016-01-01T00:00:00,1,2,3,4,5,\n");
@@ -158,7 +158,7 @@ void TestHousehold::ownFormatHasNoTimeZoneOfItsOwn()
     QCOMPARE(loadReadings({own}).timeZone, QTimeZone::systemTimeZone());
 }
 
-void TestHousehold::nothingGivesAnEmptyHousehold()
+void tst_Household::nothingGivesAnEmptyHousehold()
 {
     const Household household = loadReadings({});
     QVERIFY(household.meters.empty());
@@ -169,7 +169,7 @@ void TestHousehold::nothingGivesAnEmptyHousehold()
     QVERIFY(!household.consumption({0, Hour}));
 }
 
-void TestHousehold::measuredPowerIsThatOfTheLastRow()
+void tst_Household::measuredPowerIsThatOfTheLastRow()
 {
     const Household household = folder.load(minuteHeader
                                             + "2024-02-19 00:02:00,10,20,30,40,0,0,D,1.5,0.25\n"
@@ -181,7 +181,7 @@ void TestHousehold::measuredPowerIsThatOfTheLastRow()
     QCOMPARE(household.latestPower()->instant, utc("2024-02-18T23:03:00"));
 }
 
-void TestHousehold::meanPowerIsThatOfTheLastCompleteInterval()
+void tst_Household::meanPowerIsThatOfTheLastCompleteInterval()
 {
     const Household both = folder.load("time,electricity_import_kwh,electricity_export_kwh\n"
                                        "2024-05-01T10:00Z,100,50\n"
@@ -203,7 +203,7 @@ void TestHousehold::meanPowerIsThatOfTheLastCompleteInterval()
     QVERIFY(!folder.load("time,electricity_import_kwh\n2024-05-01T10:00Z,100\n").latestPower());
 }
 
-void TestHousehold::consumptionNeedsWhatItIsMadeOf()
+void tst_Household::consumptionNeedsWhatItIsMadeOf()
 {
     const qint64 start = utc("2024-05-01T10:00:00");
     const Interval hour {start, start + Hour};
@@ -235,7 +235,7 @@ void TestHousehold::consumptionNeedsWhatItIsMadeOf()
              Amount());
 }
 
-void TestHousehold::problemsAreInTheOrderOfFilesAndLines()
+void tst_Household::problemsAreInTheOrderOfFilesAndLines()
 {
     const QString first = folder.write(QStringLiteral("first.csv"),
                                        "time,gas_m3\n"
@@ -251,5 +251,5 @@ void TestHousehold::problemsAreInTheOrderOfFilesAndLines()
     QVERIFY(problems.at(2).startsWith(first + QStringLiteral(":5: ")));
 }
 
-QTEST_GUILESS_MAIN(TestHousehold)
+QTEST_GUILESS_MAIN(tst_Household)
 #include "tst_household.moc"

@@ -53,7 +53,7 @@ Indexes faultsOf(const Meter &meter, Fault::Kind kind)
 
 } // namespace
 
-class TestMeter : public QObject
+class tst_Meter : public QObject
 {
     Q_OBJECT
 
@@ -81,7 +81,7 @@ private Q_SLOTS:
     void effortGrowsWithTheReadings();
 };
 
-void TestMeter::counterAnswersTheDifferenceAtTheBorders()
+void tst_Meter::counterAnswersTheDifferenceAtTheBorders()
 {
     const Meter meter = hourly({100.5, 101.0, 103.25});
     QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.5));
@@ -93,7 +93,7 @@ void TestMeter::counterAnswersTheDifferenceAtTheBorders()
     QCOMPARE(meter.lastInstant(), std::optional<qint64>(2 * Hour));
 }
 
-void TestMeter::counterAnswersNothingWithoutAReadingAtABorder()
+void tst_Meter::counterAnswersNothingWithoutAReadingAtABorder()
 {
     const Meter meter = hourly({100.0, 101.0, 102.0});
     QVERIFY(!meter.amount(-Hour, Hour));
@@ -113,7 +113,7 @@ void TestMeter::counterAnswersNothingWithoutAReadingAtABorder()
     QCOMPARE(meter.total(-9 * Hour, -5 * Hour), 0.0);
 }
 
-void TestMeter::gapInsideASlotDoesNoHarm()
+void tst_Meter::gapInsideASlotDoesNoHarm()
 {
     Meter meter = counter();
     meter.addReading(0, 10.0);
@@ -126,14 +126,14 @@ void TestMeter::gapInsideASlotDoesNoHarm()
     QVERIFY(meter.faults().empty());
 }
 
-void TestMeter::unchangedCounterIsZeroAndNoGap()
+void tst_Meter::unchangedCounterIsZeroAndNoGap()
 {
     const Meter meter = hourly({5.0, 5.0, 5.0});
     QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.0));
     QCOMPARE(meter.amount(0, 2 * Hour), std::optional<double>(0.0));
 }
 
-void TestMeter::wrongReadings_data()
+void tst_Meter::wrongReadings_data()
 {
     QTest::addColumn<Values>("values");
     QTest::addColumn<Indexes>("missing");
@@ -173,7 +173,7 @@ void TestMeter::wrongReadings_data()
     QTest::newRow("last one far above") << Values {10, 11, 999} << Indexes {2} << Indexes {};
 }
 
-void TestMeter::wrongReadings()
+void tst_Meter::wrongReadings()
 {
     QFETCH(Values, values);
     QFETCH(Indexes, missing);
@@ -204,7 +204,7 @@ void TestMeter::wrongReadings()
     QCOMPARE(faultsOf(meter, Fault::Kind::Break), breaks);
 }
 
-void TestMeter::breakHidesWhatLiesAcrossIt()
+void tst_Meter::breakHidesWhatLiesAcrossIt()
 {
     const Meter meter = hourly({500, 501, 3, 4, 6, 9000, 9002});
     QVERIFY(!meter.amount(0, 2 * Hour));
@@ -216,7 +216,7 @@ void TestMeter::breakHidesWhatLiesAcrossIt()
     QCOMPARE(meter.total(Hour, 2 * Hour), 0.0);
 }
 
-void TestMeter::newestReadingThatDoesNotFollowWaitsForTheNext()
+void tst_Meter::newestReadingThatDoesNotFollowWaitsForTheNext()
 {
     Meter meter = hourly({100, 101, 50});
     QVERIFY(!meter.amount(Hour, 2 * Hour));
@@ -235,7 +235,7 @@ void TestMeter::newestReadingThatDoesNotFollowWaitsForTheNext()
     QCOMPARE(faultsOf(other, Fault::Kind::Break), Indexes {2});
 }
 
-void TestMeter::leapIsMeasuredAgainstTheTimeThatPassed()
+void tst_Meter::leapIsMeasuredAgainstTheTimeThatPassed()
 {
     Meter meter = counter();
     meter.addReading(0, 0.0);
@@ -248,7 +248,7 @@ void TestMeter::leapIsMeasuredAgainstTheTimeThatPassed()
     QCOMPARE(meter.total(), 275.0 + (300.2 - 300.1));
 }
 
-void TestMeter::shortStepsAreGrantedAnHoursWorth()
+void tst_Meter::shortStepsAreGrantedAnHoursWorth()
 {
     Meter meter = counter();
     meter.addReading(0, 0.0);
@@ -259,7 +259,7 @@ void TestMeter::shortStepsAreGrantedAnHoursWorth()
     QVERIFY(!meter.amount(60, 120));
 }
 
-void TestMeter::firstOfTwoReadingsForAnInstantHolds()
+void tst_Meter::firstOfTwoReadingsForAnInstantHolds()
 {
     Meter meter = counter();
     meter.addReading(0, 10.0, 1);
@@ -280,7 +280,7 @@ void TestMeter::firstOfTwoReadingsForAnInstantHolds()
     QCOMPARE(meter.amount(Hour, 2 * Hour), std::optional<double>(1.0));
 }
 
-void TestMeter::lateReadingTurnsABreakIntoAWrongReading()
+void tst_Meter::lateReadingTurnsABreakIntoAWrongReading()
 {
     Meter meter = counter();
     meter.addReading(0, 100.0, 0);
@@ -295,7 +295,7 @@ void TestMeter::lateReadingTurnsABreakIntoAWrongReading()
     QCOMPARE(meter.amount(0, 6 * Hour), std::optional<double>(3.0));
 }
 
-void TestMeter::amountsAddUpWhereTheyCoverTheSlot()
+void tst_Meter::amountsAddUpWhereTheyCoverTheSlot()
 {
     Meter meter = amounts();
     for (int quarter = 0; quarter < 12; ++quarter) {
@@ -319,7 +319,7 @@ void TestMeter::amountsAddUpWhereTheyCoverTheSlot()
     QCOMPARE(meter.lastInstant(), std::optional<qint64>(3 * Hour));
 }
 
-void TestMeter::amountsAreNeverSplit()
+void tst_Meter::amountsAreNeverSplit()
 {
     Meter meter = amounts();
     meter.addAmount({0, 2 * Hour}, 3.0);
@@ -333,7 +333,7 @@ void TestMeter::amountsAreNeverSplit()
     QCOMPARE(meter.total(Hour, 3 * Hour), 0.0);
 }
 
-void TestMeter::firstOfTwoAmountsHolds()
+void tst_Meter::firstOfTwoAmountsHolds()
 {
     Meter meter = amounts();
     meter.addAmount({0, Hour}, 1.0, 1);
@@ -347,7 +347,7 @@ void TestMeter::firstOfTwoAmountsHolds()
     QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), Indexes {4});
 }
 
-void TestMeter::firstAmountThatCameHoldsAmongLateOnes()
+void tst_Meter::firstAmountThatCameHoldsAmongLateOnes()
 {
     Meter meter = amounts();
     meter.addAmount({10 * Hour, 11 * Hour}, 1.0, 1);
@@ -360,7 +360,7 @@ void TestMeter::firstAmountThatCameHoldsAmongLateOnes()
     QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), (Indexes {3, 4}));
 }
 
-void TestMeter::amountThatNoHouseholdTakesIsLeftOut()
+void tst_Meter::amountThatNoHouseholdTakesIsLeftOut()
 {
     Meter meter = amounts();
     meter.addAmount({0, Hour}, Most, 1);
@@ -371,7 +371,7 @@ void TestMeter::amountThatNoHouseholdTakesIsLeftOut()
     QCOMPARE(meter.total(), 11 * Most);
 }
 
-void TestMeter::nonsenseIsRefused()
+void tst_Meter::nonsenseIsRefused()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
@@ -393,7 +393,7 @@ void TestMeter::nonsenseIsRefused()
     QVERIFY(!rows.firstInstant());
 }
 
-void TestMeter::stepsAreFoundFromTheEnd()
+void tst_Meter::stepsAreFoundFromTheEnd()
 {
     const Meter meter = hourly({10, 11, 9, 12});
     QCOMPARE(meter.lastStepUntil(9 * Hour), std::optional<Interval>({Hour, 3 * Hour}));
@@ -410,7 +410,7 @@ void TestMeter::stepsAreFoundFromTheEnd()
     QVERIFY(!rows.lastStepUntil(Hour - 1));
 }
 
-void TestMeter::emptyMeterKnowsNothing()
+void tst_Meter::emptyMeterKnowsNothing()
 {
     for (const Meter &meter : {counter(), amounts()}) {
         QVERIFY(!meter.amount(0, Hour));
@@ -439,7 +439,7 @@ static double amountsOfMany(int count)
     return sum + backward.total() + rows.total();
 }
 
-void TestMeter::effortGrowsWithTheReadings()
+void tst_Meter::effortGrowsWithTheReadings()
 {
     double sum = 0.0;
     const double times = ZemTest::effortBeside([&] { sum += amountsOfMany(10000); },
@@ -448,5 +448,5 @@ void TestMeter::effortGrowsWithTheReadings()
     QVERIFY2(times < 64.0, qPrintable(QString::number(times)));
 }
 
-QTEST_APPLESS_MAIN(TestMeter)
+QTEST_APPLESS_MAIN(tst_Meter)
 #include "tst_meter.moc"

@@ -187,7 +187,7 @@ private:
 } // namespace
 
 /// Meters with all kinds of histories, beside a plain model of what they are to answer.
-class TestMeterHistories : public QObject
+class tst_MeterHistories : public QObject
 {
     Q_OBJECT
 
@@ -197,7 +197,7 @@ private Q_SLOTS:
     void randomAmountsMatchAPlainSum();
 };
 
-void TestMeterHistories::everyShortHistoryIsJudgedByTheRules()
+void tst_MeterHistories::everyShortHistoryIsJudgedByTheRules()
 {
     const std::vector<double> steps {0.0, 1.0, 20.0, 40.0, 60.0, 120.0};
     constexpr int Length = 6;
@@ -229,7 +229,7 @@ void TestMeterHistories::everyShortHistoryIsJudgedByTheRules()
     }
 }
 
-void TestMeterHistories::randomCountersMatchTheTruth()
+void tst_MeterHistories::randomCountersMatchTheTruth()
 {
     std::mt19937 random(20160327);
     int wrongOnes = 0;
@@ -269,7 +269,7 @@ void TestMeterHistories::randomCountersMatchTheTruth()
     QVERIFY(wrongOnes > 1000);
 }
 
-void TestMeterHistories::randomAmountsMatchAPlainSum()
+void tst_MeterHistories::randomAmountsMatchAPlainSum()
 {
     std::mt19937 random(1061);
     std::uniform_int_distribution<int> slot(0, 199);
@@ -308,5 +308,5 @@ void TestMeterHistories::randomAmountsMatchAPlainSum()
     }
 }
 
-QTEST_APPLESS_MAIN(TestMeterHistories)
+QTEST_APPLESS_MAIN(tst_MeterHistories)
 #include "tst_meterhistories.moc"

@@ -20,7 +20,7 @@ std::string_view view(const QByteArray &text)
 
 } // namespace
 
-class TestProfile : public QObject
+class tst_Profile : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void registersHaveNames();
 };
 
-void TestProfile::everyRowOfTheTableHoldsTogether()
+void tst_Profile::everyRowOfTheTableHoldsTogether()
 {
     std::set<QByteArray> headers;
     for (const Profile &profile : profiles()) {
@@ -55,7 +55,7 @@ void TestProfile::everyRowOfTheTableHoldsTogether()
     }
 }
 
-void TestProfile::wholeHeadersAreFound()
+void tst_Profile::wholeHeadersAreFound()
 {
     int found = 0;
     for (const Profile &profile : profiles()) {
@@ -79,7 +79,7 @@ void TestProfile::wholeHeadersAreFound()
     QCOMPARE(found, 6);
 }
 
-void TestProfile::ownHeaderMayHaveAnyColumns_data()
+void tst_Profile::ownHeaderMayHaveAnyColumns_data()
 {
     QTest::addColumn<QByteArray>("header");
     QTest::addColumn<QByteArrayList>("columns");
@@ -103,7 +103,7 @@ void TestProfile::ownHeaderMayHaveAnyColumns_data()
     QTest::newRow("quoted") << QByteArray("\"time\",\"gas_m3\"") << QByteArrayList {"gas_m3"};
 }
 
-void TestProfile::ownHeaderMayHaveAnyColumns()
+void tst_Profile::ownHeaderMayHaveAnyColumns()
 {
     QFETCH(QByteArray, header);
     QFETCH(QByteArrayList, columns);
@@ -119,7 +119,7 @@ void TestProfile::ownHeaderMayHaveAnyColumns()
     QCOMPARE(found, columns);
 }
 
-void TestProfile::refusedHeadersAreExplained_data()
+void tst_Profile::refusedHeadersAreExplained_data()
 {
     QTest::addColumn<QByteArray>("header");
     QTest::addColumn<QString>("problem");
@@ -146,7 +146,7 @@ void TestProfile::refusedHeadersAreExplained_data()
                           "ts,water_counter,furnace_gas_counter,x\"");
 }
 
-void TestProfile::refusedHeadersAreExplained()
+void tst_Profile::refusedHeadersAreExplained()
 {
     QFETCH(QByteArray, header);
     QFETCH(QString, problem);
@@ -155,7 +155,7 @@ void TestProfile::refusedHeadersAreExplained()
     QCOMPARE(match.problem, problem);
 }
 
-void TestProfile::quantitiesHaveUnitsAndLimits()
+void tst_Profile::quantitiesHaveUnitsAndLimits()
 {
     for (const Profile &profile : profiles()) {
         for (const Column &column : profile.columns) {
@@ -171,7 +171,7 @@ void TestProfile::quantitiesHaveUnitsAndLimits()
     QCOMPARE(quantityInfo(Quantity::ElectricCar).unit, QStringLiteral("kWh"));
 }
 
-void TestProfile::registersHaveNames()
+void tst_Profile::registersHaveNames()
 {
     QCOMPARE(registerName({Quantity::Gas, Tariff::Single}), QStringLiteral("gas"));
     QCOMPARE(registerName({Quantity::GridImport, Tariff::Low}),
@@ -180,5 +180,5 @@ void TestProfile::registersHaveNames()
              QStringLiteral("electricity export (normal tariff)"));
 }
 
-QTEST_APPLESS_MAIN(TestProfile)
+QTEST_APPLESS_MAIN(tst_Profile)
 #include "tst_profile.moc"

@@ -36,7 +36,7 @@ constexpr Register exportNormal {Quantity::GridExport, Tariff::Normal};
 
 } // namespace
 
-class TestReadingsFile : public QObject
+class tst_ReadingsFile : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
     ReadingsFolder folder;
 };
 
-void TestReadingsFile::ownFormatTellsEveryQuantity()
+void tst_ReadingsFile::ownFormatTellsEveryQuantity()
 {
     const Household household =
         folder.load("time,electricity_import_kwh,electricity_export_kwh,solar_kwh,gas_m3,water_m3,"
@@ -98,7 +98,7 @@ void TestReadingsFile::ownFormatTellsEveryQuantity()
     QCOMPARE(household.lastInstant(), std::optional<qint64>(hour.to));
 }
 
-void TestReadingsFile::ownFormatTellsTariffs()
+void tst_ReadingsFile::ownFormatTellsTariffs()
 {
     const Household household =
         folder.load("time,electricity_import_normal_kwh,electricity_import_low_kwh,"
@@ -117,7 +117,7 @@ void TestReadingsFile::ownFormatTellsTariffs()
     QCOMPARE(household.amount(Quantity::Gas, {0, Hour}), Amount());
 }
 
-void TestReadingsFile::germanCountersAreReadAtTheStamp()
+void tst_ReadingsFile::germanCountersAreReadAtTheStamp()
 {
     const Household household = folder.load(germanHeader
                                             + "2016-01-01T00:00:00,10,20,30,40,50,\n"
@@ -133,7 +133,7 @@ void TestReadingsFile::germanCountersAreReadAtTheStamp()
     QCOMPARE(household.meters.size(), std::size_t(5));
 }
 
-void TestReadingsFile::hourlyP1CountersAreReadAtTheEndOfTheHour()
+void tst_ReadingsFile::hourlyP1CountersAreReadAtTheEndOfTheHour()
 {
     const Household household = folder.load(hourlyHeader
                                             + "2023-02-01 00:00:00,10,20,30,40,9,9,D\n"
@@ -150,7 +150,7 @@ void TestReadingsFile::hourlyP1CountersAreReadAtTheEndOfTheHour()
     QVERIFY(!household.measuredPower);
 }
 
-void TestReadingsFile::minuteP1CountersAreReadAtTheEndOfTheMinute()
+void tst_ReadingsFile::minuteP1CountersAreReadAtTheEndOfTheMinute()
 {
     const Household household =
         folder.load(minuteHeader
@@ -165,7 +165,7 @@ void TestReadingsFile::minuteP1CountersAreReadAtTheEndOfTheMinute()
     QCOMPARE(household.latestPower()->instant, start + Minute);
 }
 
-void TestReadingsFile::portalAmountsEndAtTheStamp()
+void tst_ReadingsFile::portalAmountsEndAtTheStamp()
 {
     const Household household = folder.load(portalHeader
                                             + "01-01-2023 00:15:00 +0100;;0,11;;0,00;-\n"
@@ -181,7 +181,7 @@ void TestReadingsFile::portalAmountsEndAtTheStamp()
     QCOMPARE(household.meters.at(importNormal).amount(start, start + 15 * Minute), Amount(0.0));
 }
 
-void TestReadingsFile::portalGasAmountsEndAtTheStamp()
+void tst_ReadingsFile::portalGasAmountsEndAtTheStamp()
 {
     const Household household = folder.load(portalGasHeader
                                             + "29-10-2023 02:00:00 +0200;0,50;14,00\n"
@@ -194,7 +194,7 @@ void TestReadingsFile::portalGasAmountsEndAtTheStamp()
     QCOMPARE(meter.total(), 1.25);
 }
 
-void TestReadingsFile::canadianCountersAreInCubicMetres()
+void tst_ReadingsFile::canadianCountersAreInCubicMetres()
 {
     const Household household = folder.load(canadianHeader
                                             + "1357027200,0.0,1000.0\n"
@@ -206,7 +206,7 @@ void TestReadingsFile::canadianCountersAreInCubicMetres()
     QCOMPARE(household.amount(Quantity::Gas, quarter).value_or(-1.0), 0.028316);
 }
 
-void TestReadingsFile::emptyCellIsAGapOfItsMeterOnly()
+void tst_ReadingsFile::emptyCellIsAGapOfItsMeterOnly()
 {
     const Household household = folder.load("time,gas_m3,water_m3\n"
                                             "2024-05-01T10:00Z,10,20\n"
@@ -223,7 +223,7 @@ void TestReadingsFile::emptyCellIsAGapOfItsMeterOnly()
     QCOMPARE(household.amount(Quantity::Gas, {start, start + 3 * Hour}), Amount(3.0));
 }
 
-void TestReadingsFile::emptyTariffIsZeroOnlyBesideTheOtherOne()
+void tst_ReadingsFile::emptyTariffIsZeroOnlyBesideTheOtherOne()
 {
     const Household household = folder.load(portalHeader
                                             + "01-01-2023 00:15:00 +0100;;0,11;;0,00;-\n"
@@ -246,7 +246,7 @@ void TestReadingsFile::emptyTariffIsZeroOnlyBesideTheOtherOne()
     QCOMPARE(quarter(exportNormal, 2), Amount());
 }
 
-void TestReadingsFile::skippedWallClockTimeIsLeftOut()
+void tst_ReadingsFile::skippedWallClockTimeIsLeftOut()
 {
     const Household household = folder.load(germanHeader
                                             + "2016-03-27T01:00:00,10,20,30,40,50,\n"
@@ -264,7 +264,7 @@ void TestReadingsFile::skippedWallClockTimeIsLeftOut()
     QCOMPARE(hours[3], Amount(2.0));
 }
 
-void TestReadingsFile::singleDoubledTimeIsWinterTime()
+void tst_ReadingsFile::singleDoubledTimeIsWinterTime()
 {
     const Household german = folder.load(germanHeader
                                          + "2016-10-30T01:00:00,10,0,0,0,0,\n"
@@ -287,7 +287,7 @@ void TestReadingsFile::singleDoubledTimeIsWinterTime()
     QCOMPARE(hours[3], Amount(1.0));
 }
 
-void TestReadingsFile::firstOfADoubledTimeIsSummerTime()
+void tst_ReadingsFile::firstOfADoubledTimeIsSummerTime()
 {
     const Household household = folder.load(germanHeader
                                             + "2016-10-30T01:00:00,10,0,0,0,0,\n"
@@ -304,7 +304,7 @@ void TestReadingsFile::firstOfADoubledTimeIsSummerTime()
     QCOMPARE(hours[2], Amount(5.0));
 }
 
-void TestReadingsFile::singleTimeBeforeTheClockIsPutBackIsSummerTime()
+void tst_ReadingsFile::singleTimeBeforeTheClockIsPutBackIsSummerTime()
 {
     // 2:15 lacks in winter time and 2:45 in summer time.
     const Household household = folder.load(germanHeader
@@ -323,7 +323,7 @@ void TestReadingsFile::singleTimeBeforeTheClockIsPutBackIsSummerTime()
     }
 }
 
-void TestReadingsFile::doubledHoursOfEachYearAreToldApart()
+void tst_ReadingsFile::doubledHoursOfEachYearAreToldApart()
 {
     const Household household = folder.load(germanHeader
                                             + "2015-10-25T02:00:00,1,0,0,0,0,\n"
@@ -340,7 +340,7 @@ void TestReadingsFile::doubledHoursOfEachYearAreToldApart()
     QCOMPARE(meter.readingAt(utc("2017-10-29T01:00:00")), Amount(5.0));
 }
 
-void TestReadingsFile::stepBackAndLeapAndReplacementAreTold()
+void tst_ReadingsFile::stepBackAndLeapAndReplacementAreTold()
 {
     const Household household = folder.load("time,gas_m3\n"
                                             "2024-05-01T00:00Z,100\n"
@@ -367,7 +367,7 @@ void TestReadingsFile::stepBackAndLeapAndReplacementAreTold()
     QCOMPARE(household.total(Quantity::Gas), 4.0);
 }
 
-void TestReadingsFile::resetToZeroIsABreak()
+void tst_ReadingsFile::resetToZeroIsABreak()
 {
     const Household household = folder.load("time,solar_kwh\n"
                                             "2024-05-01T00:00Z,9876.5\n"
@@ -385,7 +385,7 @@ void TestReadingsFile::resetToZeroIsABreak()
     QCOMPARE(household.total(Quantity::SolarProduction), 3.0);
 }
 
-void TestReadingsFile::lastReadingThatDoesNotFollowIsTold()
+void tst_ReadingsFile::lastReadingThatDoesNotFollowIsTold()
 {
     const Household household = folder.load("time,water_m3\n"
                                             "2024-05-01T00:00Z,10\n"
@@ -396,7 +396,7 @@ void TestReadingsFile::lastReadingThatDoesNotFollowIsTold()
                                    "more is known")));
 }
 
-void TestReadingsFile::brokenRows_data()
+void tst_ReadingsFile::brokenRows_data()
 {
     QTest::addColumn<QByteArray>("row");
     QTest::addColumn<QString>("what");
@@ -432,7 +432,7 @@ void TestReadingsFile::brokenRows_data()
                            << QStringLiteral("bad time stamp \"???\"");
 }
 
-void TestReadingsFile::brokenRows()
+void tst_ReadingsFile::brokenRows()
 {
     QFETCH(QByteArray, row);
     QFETCH(QString, what);
@@ -446,7 +446,7 @@ void TestReadingsFile::brokenRows()
     QCOMPARE(household.amount(Quantity::Water, {start, start + 2 * Hour}), Amount(2.0));
 }
 
-void TestReadingsFile::everythingElseOfABrokenFileIsRead()
+void tst_ReadingsFile::everythingElseOfABrokenFileIsRead()
 {
     const Household household = folder.load("time,gas_m3\n"
                                             "garbage\n"
@@ -462,7 +462,7 @@ void TestReadingsFile::everythingElseOfABrokenFileIsRead()
     QCOMPARE(household.total(Quantity::Gas), 2.0);
 }
 
-void TestReadingsFile::thousandsOfBrokenRowsAreSummedUp()
+void tst_ReadingsFile::thousandsOfBrokenRowsAreSummedUp()
 {
     QByteArray content = "time,gas_m3\n2024-05-01T00:00Z,10\n";
     for (int row = 0; row < 3000; ++row) {
@@ -480,7 +480,7 @@ void TestReadingsFile::thousandsOfBrokenRowsAreSummedUp()
     QCOMPARE(household.total(Quantity::Gas), 1.0);
 }
 
-void TestReadingsFile::missingFilesAndFoldersAreTold()
+void tst_ReadingsFile::missingFilesAndFoldersAreTold()
 {
     const QString good = folder.write(QStringLiteral("good.csv"),
                                       "time,gas_m3\n2024-05-01T00:00Z,10\n2024-05-01T01:00Z,11\n");
@@ -492,7 +492,7 @@ void TestReadingsFile::missingFilesAndFoldersAreTold()
     QCOMPARE(household.total(Quantity::Gas), 1.0);
 }
 
-void TestReadingsFile::fileThatFailsToReadIsTold()
+void tst_ReadingsFile::fileThatFailsToReadIsTold()
 {
     // On Linux this file can be opened, and reading its first page fails.
     const QString path = QStringLiteral("/proc/self/mem");
@@ -513,7 +513,7 @@ void TestReadingsFile::fileThatFailsToReadIsTold()
         locked + QStringLiteral(": cannot be opened: ")));
 }
 
-void TestReadingsFile::unknownHeadersAreTold_data()
+void tst_ReadingsFile::unknownHeadersAreTold_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QStringList>("problems");
@@ -532,7 +532,7 @@ void TestReadingsFile::unknownHeadersAreTold_data()
                                                "\"2024-05-01T00:00Z,10\""};
 }
 
-void TestReadingsFile::unknownHeadersAreTold()
+void tst_ReadingsFile::unknownHeadersAreTold()
 {
     QFETCH(QByteArray, content);
     QFETCH(QStringList, problems);
@@ -543,7 +543,7 @@ void TestReadingsFile::unknownHeadersAreTold()
     QVERIFY(!household.latestPower());
 }
 
-void TestReadingsFile::formsOfTextDoNotMatter_data()
+void tst_ReadingsFile::formsOfTextDoNotMatter_data()
 {
     QTest::addColumn<QByteArray>("content");
     const QByteArray plain = "time,gas_m3\n2024-05-01T00:00Z,10\n2024-05-01T01:00Z,11\n";
@@ -559,7 +559,7 @@ void TestReadingsFile::formsOfTextDoNotMatter_data()
         "time,gas_m3\n2024-05-01T01:00Z,11\n2024-05-01T00:00Z,10\n");
 }
 
-void TestReadingsFile::formsOfTextDoNotMatter()
+void tst_ReadingsFile::formsOfTextDoNotMatter()
 {
     QFETCH(QByteArray, content);
     const Household household = folder.load(content);
@@ -568,5 +568,5 @@ void TestReadingsFile::formsOfTextDoNotMatter()
     QCOMPARE(household.amount(Quantity::Gas, {start, start + Hour}), Amount(1.0));
 }
 
-QTEST_GUILESS_MAIN(TestReadingsFile)
+QTEST_GUILESS_MAIN(tst_ReadingsFile)
 #include "tst_readingsfile.moc"

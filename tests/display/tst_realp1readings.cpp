@@ -8,7 +8,7 @@
 using namespace RealReadings;
 
 /** The readings of a house with a P1 meter: four registers, by the hour and by the minute. */
-class TestRealP1Readings : public QObject
+class tst_RealP1Readings : public QObject
 {
     Q_OBJECT
 
@@ -25,14 +25,14 @@ private Q_SLOTS:
     void p1FilesMerge();
 };
 
-void TestRealP1Readings::initTestCase()
+void tst_RealP1Readings::initTestCase()
 {
     if (!areThere()) {
         QTest::qSkip("there are no household data beside the sources", __FILE__, __LINE__);
     }
 }
 
-void TestRealP1Readings::p1TotalsByRegister_data()
+void tst_RealP1Readings::p1TotalsByRegister_data()
 {
     QTest::addColumn<int>("quantity");
     QTest::addColumn<int>("tariff");
@@ -45,7 +45,7 @@ void TestRealP1Readings::p1TotalsByRegister_data()
         << int(Quantity::GridExport) << int(Tariff::Normal) << "2796.309";
 }
 
-void TestRealP1Readings::p1TotalsByRegister()
+void tst_RealP1Readings::p1TotalsByRegister()
 {
     QFETCH(int, quantity);
     QFETCH(int, tariff);
@@ -61,7 +61,7 @@ void TestRealP1Readings::p1TotalsByRegister()
     QCOMPARE(rounded(meter.total(year), 3), total);
 }
 
-void TestRealP1Readings::p1StepsBackAreGaps()
+void tst_RealP1Readings::p1StepsBackAreGaps()
 {
     const Household household = load({hourlyFile});
     const Calendar calendar(household.timeZone);
@@ -93,7 +93,7 @@ void TestRealP1Readings::p1StepsBackAreGaps()
                            hourlyFile + QStringLiteral(":9311: ") + low4013 + what}));
 }
 
-void TestRealP1Readings::p1MissingRowsAreGaps()
+void tst_RealP1Readings::p1MissingRowsAreGaps()
 {
     const Household household = load({hourlyFile});
     const Calendar calendar(household.timeZone);
@@ -110,7 +110,7 @@ void TestRealP1Readings::p1MissingRowsAreGaps()
         meters, {calendar.day(QDate(2023, 8, 12)).from, calendar.day(QDate(2023, 8, 13)).to}));
 }
 
-void TestRealP1Readings::p1ClockChanges()
+void tst_RealP1Readings::p1ClockChanges()
 {
     const Household household = load({hourlyFile});
     const Calendar calendar(household.timeZone);
@@ -130,7 +130,7 @@ void TestRealP1Readings::p1ClockChanges()
              rounded(sumOf(autumn), 3));
 }
 
-void TestRealP1Readings::p1MinutesAgreeWithHours()
+void tst_RealP1Readings::p1MinutesAgreeWithHours()
 {
     const Household hours = load({hourlyFile});
     const Household minutes = load({minuteFile});
@@ -153,7 +153,7 @@ void TestRealP1Readings::p1MinutesAgreeWithHours()
     QCOMPARE(compared, 4 * 5 * 23);
 }
 
-void TestRealP1Readings::p1MinutesTellThePower()
+void tst_RealP1Readings::p1MinutesTellThePower()
 {
     const Household household = load({minuteFile});
     const std::optional<GridPower> power = household.latestPower();
@@ -162,7 +162,7 @@ void TestRealP1Readings::p1MinutesTellThePower()
     QCOMPARE(power->instant, utc("2024-03-03T10:10:00"));
 }
 
-void TestRealP1Readings::p1WrongMinuteIsLeftOut()
+void tst_RealP1Readings::p1WrongMinuteIsLeftOut()
 {
     const Household household = load({minuteFile});
     const Meter &low = household.meters.at(importLow);
@@ -188,7 +188,7 @@ void TestRealP1Readings::p1WrongMinuteIsLeftOut()
              QStringLiteral("0.109"));
 }
 
-void TestRealP1Readings::p1FilesMerge()
+void tst_RealP1Readings::p1FilesMerge()
 {
     const Household household = load({hourlyFile, minuteFile});
     const Meter &low = household.meters.at(importLow);
@@ -202,5 +202,5 @@ void TestRealP1Readings::p1FilesMerge()
     }
 }
 
-QTEST_GUILESS_MAIN(TestRealP1Readings)
+QTEST_GUILESS_MAIN(tst_RealP1Readings)
 #include "tst_realp1readings.moc"

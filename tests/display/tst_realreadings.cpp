@@ -10,7 +10,7 @@
 
 using namespace RealReadings;
 
-class TestRealReadings : public QObject
+class tst_RealReadings : public QObject
 {
     Q_OBJECT
 
@@ -35,14 +35,14 @@ private Q_SLOTS:
     void allFilesAtOnceTellWhatDoesNotFitTogether();
 };
 
-void TestRealReadings::initTestCase()
+void tst_RealReadings::initTestCase()
 {
     if (!areThere()) {
         QTest::qSkip("there are no household data beside the sources", __FILE__, __LINE__);
     }
 }
 
-void TestRealReadings::germanYearTotals_data()
+void tst_RealReadings::germanYearTotals_data()
 {
     QTest::addColumn<int>("quantity");
     QTest::addColumn<QString>("total");
@@ -53,7 +53,7 @@ void TestRealReadings::germanYearTotals_data()
     QTest::newRow("car") << int(Quantity::ElectricCar) << "1006.5";
 }
 
-void TestRealReadings::germanYearTotals()
+void tst_RealReadings::germanYearTotals()
 {
     QFETCH(int, quantity);
     QFETCH(QString, total);
@@ -70,7 +70,7 @@ void TestRealReadings::germanYearTotals()
     QCOMPARE(household.lastInstant(), std::optional<qint64>(year.to));
 }
 
-void TestRealReadings::germanSkippedHourIsTheOnlyProblem()
+void tst_RealReadings::germanSkippedHourIsTheOnlyProblem()
 {
     const Household household = load({germanFile});
     QCOMPARE(
@@ -82,7 +82,7 @@ void TestRealReadings::germanSkippedHourIsTheOnlyProblem()
     QCOMPARE(household.meters.size(), std::size_t(5));
 }
 
-void TestRealReadings::germanGapOf54HoursIsAGapThatTheCounterCrosses()
+void tst_RealReadings::germanGapOf54HoursIsAGapThatTheCounterCrosses()
 {
     const Household household = load({germanFile});
     const Calendar calendar(household.timeZone);
@@ -109,7 +109,7 @@ void TestRealReadings::germanGapOf54HoursIsAGapThatTheCounterCrosses()
     QVERIFY(household.amount(Quantity::GridImport, calendar.week(first)));
 }
 
-void TestRealReadings::germanGaps_data()
+void tst_RealReadings::germanGaps_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::addColumn<int>("quantity");
@@ -124,7 +124,7 @@ void TestRealReadings::germanGaps_data()
         << QDate(2016, 12, 21) << int(Quantity::HeatPump) << 11 << 3;
 }
 
-void TestRealReadings::germanGaps()
+void tst_RealReadings::germanGaps()
 {
     QFETCH(QDate, date);
     QFETCH(int, quantity);
@@ -143,7 +143,7 @@ void TestRealReadings::germanGaps()
     QVERIFY(*calendar.days(meters, date, 1)[0] > sumOf(hours));
 }
 
-void TestRealReadings::germanHoursWithoutChangeAreZero()
+void tst_RealReadings::germanHoursWithoutChangeAreZero()
 {
     const Household household = load({germanFile});
     const Calendar calendar(household.timeZone);
@@ -154,7 +154,7 @@ void TestRealReadings::germanHoursWithoutChangeAreZero()
     }
 }
 
-void TestRealReadings::germanConsumptionIsNegativeInElevenHours()
+void tst_RealReadings::germanConsumptionIsNegativeInElevenHours()
 {
     const Household household = load({germanFile});
     const Calendar calendar(household.timeZone);
@@ -176,7 +176,7 @@ void TestRealReadings::germanConsumptionIsNegativeInElevenHours()
     QCOMPARE(rounded(lowest, 3), QStringLiteral("-1.128"));
 }
 
-void TestRealReadings::germanClockChanges()
+void tst_RealReadings::germanClockChanges()
 {
     const Household household = load({germanFile});
     const Calendar calendar(household.timeZone);
@@ -207,7 +207,7 @@ void TestRealReadings::germanClockChanges()
              rounded(sumOf(autumn) + 1.091 + 0.695, 3));
 }
 
-void TestRealReadings::portalYearTotals()
+void tst_RealReadings::portalYearTotals()
 {
     const Household household = load({quarterFile, gasFile});
     QCOMPARE(household.problems, QStringList());
@@ -220,7 +220,7 @@ void TestRealReadings::portalYearTotals()
     QCOMPARE(household.lastInstant(), std::optional<qint64>(utc("2023-12-31T23:00:00")));
 }
 
-void TestRealReadings::portalElectricityHasNoGap()
+void tst_RealReadings::portalElectricityHasNoGap()
 {
     const Household household = load({quarterFile});
     const Calendar calendar(household.timeZone);
@@ -244,7 +244,7 @@ void TestRealReadings::portalElectricityHasNoGap()
              household.amount(Quantity::GridImport, calendar.day(QDate(2023, 6, 1))));
 }
 
-void TestRealReadings::portalGasLacksOneHour()
+void tst_RealReadings::portalGasLacksOneHour()
 {
     const Household household = load({gasFile});
     const Calendar calendar(household.timeZone);
@@ -260,7 +260,7 @@ void TestRealReadings::portalGasLacksOneHour()
     QVERIFY(meters.front()->amount(utc("2023-10-29T01:00:00"), utc("2023-10-29T02:00:00")));
 }
 
-void TestRealReadings::portalTellsTheMeanPower()
+void tst_RealReadings::portalTellsTheMeanPower()
 {
     const Household household = load({quarterFile});
     const std::optional<GridPower> power = household.latestPower();
@@ -270,7 +270,7 @@ void TestRealReadings::portalTellsTheMeanPower()
     QVERIFY(!load({gasFile}).latestPower());
 }
 
-void TestRealReadings::canadianYearTotals()
+void tst_RealReadings::canadianYearTotals()
 {
     const Household household = load({canadianFile});
     QCOMPARE(household.problems, QStringList());
@@ -282,7 +282,7 @@ void TestRealReadings::canadianYearTotals()
     QCOMPARE(rounded(household.amount(Quantity::Gas, year), 5), QStringLiteral("420.06786"));
 }
 
-void TestRealReadings::canadianYearHasNoGap()
+void tst_RealReadings::canadianYearHasNoGap()
 {
     const Household household = load({canadianFile});
     QCOMPARE(household.timeZone.id(), QByteArray("America/Vancouver"));
@@ -302,7 +302,7 @@ void TestRealReadings::canadianYearHasNoGap()
     QCOMPARE(holiday, Calendar::Amounts(24, 0.0));
 }
 
-void TestRealReadings::effortGrowsWithTheRows()
+void tst_RealReadings::effortGrowsWithTheRows()
 {
     const QTemporaryDir folder;
     for (const QString &name : {germanFile, minuteFile, quarterFile, canadianFile}) {
@@ -320,7 +320,7 @@ void TestRealReadings::effortGrowsWithTheRows()
     }
 }
 
-void TestRealReadings::allFilesAtOnceTellWhatDoesNotFitTogether()
+void tst_RealReadings::allFilesAtOnceTellWhatDoesNotFitTogether()
 {
     const Household household =
         load({quarterFile, gasFile, germanFile, canadianFile, hourlyFile, minuteFile});
@@ -338,5 +338,5 @@ void TestRealReadings::allFilesAtOnceTellWhatDoesNotFitTogether()
     QCOMPARE(count(QStringLiteral("left out: furnace_gas_counter; gas is known already")), 1);
 }
 
-QTEST_GUILESS_MAIN(TestRealReadings)
+QTEST_GUILESS_MAIN(tst_RealReadings)
 #include "tst_realreadings.moc"

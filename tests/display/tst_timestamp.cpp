@@ -15,7 +15,7 @@ constexpr qint64 Bad = -1;
 
 } // namespace
 
-class TestTimestamp : public QObject
+class tst_Timestamp : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void onlyTimesWithoutOffsetNeedAClock();
 };
 
-void TestTimestamp::stamps_data()
+void tst_Timestamp::stamps_data()
 {
     QTest::addColumn<TimeFormat>("format");
     QTest::addColumn<QByteArray>("text");
@@ -90,7 +90,7 @@ void TestTimestamp::stamps_data()
     row(TimeFormat::IsoWithOffset, "2016-01-01T00:00:00+99:00", Bad);
 }
 
-void TestTimestamp::stamps()
+void tst_Timestamp::stamps()
 {
     QFETCH(TimeFormat, format);
     QFETCH(QByteArray, text);
@@ -99,7 +99,7 @@ void TestTimestamp::stamps()
              seconds);
 }
 
-void TestTimestamp::onlyTimesWithoutOffsetNeedAClock()
+void tst_Timestamp::onlyTimesWithoutOffsetNeedAClock()
 {
     QVERIFY(isWallClock(TimeFormat::IsoWallClock));
     QVERIFY(isWallClock(TimeFormat::WallClock));
@@ -108,5 +108,5 @@ void TestTimestamp::onlyTimesWithoutOffsetNeedAClock()
     QVERIFY(!isWallClock(TimeFormat::IsoWithOffset));
 }
 
-QTEST_APPLESS_MAIN(TestTimestamp)
+QTEST_APPLESS_MAIN(tst_Timestamp)
 #include "tst_timestamp.moc"

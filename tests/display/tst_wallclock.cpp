@@ -18,7 +18,7 @@ qint64 wall(const char *iso)
 
 } // namespace
 
-class TestWallClock : public QObject
+class tst_WallClock : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void wallSecondsCountFromTheEpoch();
 };
 
-void TestWallClock::moments_data()
+void tst_WallClock::moments_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<QByteArray>("time");
@@ -81,7 +81,7 @@ void TestWallClock::moments_data()
         "1969-12-31T23:59:59");
 }
 
-void TestWallClock::moments()
+void tst_WallClock::moments()
 {
     QFETCH(QByteArray, zone);
     QFETCH(QByteArray, time);
@@ -96,7 +96,7 @@ void TestWallClock::moments()
     QCOMPARE(moment.later, wall(later));
 }
 
-void TestWallClock::everyInstantOfAYearIsFoundAgain_data()
+void tst_WallClock::everyInstantOfAYearIsFoundAgain_data()
 {
     QTest::addColumn<QByteArray>("zone");
     for (const char *zone : {"Europe/Amsterdam", "America/Vancouver", "Australia/Lord_Howe",
@@ -105,7 +105,7 @@ void TestWallClock::everyInstantOfAYearIsFoundAgain_data()
     }
 }
 
-void TestWallClock::everyInstantOfAYearIsFoundAgain()
+void tst_WallClock::everyInstantOfAYearIsFoundAgain()
 {
     QFETCH(QByteArray, zone);
     const QTimeZone timeZone(zone);
@@ -120,19 +120,19 @@ void TestWallClock::everyInstantOfAYearIsFoundAgain()
     }
 }
 
-void TestWallClock::invalidZoneIsUtc()
+void tst_WallClock::invalidZoneIsUtc()
 {
     const WallClock clock {QTimeZone("No/Where")};
     QCOMPARE(clock.timeZone().id(), QByteArray("UTC"));
     QCOMPARE(clock.moment(12345).earlier, qint64(12345));
 }
 
-void TestWallClock::wallSecondsCountFromTheEpoch()
+void tst_WallClock::wallSecondsCountFromTheEpoch()
 {
     QCOMPARE(WallClock::wallSeconds(QDate(1970, 1, 1), 0), qint64(0));
     QCOMPARE(WallClock::wallSeconds(QDate(1970, 1, 2), 61), qint64(86461));
     QCOMPARE(WallClock::wallSeconds(QDate(1969, 12, 31), 0), qint64(-86400));
 }
 
-QTEST_APPLESS_MAIN(TestWallClock)
+QTEST_APPLESS_MAIN(tst_WallClock)
 #include "tst_wallclock.moc"
