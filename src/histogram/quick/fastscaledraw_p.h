@@ -58,13 +58,15 @@ inline bool drawsGlyphs(const QPainter *painter)
  */
 inline bool roundsAlike(const QPainter *painter, const QPointF &corner)
 {
-    const auto isClear = [](double position) {
+    const auto isClear = [](double position, double shift) {
         constexpr double uncertain = 1.0 / 32.0; // pixels; glyphs are placed to 1/64
-        const double fromMiddle = std::abs(position - std::floor(position) - 0.5);
-        return fromMiddle == 0.0 || fromMiddle > uncertain;
+        const double sum = position + shift;
+        const double fromMiddle = std::abs(sum - std::floor(sum) - 0.5);
+        // A sum may be rounded to the middle from just beside it.
+        return fromMiddle > uncertain || (fromMiddle == 0.0 && sum - shift == position);
     };
     const QTransform &transform = painter->deviceTransform();
-    return isClear(corner.x() + transform.dx()) && isClear(corner.y() + transform.dy());
+    return isClear(corner.x(), transform.dx()) && isClear(corner.y(), transform.dy());
 }
 
 /** The pixels of a thin tick at @p value; nothing for what has to be drawn as a line. */
