@@ -52,6 +52,12 @@ inline bool drawsGlyphs(const QPainter *painter)
         && device->logicalDpiY() == qRound(screen->logicalDotsPerInchY());
 }
 
+/** True when lines belong to the text: with mere glyphs they have another place. */
+inline bool hasLines(const QFont &font)
+{
+    return font.underline() || font.overline() || font.strikeOut();
+}
+
 /**
  * True when a label at @p corner comes to lie on the same pixels however its place is added up.
  * Just beside the middle of two pixels it does not.
@@ -143,7 +149,7 @@ protected:
     void drawLabel(QPainter *painter, double value) const override
     {
         const bool isQuick = QuickPaths::areOpen() && this->labelRotation() == 0.0
-            && FastScale::drawsGlyphs(painter);
+            && FastScale::drawsGlyphs(painter) && !FastScale::hasLines(painter->font());
         const ScaleLabels::Label *label = isQuick ? findLabel(value, painter->font()) : nullptr;
         const QPointF corner =
             label ? labelCorner(*this, this->labelPosition(value), label->size) : QPointF();

@@ -59,6 +59,8 @@ inline QFont anyFont(Random &random)
     }
     font.setBold(upTo(4, random) == 0);
     font.setItalic(upTo(4, random) == 0);
+    font.setUnderline(upTo(9, random) == 0);
+    font.setStrikeOut(upTo(9, random) == 0);
     if (upTo(4, random) == 0) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, upTo(6, random) / 2.0 - 1.0);
     }

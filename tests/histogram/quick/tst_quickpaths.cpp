@@ -421,6 +421,13 @@ void tst_QuickPaths::changeShowsAtOnce_data()
     QTest::newRow("font of the value axis") << Change([scale](Stage &stage) {
         scale(stage, QwtPlot::yLeft)->setFont(QFont(QStringLiteral("Cabin"), 14));
     });
+    QTest::newRow("lines beside the labels") << Change([scale](Stage &stage) {
+        QFont font(QStringLiteral("Cabin"), 12);
+        font.setUnderline(true);
+        scale(stage, QwtPlot::xBottom)->setFont(font);
+        font.setStrikeOut(true);
+        scale(stage, QwtPlot::yLeft)->setFont(font);
+    });
     QTest::newRow("locale") << Change([](Stage &stage) {
         QLocale::setDefault(QLocale(QLocale::Dutch));
         // Without the quick paths Qwt keeps its labels for as long as the scale stays.
