@@ -3,6 +3,8 @@
 
 #include "headlines_p.h"
 
+#include "saturatedint_p.h"
+
 #include <QLocale>
 
 namespace Headlines {
@@ -15,12 +17,12 @@ constexpr double daysPerWeek = 7.0;
 // A null QDateTime counts from 4714 BC when something is added to it.
 QDateTime afterDays(const QDateTime &t, double days)
 {
-    return t.isValid() ? t.addDays(int(days)) : QDateTime();
+    return t.isValid() ? t.addDays(truncatedInt(days)) : QDateTime();
 }
 
 QDateTime afterSeconds(const QDateTime &t, double seconds)
 {
-    return t.isValid() ? t.addSecs(int(seconds)) : QDateTime();
+    return t.isValid() ? t.addSecs(truncatedInt(seconds)) : QDateTime();
 }
 
 } // namespace

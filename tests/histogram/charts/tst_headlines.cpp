@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QTest>
 
+#include <limits>
+
 using namespace Headlines;
 
 class tst_Headlines : public QObject
@@ -15,6 +17,7 @@ class tst_Headlines : public QObject
 private Q_SLOTS:
     void cleanup();
     void slotsAreTruncatedTowardsZero();
+    void viewPastAnyIntIsHarmless();
     void nullTimestampStaysNull();
     void monthsInView_data();
     void monthsInView();
@@ -47,6 +50,24 @@ void tst_Headlines::slotsAreTruncatedTowardsZero()
     const Range weeks = rangeOfWeeks(t, QwtInterval(-0.2, 4.8));
     QCOMPARE(weeks.start, t.addDays(-1)); // -1.4 days
     QCOMPARE(weeks.end, t.addDays(32)); // 32.6 days
+}
+
+void tst_Headlines::viewPastAnyIntIsHarmless()
+{
+    const QDateTime t = midnight(2016, 3, 7);
+    const double most = std::numeric_limits<int>::max();
+    const double endless = std::numeric_limits<double>::infinity();
+    for (const double limit : {1e12, endless}) {
+        const QwtInterval view(-limit, limit);
+        QCOMPARE(rangeOfDays(t, view).start, t.addDays(-qint64(most)));
+        QCOMPARE(rangeOfDays(t, view).end, t.addDays(qint64(most)));
+        QCOMPARE(rangeOfWeeks(t, view).end, t.addDays(qint64(most)));
+        QCOMPARE(rangeOfHours(t, view).start, t.addSecs(-qint64(most)));
+        QCOMPARE(rangeOfHours(t, view).end, t.addSecs(qint64(most)));
+    }
+    const double nothing = std::numeric_limits<double>::quiet_NaN();
+    QCOMPARE(rangeOfHours(t, QwtInterval(nothing, nothing)).start, t);
+    QCOMPARE(rangeOfDays(t, QwtInterval(nothing, nothing)).end, t);
 }
 
 void tst_Headlines::nullTimestampStaysNull()
