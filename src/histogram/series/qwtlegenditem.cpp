@@ -82,9 +82,9 @@ void QwtLegendItem::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     painter.setClipRegion(event->region() & contentsRect());
-    painter.drawPixmap(
-        HistogramGeometry::identifierRect(contentsRect(), margin(), d->identifier.size()),
-        d->identifier);
+    painter.drawPixmap(HistogramGeometry::identifierRect(contentsRect(), margin(),
+                                                         HistogramGeometry::sizeOf(d->identifier)),
+                       d->identifier);
 }
 
 void QwtLegendItem::updateIndent()

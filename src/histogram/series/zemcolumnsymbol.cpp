@@ -87,7 +87,8 @@ void ZEMColumnSymbol::drawIconBox(QPainter *painter, const QwtColumnRect &rect) 
         return;
     }
     painter->fillRect(*visible, palette().brush(QPalette::Current, QPalette::Window));
-    if (const auto position = HistogramGeometry::iconPosition(*visible, d->icon.size())) {
+    if (const auto position =
+            HistogramGeometry::iconPosition(*visible, HistogramGeometry::sizeOf(d->icon))) {
         painter->drawPixmap(*position, d->icon);
     }
 }

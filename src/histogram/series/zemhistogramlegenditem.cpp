@@ -41,9 +41,10 @@ QPixmap ZEMHistogramLegendItem::getBackground()
 void ZEMHistogramLegendItem::setBackground(const QPixmap &pixmap)
 {
     d->background = pixmap;
-    setMinimumSize(pixmap.size());
-    setMaximumSize(pixmap.size());
-    resize(pixmap.size());
+    const QSize size = HistogramGeometry::sizeOf(pixmap);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    resize(size);
     repaint();
 }
 
@@ -66,7 +67,7 @@ void ZEMHistogramLegendItem::paintEvent(QPaintEvent *event)
     if (identifier().isNull()) {
         return;
     }
-    const QRect place =
-        HistogramGeometry::identifierRect(contents, d->identifierIndent, identifier().size());
+    const QRect place = HistogramGeometry::identifierRect(contents, d->identifierIndent,
+                                                          HistogramGeometry::sizeOf(identifier()));
     painter.drawPixmap(QRectF(place), identifier(), QRectF());
 }

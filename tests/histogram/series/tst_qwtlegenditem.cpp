@@ -110,6 +110,12 @@ void tst_QwtLegendItem::identifierIsPaintedAtTheMargin()
     item.resize(60, 21);
     item.setIdentifier(ZemTest::flatPixmap(QSize(9, 7), Qt::green));
     QCOMPARE(ZemTest::inkRect(ZemTest::render(&item)), QRect(2, 7, 9, 7));
+
+    // Made for a sharp screen, it has more pixels.
+    QPixmap sharp = ZemTest::flatPixmap(QSize(18, 14), Qt::green);
+    sharp.setDevicePixelRatio(2.0);
+    item.setIdentifier(sharp);
+    QCOMPARE(ZemTest::inkRect(ZemTest::render(&item)), QRect(2, 7, 9, 7));
 }
 
 void tst_QwtLegendItem::textBeginsBehindTheIdentifier()

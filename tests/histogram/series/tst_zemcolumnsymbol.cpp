@@ -83,6 +83,7 @@ private Q_SLOTS:
     void excludedSideLosesAPixel();
     void aligningPainterGetsWholePixels();
     void iconStandsInTheMiddle();
+    void iconOfASharpScreenCountsBySizeAndRatio();
     void iconNeedsAWiderColumn_data();
     void iconNeedsAWiderColumn();
     void iconSticksOutOfALowColumn();
@@ -251,6 +252,20 @@ void tst_ZEMColumnSymbol::iconStandsInTheMiddle()
     const QImage image = draw(symbol, columnRect(20, 60, 10, 70));
     QCOMPARE(inkOf(image, iconColor), QRect(QPoint(34, 32), iconSize));
     QCOMPARE(inkOf(image, columnColor), QRect(20, 10, 40, 60));
+}
+
+void tst_ZEMColumnSymbol::iconOfASharpScreenCountsBySizeAndRatio()
+{
+    QPixmap icon = ZemTest::flatPixmap(2 * iconSize, iconColor);
+    icon.setDevicePixelRatio(2.0);
+    const QString path = QStringLiteral("test/sharp.png");
+    QVERIFY(QPixmapCache::insert(path, icon));
+    ZEMColumnSymbol symbol(QwtColumnSymbol::UserStyle);
+    symbol.setPalette(windowPalette(columnColor));
+    symbol.setIcon(path);
+    QCOMPARE(inkOf(draw(symbol, columnRect(20, 60, 10, 70)), iconColor),
+             QRect(QPoint(34, 32), iconSize));
+    QVERIFY(!inkOf(draw(symbol, columnRect(20, 34, 10, 70)), iconColor).isEmpty());
 }
 
 void tst_ZEMColumnSymbol::iconNeedsAWiderColumn_data()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void objectNameOfASubclassOrAHostIsKept();
     void textColorReachesAllGroupsAndNoOtherRole();
     void backgroundFixesTheSize();
+    void picturesOfASharpScreenCountBySizeAndRatio();
     void backgroundRepaintsAtOnce();
     void identifierIndentSetsTheIndent_data();
     void identifierIndentSetsTheIndent();
@@ -81,6 +82,23 @@ void tst_ZEMHistogramLegendItem::backgroundFixesTheSize()
 
     item.setBackground(QPixmap());
     QCOMPARE(item.size(), QSize(0, 0));
+}
+
+void tst_ZEMHistogramLegendItem::picturesOfASharpScreenCountBySizeAndRatio()
+{
+    const auto sharpPicture = [](const QSize &size, const QColor &color) {
+        QPixmap picture = ZemTest::flatPixmap(2 * size, color);
+        picture.setDevicePixelRatio(2.0);
+        return picture;
+    };
+    ZEMHistogramLegendItem item;
+    item.setIdentifierIndent(10);
+    item.setIdentifier(sharpPicture(QSize(15, 5), Qt::green));
+    item.setBackground(sharpPicture(QSize(127, 27), Qt::blue));
+    QCOMPARE(item.size(), QSize(127, 27));
+    QCOMPARE(item.minimumSize(), QSize(127, 27));
+    QCOMPARE(item.maximumSize(), QSize(127, 27));
+    QCOMPARE(ZemTest::inkRect(ZemTest::render(&item), Qt::blue), QRect(10, 11, 15, 5));
 }
 
 void tst_ZEMHistogramLegendItem::backgroundRepaintsAtOnce()
