@@ -199,7 +199,7 @@ void ZEMHistogramWidget::selectTab(ZEM::ZEMTab period, ZEM::ZEMTab energy)
     const int index = getHistogramIndex(period, energy);
     if (index >= 0) {
         d->ui.stackedWidget->setCurrentIndex(index);
-        if (self) {
+        if (self && d->ui.stackedWidget->currentIndex() == index) {
             // The stack tells of no change if it was there already.
             pageChanged(index);
         }
@@ -289,8 +289,10 @@ void ZEMHistogramWidget::pageChanged(int index)
     qDebug() << "pageChanged()" << index << hist.data();
     if (hist) {
         const QPointer<ZEMHistogramWidget> self = this;
+        const int page = d->ui.stackedWidget->currentIndex();
         hist->showFirstPeriod();
-        if (self) {
+        // A slot may have gone to another page, which has a headline of its own.
+        if (self && d->ui.stackedWidget->currentIndex() == page) {
             pageChanged(hist.data());
         }
     }

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void pageWithoutChartKeepsTheTitle();
     void titleFollowsTheChartInView();
     void titleIgnoresOtherCharts();
+    void titleFollowsASlotThatGoesToAnotherPage();
     void setTitle();
     void pagingSlots();
 
@@ -182,6 +183,26 @@ void tst_ZEMHistogramWidgetCharts::titleFollowsTheChartInView()
     QCOMPARE(title(page), QStringLiteral("day -1"));
     chart->showNextPeriod();
     QCOMPARE(title(page), QStringLiteral("day 0"));
+}
+
+void tst_ZEMHistogramWidgetCharts::titleFollowsASlotThatGoesToAnotherPage()
+{
+    Page page;
+    auto *day = new Chart(QStringLiteral("day"));
+    auto *week = new Chart(QStringLiteral("week"));
+    page.setHistogram(ZEM::TabDay, ZEM::TabElectricity, day);
+    page.setHistogram(ZEM::TabWeek, ZEM::TabElectricity, week);
+    connect(day, QOverload<bool, bool>::of(&ZEMHistogram::has_page), &page,
+            [&page] { page.selectTab(ZEM::TabWeek, ZEM::TabElectricity); });
+
+    page.selectTab(ZEM::TabDay, ZEM::TabElectricity);
+    QCOMPARE(stack(page)->currentIndex(), 1);
+    QCOMPARE(title(page), QStringLiteral("week 0"));
+
+    week->showPrevPeriod();
+    button(page, "btnDay")->click();
+    QCOMPARE(stack(page)->currentIndex(), 1);
+    QCOMPARE(title(page), QStringLiteral("week 0"));
 }
 
 void tst_ZEMHistogramWidgetCharts::titleIgnoresOtherCharts()
