@@ -37,6 +37,9 @@ class QMouseEvent;
  * parent sends the rest with panned(). A touch that never passed a threshold is a click if it
  * lasted as long as clickDetectInterval() says.
  *
+ * Which buttons are down during a move is not asked: a parent that tracks the mouse is moved
+ * without one, too.
+ *
  * No setter changes a pan in progress except where it says so. Without a parent nothing happens.
  * Panner and parent may be deleted in a slot of any signal of the panner.
  */

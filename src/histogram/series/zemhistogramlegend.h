@@ -17,7 +17,8 @@ class QwtPlot;
  * ZEMHistogramSeries::legendItem(). Plot items of other classes get Qwt's own entries. Title and
  * colour of an entry follow those of its series.
  *
- * The charts of the library have one. For a plot of your own, place it where you like:
+ * The charts of the library have one, but for the mini chart. For a plot of your own, place it
+ * where you like:
  * @code
  * #include <ZEMHistogramLegend>
  * #include <qwt_plot.h>

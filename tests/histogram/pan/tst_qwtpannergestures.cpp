@@ -101,6 +101,7 @@ private Q_SLOTS:
     void smallMovesAddUp();
     void eitherThresholdIsEnough();
     void everyPixelCountsWithoutThreshold();
+    void moveNeedsNoButton();
     void moveOutsideIsIgnored();
     void moveToSamePlaceIsIgnored();
     void releaseSendsTheRest();
@@ -237,6 +238,26 @@ void tst_QwtPannerGestures::everyPixelCountsWithoutThreshold()
     move(ground.get(), QPoint(50, 49));
     move(ground.get(), QPoint(51, 49));
     QCOMPARE(panner->take(), Log({QStringLiteral("moved 0 -1"), QStringLiteral("moved 1 0")}));
+}
+
+void tst_QwtPannerGestures::moveNeedsNoButton()
+{
+    QWidget top;
+    top.resize(300, 200);
+    QWidget tracked(&top);
+    tracked.resize(parentSize);
+    Panner hovered(&tracked);
+    top.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&top));
+    ZemTest::press(&tracked, QPoint(50, 50));
+    ZemTest::release(&tracked, QPoint(50, 50));
+    hovered.take();
+
+    ZemTest::moveTo(&tracked, QPoint(60, 50));
+    QCOMPARE(hovered.take(), Log());
+    tracked.setMouseTracking(true);
+    ZemTest::moveTo(&tracked, QPoint(70, 50));
+    QCOMPARE(hovered.take(), Log {QStringLiteral("moved 20 0")});
 }
 
 void tst_QwtPannerGestures::moveOutsideIsIgnored()
