@@ -170,7 +170,8 @@ void ZEMHistogram::setAxisScale(int axisId, double min, double max, double step)
 {
     Q_UNUSED(min)
     Q_UNUSED(max)
-    const double magnitude = std::log10(step);
+    // A step of 0 leaves the choice to the engine and tells nothing of the labels.
+    const double magnitude = step > 0.0 ? std::log10(step) : 0.0;
     setScaleDigits(axisId, magnitude < 0.0 ? int(std::ceil(std::fabs(magnitude))) : 0);
 }
 

@@ -79,8 +79,8 @@ public:
 
     /**
      * Chooses the number of decimals that labels with a distance of @p step need, and hands it to
-     * setScaleDigits(): 1 for 0.25, 2 for 0.01, 0 for 1 and above. Despite its name it does not
-     * touch the scale; @p min and @p max are not read.
+     * setScaleDigits(): 1 for 0.25, 2 for 0.01, 0 for 1 and above, and for what is no distance.
+     * Despite its name it does not touch the scale; @p min and @p max are not read.
      */
     virtual void setAxisScale(int axisId, double min, double max, double step);
     /**

@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 #include <QSpacerItem>
 #include <QTest>
+
 #include <QVBoxLayout>
 #include <qwt_dyngrid_layout.h>
 #include <qwt_plot.h>
@@ -23,6 +24,8 @@
 #include <qwt_scale_div.h>
 #include <qwt_scale_engine.h>
 #include <qwt_scale_widget.h>
+
+#include <limits>
 
 using namespace ZemTest;
 
@@ -171,6 +174,10 @@ void tst_ZEMHistogram::decimalsFollowTheStep_data()
     QTest::newRow("2.5") << 2.5 << 0;
     QTest::newRow("20") << 20.0 << 0;
     QTest::newRow("500") << 500.0 << 0;
+    QTest::newRow("none") << 0.0 << 0;
+    QTest::newRow("negative") << -0.25 << 0;
+    QTest::newRow("endless") << std::numeric_limits<double>::infinity() << 0;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
 }
 
 void tst_ZEMHistogram::decimalsFollowTheStep()
