@@ -30,6 +30,7 @@ private Q_SLOTS:
     void dataIsReplacedInASlot();
     void legendGoesFirst();
     void moverGoesFirst();
+    void moverOfASubclassStays();
     void childGoesFirst();
     void parentGoesFirst();
     void plotGoesFirst();
@@ -175,6 +176,30 @@ void tst_HistogramPartsLifetime::moverGoesFirst()
     chart->has_page(&hasPrevious, &hasNext);
     QVERIFY(!hasPrevious && !hasNext);
     QCOMPARE(plotOf(chart)->axisInterval(QwtPlot::xBottom), QwtInterval(0.0, period));
+}
+
+void tst_HistogramPartsLifetime::moverOfASubclassStays()
+{
+    class OwnMoverHistogram : public ZEMSmartDayHistogram
+    {
+    public:
+        void replaceMover()
+        {
+            const std::unique_ptr<QwtPlotMover> before(mover);
+            mover = new QwtPlotMover(canvasOf(this));
+        }
+        bool hasMover() const { return mover; }
+    };
+    const std::unique_ptr<QWidget> page(newPage());
+    auto *chart = new OwnMoverHistogram;
+    layoutOf(page.get())->addWidget(chart);
+    chart->init();
+    chart->replaceMover();
+    QVERIFY(chart->hasMover());
+    chart->setScalePeriod(period);
+    chart->setScaleInterval(QwtInterval(-period, period));
+    chart->showPrevPeriod();
+    QCOMPARE(plotOf(chart)->axisInterval(QwtPlot::xBottom), QwtInterval(-period, 0.0));
 }
 
 void tst_HistogramPartsLifetime::childGoesFirst()

@@ -86,8 +86,12 @@ public:
     void watchMover()
     {
         if (q->mover) {
-            QObject::connect(q->mover, &QObject::destroyed, &context,
-                             [this] { q->mover = nullptr; });
+            // A subclass may have put another one in its place.
+            QObject::connect(q->mover, &QObject::destroyed, &context, [this, watched = q->mover] {
+                if (q->mover == watched) {
+                    q->mover = nullptr;
+                }
+            });
             watchCanvas();
         }
     }
