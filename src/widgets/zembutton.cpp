@@ -5,6 +5,7 @@
 
 #include "buttonpainting_p.h"
 #include "objectname_p.h"
+#include "picturesize_p.h"
 
 #include <QPainter>
 
@@ -73,10 +74,11 @@ QPixmap ZEMButton::getBackground() const
 void ZEMButton::setBackground(const QPixmap &background)
 {
     d->background = background;
-    setMinimumSize(background.size());
+    const QSize least = pictureSize(background);
+    setMinimumSize(least);
     // Even a resize to the same size lets Qt ask all siblings again what they cover.
-    if (size() != background.size() || !testAttribute(Qt::WA_Resized)) {
-        resize(background.size());
+    if (size() != least || !testAttribute(Qt::WA_Resized)) {
+        resize(least);
     }
     repaint();
 }

@@ -6,6 +6,7 @@
 #include "centredmark_p.h"
 #include "notificationbadge_p.h"
 #include "objectname_p.h"
+#include "picturesize_p.h"
 #include "zemstyle.h"
 
 #include <QColor>
@@ -107,7 +108,7 @@ void ZEMNotificationIcon::paintEvent(QPaintEvent *event)
 {
     const QPixmap &picture = isEnabled() ? d->icon : d->iconDisabled;
     QPainter painter(this);
-    const QRect place = centredMark(size(), picture.size());
+    const QRect place = centredMark(size(), pictureSize(picture));
     painter.drawPixmap(QRectF(place), picture, QRectF());
     if (!picture.isNull()) {
         d->drawBadge(painter, width(), font());

@@ -4,6 +4,7 @@
 #include "zempagebackground.h"
 
 #include "objectname_p.h"
+#include "picturesize_p.h"
 
 #include <QBrush>
 #include <QPainter>
@@ -41,7 +42,7 @@ QPixmap ZEMPageBackground::getBackground() const
 void ZEMPageBackground::setBackground(const QPixmap &background, bool repaint)
 {
     d->background = background;
-    setMinimumSize(background.size());
+    setMinimumSize(pictureSize(background));
     if (repaint) {
         QWidget::repaint();
     }

@@ -4,6 +4,7 @@
 #include "zempixmap.h"
 
 #include "objectname_p.h"
+#include "picturesize_p.h"
 
 #include <QPainter>
 
@@ -33,9 +34,10 @@ QPixmap ZEMPixmap::getPixmap() const
 void ZEMPixmap::setPixmap(const QPixmap &pixmap)
 {
     d->pixmap = pixmap;
-    setMinimumSize(pixmap.size());
-    setMaximumSize(pixmap.size());
-    resize(pixmap.size());
+    const QSize size = pictureSize(pixmap);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    resize(size);
     repaint();
 }
 

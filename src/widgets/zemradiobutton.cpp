@@ -5,6 +5,7 @@
 
 #include "centredmark_p.h"
 #include "objectname_p.h"
+#include "picturesize_p.h"
 
 #include <QPainter>
 
@@ -36,9 +37,10 @@ QPixmap ZEMRadioButton::getBackground() const
 void ZEMRadioButton::setBackground(const QPixmap &background)
 {
     d->background = background;
-    setMinimumSize(background.size());
-    setMaximumSize(background.size());
-    resize(background.size());
+    const QSize size = pictureSize(background);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    resize(size);
     repaint();
 }
 
@@ -63,7 +65,7 @@ void ZEMRadioButton::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.drawPixmap(QRectF(rect()), d->background, QRectF());
     if (isChecked()) {
-        const QRect mark = centredMark(size(), d->checkedIcon.size());
+        const QRect mark = centredMark(size(), pictureSize(d->checkedIcon));
         painter.drawPixmap(QRectF(mark), d->checkedIcon, QRectF());
     }
     QWidget::paintEvent(event); // NOLINT(bugprone-parent-virtual-call): QAbstractButton has none

@@ -4,7 +4,6 @@
 #ifndef HISTOGRAMGEOMETRY_P_H
 #define HISTOGRAMGEOMETRY_P_H
 
-#include <QPixmap>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -14,12 +13,6 @@
 
 /** Where the parts of columns and legend items are painted, in the painter's coordinates. */
 namespace HistogramGeometry {
-
-/** The size of a picture, which has more pixels when it is made for a sharp screen. */
-inline QSize sizeOf(const QPixmap &picture)
-{
-    return picture.size() / picture.devicePixelRatio();
-}
 
 /** @p r with each of its edges on a whole pixel. */
 inline QRectF rounded(const QRectF &r)

@@ -4,6 +4,7 @@
 #include "qwtlegenditem.h"
 
 #include "histogramgeometry_p.h"
+#include "picturesize_p.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -82,9 +83,9 @@ void QwtLegendItem::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     painter.setClipRegion(event->region() & contentsRect());
-    painter.drawPixmap(HistogramGeometry::identifierRect(contentsRect(), margin(),
-                                                         HistogramGeometry::sizeOf(d->identifier)),
-                       d->identifier);
+    painter.drawPixmap(
+        HistogramGeometry::identifierRect(contentsRect(), margin(), pictureSize(d->identifier)),
+        d->identifier);
 }
 
 void QwtLegendItem::updateIndent()

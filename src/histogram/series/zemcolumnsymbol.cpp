@@ -4,6 +4,7 @@
 #include "zemcolumnsymbol.h"
 
 #include "histogramgeometry_p.h"
+#include "picturesize_p.h"
 #include "quickpaths_p.h"
 #include "zempixmapcache.h"
 
@@ -87,8 +88,7 @@ void ZEMColumnSymbol::drawIconBox(QPainter *painter, const QwtColumnRect &rect) 
         return;
     }
     painter->fillRect(*visible, palette().brush(QPalette::Current, QPalette::Window));
-    if (const auto position =
-            HistogramGeometry::iconPosition(*visible, HistogramGeometry::sizeOf(d->icon))) {
+    if (const auto position = HistogramGeometry::iconPosition(*visible, pictureSize(d->icon))) {
         painter->drawPixmap(*position, d->icon);
     }
 }

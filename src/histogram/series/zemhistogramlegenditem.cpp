@@ -5,6 +5,7 @@
 
 #include "histogramgeometry_p.h"
 #include "objectname_p.h"
+#include "picturesize_p.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -41,7 +42,7 @@ QPixmap ZEMHistogramLegendItem::getBackground()
 void ZEMHistogramLegendItem::setBackground(const QPixmap &pixmap)
 {
     d->background = pixmap;
-    const QSize size = HistogramGeometry::sizeOf(pixmap);
+    const QSize size = pictureSize(pixmap);
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
@@ -67,7 +68,7 @@ void ZEMHistogramLegendItem::paintEvent(QPaintEvent *event)
     if (identifier().isNull()) {
         return;
     }
-    const QRect place = HistogramGeometry::identifierRect(contents, d->identifierIndent,
-                                                          HistogramGeometry::sizeOf(identifier()));
+    const QRect place =
+        HistogramGeometry::identifierRect(contents, d->identifierIndent, pictureSize(identifier()));
     painter.drawPixmap(QRectF(place), identifier(), QRectF());
 }
