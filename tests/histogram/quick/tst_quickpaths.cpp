@@ -3,7 +3,6 @@
 
 #include "paintcounter.h"
 #include "quickpathsfixture.h"
-#include "zemtest.h"
 
 #include <QImage>
 #include <QLocale>
