@@ -97,6 +97,7 @@ private Q_SLOTS:
     void changePaintsTheChild();
     void dragPaintsNoValueAxis();
     void replotPaintsTheCanvasAlone();
+    void replotPaintsACanvasOfAnyKind();
 };
 
 void tst_ChartRepaints::cleanup()
@@ -232,6 +233,26 @@ void tst_ChartRepaints::replotPaintsTheCanvasAlone()
     stage.chart->replot();
     QTRY_VERIFY(paints.canvas.count > 0);
     QCOMPARE(paints.xAxis.count + paints.valueAxis.count, 0);
+}
+
+void tst_ChartRepaints::replotPaintsACanvasOfAnyKind()
+{
+    for (const bool open : {true, false}) {
+        setOpen(open);
+        Stage stage(kinds()[0].second);
+        QVERIFY(stage.isReady);
+        auto *canvas = new QWidget;
+        stage.plot()->setCanvas(canvas);
+        canvas->show();
+        stage.plot()->updateLayout();
+        QCoreApplication::processEvents();
+        const ZemTest::PaintCounter paints(canvas);
+        // Qwt looks for the replot() of its own canvas as well.
+        QTest::ignoreMessage(QtWarningMsg,
+                             "QMetaObject::invokeMethod: No such method QWidget::replot()");
+        stage.chart->replot();
+        QTRY_VERIFY(paints.count > 0);
+    }
 }
 
 QTEST_MAIN(tst_ChartRepaints)
