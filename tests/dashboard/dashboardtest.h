@@ -4,19 +4,21 @@
 #ifndef DASHBOARDTEST_H
 #define DASHBOARDTEST_H
 
+#include "../widgets/formtest.h"
+
 #include <QBoxLayout>
 #include <QFont>
 #include <QGridLayout>
 #include <QImage>
-#include <QMetaEnum>
 #include <QPixmap>
-#include <QSpacerItem>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
 /** What the tests of tiles, tabs and chart pages share. */
 namespace DashboardTest {
+
+using FormTest::policyText;
 
 /** The part of a form that has the name. */
 template <typename T>
@@ -37,13 +39,6 @@ inline QImage picture(const char *path)
     return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-inline QString policyText(const QSizePolicy &policy)
-{
-    const auto policies = QMetaEnum::fromType<QSizePolicy::Policy>();
-    return QLatin1String(policies.valueToKey(policy.horizontalPolicy())) + QLatin1Char('/')
-        + QLatin1String(policies.valueToKey(policy.verticalPolicy()));
-}
-
 inline QStringList layoutLines(QLayout *layout, const QString &prefix = QString());
 
 inline QStringList itemLines(QLayoutItem *item, const QString &prefix)
@@ -51,17 +46,7 @@ inline QStringList itemLines(QLayoutItem *item, const QString &prefix)
     if (QLayout *layout = item->layout()) {
         return layoutLines(layout, prefix);
     }
-    if (QSpacerItem *spacer = item->spacerItem()) {
-        const QSize size = spacer->sizeHint();
-        return {QStringLiteral("%1spacer %2x%3 %4")
-                    .arg(prefix)
-                    .arg(size.width())
-                    .arg(size.height())
-                    .arg(policyText(spacer->sizePolicy()))};
-    }
-    const QWidget *widget = item->widget();
-    return {prefix + QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
-            + widget->objectName()};
+    return {prefix + FormTest::inWords(item)};
 }
 
 /**
@@ -98,15 +83,6 @@ inline QStringList layoutLines(QLayout *layout, const QString &prefix)
 inline QString fontText(const QFont &font)
 {
     return QStringLiteral("%1 %2").arg(font.family()).arg(font.pointSize());
-}
-
-/** The margins that a layout on a widget has if none are set. */
-inline QMargins defaultMargins()
-{
-    QWidget parent;
-    QWidget widget(&parent);
-    QHBoxLayout layout(&widget);
-    return layout.contentsMargins();
 }
 
 } // namespace DashboardTest

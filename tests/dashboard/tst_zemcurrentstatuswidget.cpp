@@ -132,7 +132,8 @@ void tst_ZEMCurrentStatusWidget::form()
 
     QCOMPARE(layoutLines(widget->layout()),
              QString::fromLatin1(formLines).split(QLatin1Char('\n')));
-    QCOMPARE(widget->layout()->contentsMargins(), QMargins(14, defaultMargins().top(), 14, 12));
+    QCOMPARE(widget->layout()->contentsMargins(),
+             QMargins(14, FormTest::styleMarginsOfAChild().top(), 14, 12));
 }
 
 void tst_ZEMCurrentStatusWidget::pictures()

@@ -63,7 +63,7 @@ void tst_ZEMEnergyTab::form()
 
     QWidget host;
     ZEMEnergyTab child(&host);
-    QCOMPARE(child.layout()->contentsMargins(), defaultMargins());
+    QCOMPARE(child.layout()->contentsMargins(), FormTest::styleMarginsOfAChild());
 }
 
 void tst_ZEMEnergyTab::windowTitleIsTranslated()

@@ -55,11 +55,11 @@ private Q_SLOTS:
 
 namespace {
 
-const char wide[] = "spacer 40x20 Expanding Minimum";
-const char flank[] = "spacer 40x20 Preferred Minimum";
+const char wide[] = "spacer 40x20 Expanding/Minimum";
+const char flank[] = "spacer 40x20 Preferred/Minimum";
 const char page[] = "0,1: ZEMPageBackground zemPageBackground";
-const char left[] = "0,0: spacer 50x20 Preferred Minimum";
-const char right[] = "0,2: spacer 50x20 Preferred Minimum";
+const char left[] = "0,0: spacer 50x20 Preferred/Minimum";
+const char right[] = "0,2: spacer 50x20 Preferred/Minimum";
 const char *const withLine[] = {"ZEMNumericKeypad", "ZEMLineEditDialog", "ZEMLineEditSearchDialog",
                                 "ZEMPasswordDialog"};
 const char *const withRowOfButtons[] = {"ZEMLineEditDialog", "ZEMLineEditSearchDialog",
@@ -77,16 +77,16 @@ void layoutRowsOfTheKeypad()
     layoutRow(dialog, "gridLayout_3", {"0,0: ZEMPageBackground zemPageBackground"});
     layoutRow(dialog, "verticalLayout_3",
               {"QHBoxLayout horizontalLayout_2", "QHBoxLayout horizontalLayout_21",
-               "QHBoxLayout horizontalLayout_4", "spacer 20x40 Minimum Expanding"});
+               "QHBoxLayout horizontalLayout_4", "spacer 20x40 Minimum/Expanding"});
     layoutRow(dialog, "horizontalLayout_2", {wide, "ZEMTextLabel lblTitle", wide});
     layoutRow(dialog, "horizontalLayout_21", {wide, "ZEMPixmap zemPixmap", wide});
     layoutRow(dialog, "horizontalLayout_4", {wide, "QHBoxLayout horizontalLayout_3", wide});
     layoutRow(dialog, "horizontalLayout_3",
               {"QHBoxLayout horizontalLayout", "QVBoxLayout verticalLayout"});
-    layoutRow(dialog, "horizontalLayout", {flank, "QWidget widget", "spacer 40x20 Fixed Minimum"});
+    layoutRow(dialog, "horizontalLayout", {flank, "QWidget widget", "spacer 40x20 Fixed/Minimum"});
     layoutRow(dialog, "verticalLayout",
-              {"spacer 20x28 Minimum Preferred", "ZEMButton btnOK", "spacer 20x8 Minimum Fixed",
-               "ZEMButton btnCancel", "spacer 20x40 Minimum Preferred"});
+              {"spacer 20x28 Minimum/Preferred", "ZEMButton btnOK", "spacer 20x8 Minimum/Fixed",
+               "ZEMButton btnCancel", "spacer 20x40 Minimum/Preferred"});
 }
 
 /** The three dialogs that have the title and the field above the keyboard and the buttons below. */
@@ -98,7 +98,7 @@ void layoutRowsOfTheLines()
         layoutRow(dialog, "horizontalLayout_3",
                   {wide, "ZEMButton btnCancel", "ZEMButton btnOK", wide});
     }
-    const char gap[] = "spacer 20x40 Minimum Preferred";
+    const char gap[] = "spacer 20x40 Minimum/Preferred";
     const char keys[] = "QHBoxLayout horizontalLayout";
     const char ends[] = "QHBoxLayout horizontalLayout_3";
     const char line[] = "ZEMLineEditDialog";
@@ -110,7 +110,7 @@ void layoutRowsOfTheLines()
     layoutRow(search, "horizontalLayout_4",
               {wide, "QVBoxLayout verticalLayout_2", "QVBoxLayout verticalLayout", wide});
     layoutRow(search, "verticalLayout_2", {"ZEMTextLabel lblTitle", "ZEMPixmap zemPixmap"});
-    layoutRow(search, "verticalLayout", {"spacer 20x40 Minimum Minimum", "ZEMButton btnSearch"});
+    layoutRow(search, "verticalLayout", {"spacer 20x40 Minimum/Minimum", "ZEMButton btnSearch"});
     const char password[] = "ZEMPasswordDialog";
     layoutRow(password, "verticalLayout_2", {"QHBoxLayout horizontalLayout_4", gap, keys, ends});
     layoutRow(password, "horizontalLayout_4", {wide, "QVBoxLayout verticalLayout", wide});
@@ -122,11 +122,11 @@ void layoutRowsOfTheLines()
 void layoutRowsOfTheMultiLineDialog()
 {
     const char dialog[] = "ZEMMultiLineDialog";
-    const char gap[] = "spacer 15x20 Preferred Minimum";
-    const char side[] = "spacer 20x40 Minimum Preferred";
-    const char between[] = "spacer 20x20 Minimum Fixed";
+    const char gap[] = "spacer 15x20 Preferred/Minimum";
+    const char side[] = "spacer 20x40 Minimum/Preferred";
+    const char between[] = "spacer 20x20 Minimum/Fixed";
     layoutRow(dialog, "gridLayout_2",
-              {"0,0: spacer 15x20 Preferred Minimum", page, "0,2: spacer 15x20 Preferred Minimum"});
+              {"0,0: spacer 15x20 Preferred/Minimum", page, "0,2: spacer 15x20 Preferred/Minimum"});
     layoutRow(dialog, "verticalLayout",
               {"QHBoxLayout horizontalLayout_2", "QHBoxLayout horizontalLayout"});
     layoutRow(dialog, "horizontalLayout_2",

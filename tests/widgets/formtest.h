@@ -36,12 +36,15 @@ T *part(const QObject &form, const char *name)
     return found.size() == 1 ? found.first() : nullptr;
 }
 
-inline QLatin1String policyName(QSizePolicy::Policy policy)
+/** "Expanding/Minimum": across and down. */
+inline QString policyText(const QSizePolicy &policy)
 {
-    return QLatin1String(QMetaEnum::fromType<QSizePolicy::Policy>().valueToKey(policy));
+    const auto policies = QMetaEnum::fromType<QSizePolicy::Policy>();
+    return QLatin1String(policies.valueToKey(policy.horizontalPolicy())) + QLatin1Char('/')
+        + QLatin1String(policies.valueToKey(policy.verticalPolicy()));
 }
 
-/** "Class name" of a widget or layout, "spacer 40x20 Expanding Minimum" of a spacer. */
+/** "Class name" of a widget or layout, "spacer 40x20 Expanding/Minimum" of a spacer. */
 inline QString inWords(QLayoutItem *item)
 {
     const auto named = [](const QObject *object) {
@@ -55,11 +58,10 @@ inline QString inWords(QLayoutItem *item)
         return named(item->layout());
     }
     const QSpacerItem *spacer = item->spacerItem();
-    return QStringLiteral("spacer %1x%2 %3 %4")
+    return QStringLiteral("spacer %1x%2 %3")
         .arg(spacer->sizeHint().width())
         .arg(spacer->sizeHint().height())
-        .arg(policyName(spacer->sizePolicy().horizontalPolicy()),
-             policyName(spacer->sizePolicy().verticalPolicy()));
+        .arg(policyText(spacer->sizePolicy()));
 }
 
 /** The items of @p layout in their order. In a grid, "row,column: " stands before each. */

@@ -124,9 +124,9 @@ void tst_ZEMDialogPopup::formOfThePage()
     items.sort();
     QCOMPARE(items,
              FormTest::strings(
-                 {"0,1: spacer 20x53 Minimum Expanding", "1,0: spacer 80x20 Minimum Minimum",
-                  "1,1: ZEMPageBackground pageCutout", "1,2: spacer 80x20 Minimum Minimum",
-                  "2,1: spacer 20x52 Minimum Expanding"}));
+                 {"0,1: spacer 20x53 Minimum/Expanding", "1,0: spacer 80x20 Minimum/Minimum",
+                  "1,1: ZEMPageBackground pageCutout", "1,2: spacer 80x20 Minimum/Minimum",
+                  "2,1: spacer 20x52 Minimum/Expanding"}));
     const auto *cutout = part<ZEMPageBackground>(dialog, "pageCutout");
     QCOMPARE(cutout->sizePolicy(),
              FormTest::policy(QSizePolicy::Preferred, QSizePolicy::Preferred));
@@ -144,8 +144,8 @@ void tst_ZEMDialogPopup::formOfTheContents()
     const QMargins style = FormTest::styleMarginsOfAChild();
     QCOMPARE(column->contentsMargins(), QMargins(style.left(), 20, style.right(), 20));
     QCOMPARE(FormTest::items(column),
-             FormTest::strings({"QVBoxLayout verticalLayout", "spacer 20x40 Minimum Minimum",
-                                "QHBoxLayout horizontalLayout", "spacer 20x39 Minimum Minimum"}));
+             FormTest::strings({"QVBoxLayout verticalLayout", "spacer 20x40 Minimum/Minimum",
+                                "QHBoxLayout horizontalLayout", "spacer 20x39 Minimum/Minimum"}));
     QCOMPARE(FormTest::items(part<QLayout>(dialog, "verticalLayout")),
              FormTest::strings({"ZEMTextLabel textLine1", "ZEMTextLabel textLine2",
                                 "ZEMTextLabel textLine3", "ZEMThrobber throbber"}));
@@ -161,9 +161,9 @@ void tst_ZEMDialogPopup::formOfTheButtons()
 {
     const ZEMDialogPopup dialog;
     QCOMPARE(FormTest::items(part<QLayout>(dialog, "horizontalLayout")),
-             FormTest::strings({"spacer 40x20 Expanding Minimum", "ZEMButton btnRejected",
-                                "spacer 40x20 Preferred Minimum", "ZEMButton btnAccepted",
-                                "spacer 40x20 Expanding Minimum"}));
+             FormTest::strings({"spacer 40x20 Expanding/Minimum", "ZEMButton btnRejected",
+                                "spacer 40x20 Preferred/Minimum", "ZEMButton btnAccepted",
+                                "spacer 40x20 Expanding/Minimum"}));
     const QImage background =
         QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_square_small.png")).toImage();
     const auto check = [&](const char *name, const QString &icon) {

@@ -120,9 +120,9 @@ void tst_ZEMMenuOverlay::formOfThePage()
     items.sort();
     QCOMPARE(items,
              FormTest::strings(
-                 {"0,1: spacer 20x113 Minimum Expanding", "1,0: spacer 158x20 Expanding Minimum",
-                  "1,1 2x1: ZEMPageBackground pageCutout", "2,2: spacer 158x20 Expanding Minimum",
-                  "3,1: spacer 20x112 Minimum Expanding"}));
+                 {"0,1: spacer 20x113 Minimum/Expanding", "1,0: spacer 158x20 Expanding/Minimum",
+                  "1,1 2x1: ZEMPageBackground pageCutout", "2,2: spacer 158x20 Expanding/Minimum",
+                  "3,1: spacer 20x112 Minimum/Expanding"}));
     QCOMPARE(cutoutOf(menu)->minimumSize(), QSize(0, 0));
     QCOMPARE(cutoutOf(menu)->getBackgroundColor(), QColor(255, 255, 255, 25));
 }
