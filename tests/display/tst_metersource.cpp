@@ -23,6 +23,27 @@ double counterAt(qint64 instant)
     return 1000.0 + double((instant - ten) / pace) / 1000.0;
 }
 
+/** A meter that tells what a test wants. */
+class ToldMeter : public LiveMeter
+{
+public:
+    bool isMetering() const override { return true; }
+    HousePower housePower() const override { return house; }
+    void start() override { }
+
+    void tell(std::optional<int> watts, const HousePower &beside = {})
+    {
+        P1Telegram told;
+        told.instant = ten;
+        told.power = watts;
+        house = beside;
+        Q_EMIT telegram(told);
+    }
+
+private:
+    HousePower house;
+};
+
 } // namespace
 
 /** A smart meter's readings, and their history. */
@@ -36,6 +57,8 @@ private Q_SLOTS:
     void historyGoesOn();
     void withoutADirectoryNothingIsKept();
     void troubleIsAProblemOfTheHousehold();
+    void panelsWithAMeterMakeConsumptionExact();
+    void powerThatIsNotToldIsNotKnown();
 
 private:
     /** Plays telegrams from @p from to @p to into a source that is then gone. */
@@ -112,6 +135,44 @@ void tst_MeterSource::troubleIsAProblemOfTheHousehold()
     source.prepare();
     QCOMPARE(source.household().problems.size(), 1);
     QVERIFY(source.household().problems.constFirst().contains("the history is not kept"));
+}
+
+void tst_MeterSource::panelsWithAMeterMakeConsumptionExact()
+{
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    MeterSource source(std::move(told), QString());
+    source.start();
+
+    meter->tell(-1500);
+    QCOMPARE(source.power()->consumption, 0.0);
+    QCOMPARE(source.power()->production, 1500.0);
+    HousePower house;
+    house.production = 2000.0;
+    meter->tell(-1500, house);
+    QCOMPARE(source.power()->consumption, 500.0);
+    QCOMPARE(source.power()->production, 2000.0);
+    QCOMPARE(source.mostProduction(), 2000.0);
+    QVERIFY(source.power()->devices.isEmpty());
+
+    house.battery = -1000.0;
+    house.car = 300.0;
+    meter->tell(-500, house);
+    QCOMPARE(source.power()->consumption, 500.0);
+    QCOMPARE(source.power()->grid(), -500.0);
+    QCOMPARE(source.power()->devices.size(), 1);
+    QCOMPARE(source.power()->devices.constFirst().watts, 300.0);
+}
+
+void tst_MeterSource::powerThatIsNotToldIsNotKnown()
+{
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    MeterSource source(std::move(told), QString());
+    meter->tell(250);
+    QCOMPARE(source.power()->consumption, 250.0);
+    meter->tell(std::nullopt);
+    QVERIFY(!source.power());
 }
 
 QTEST_GUILESS_MAIN(tst_MeterSource)

@@ -89,7 +89,8 @@ P1Address parseP1Address(const QString &text)
 }
 
 P1Source::P1Source(const QString &meterAddress, const P1Settings &settings, QObject *parent)
-    : QObject(parent), address(meterAddress), link(makeLink(parseP1Address(meterAddress), settings))
+    : LiveMeter(parent), address(meterAddress),
+      link(makeLink(parseP1Address(meterAddress), settings))
 {
     watchdog.setInterval(settings.watchdog);
     connect(&watchdog, &QTimer::timeout, this, &P1Source::handleSilence);

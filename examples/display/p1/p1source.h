@@ -4,10 +4,9 @@
 #ifndef P1SOURCE_H
 #define P1SOURCE_H
 
+#include "livemeter.h"
 #include "p1splitter.h"
-#include "p1telegram.h"
 
-#include <QObject>
 #include <QTimer>
 #include <memory>
 
@@ -55,9 +54,10 @@ struct P1Settings
  * @endcode
  *
  * A telegram that is damaged, or holds nothing that is known, is dropped: it is counted and named
- * by problem(), and telegram() never tells of it.
+ * by problem(), and telegram() never tells of it. A file or standard input has an end, told by
+ * ended().
  */
-class P1Source : public QObject
+class P1Source : public LiveMeter
 {
     Q_OBJECT
 
@@ -78,23 +78,11 @@ public:
     int droppedCount() const { return dropped; }
     /** Whether metering has failed, as told last. */
     bool hasFailed() const { return failed; }
+    bool isMetering() const override { return good > 0 && !failed; }
 
 public Q_SLOTS:
     /** Opens the link, soon, and starts the watchdog. To be called once. */
-    void start();
-
-Q_SIGNALS:
-    /** A good telegram. */
-    void telegram(const P1Telegram &telegram);
-    /** One line in English: "ADDRESS: what is wrong". */
-    void problem(const QString &line);
-    /**
-     * True when no good telegram has come for the watchdog's time, false with the next good one,
-     * just before telegram(). Only changes are told, and in the beginning it has not failed.
-     */
-    void meteringFailed(bool failed);
-    /** A file or standard input is at its end; nothing follows. */
-    void ended();
+    void start() override;
 
 private:
     void take(const std::vector<P1Splitter::Piece> &pieces);

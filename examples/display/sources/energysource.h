@@ -22,15 +22,16 @@ struct DevicePower
     double most = 0.0; ///< at which the device is fully on
 };
 
-/** The power that flows now, in watts; none of it is negative. */
+/** The power that flows now, in watts; none of it is negative but that of a battery. */
 struct PowerReport
 {
     double consumption = 0.0;
     double production = 0.0;
     QVector<DevicePower> devices; ///< parts of the consumption
+    double battery = 0.0; ///< what it gives; negative while it is charged
 
     /** Taken from the grid; negative while the house delivers. */
-    double grid() const { return consumption - production; }
+    double grid() const { return consumption - production - battery; }
 };
 
 /** Where the display has its numbers from: files, a smart meter or a simulated house. */

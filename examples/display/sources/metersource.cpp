@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr double mostOfCar = 11000.0; // watts
+
 P1Recorder::Listener listenerOf(HistoryKeeper *keeper)
 {
     if (!keeper) {
@@ -22,18 +24,24 @@ P1Recorder::Listener listenerOf(HistoryKeeper *keeper)
 
 MeterSource::MeterSource(const QString &address, const P1Settings &settings,
                          const QString &historyDirectory, QObject *parent)
+    : MeterSource(std::make_unique<P1Source>(address, settings), historyDirectory, parent)
+{
+}
+
+MeterSource::MeterSource(std::unique_ptr<LiveMeter> liveMeter, const QString &historyDirectory,
+                         QObject *parent)
     : EnergySource(parent),
       keeper(historyDirectory.isEmpty() ? nullptr
                                         : std::make_unique<HistoryKeeper>(historyDirectory)),
-      recorder(&readings, listenerOf(keeper.get())), meter(address, settings)
+      recorder(&readings, listenerOf(keeper.get())), meter(std::move(liveMeter))
 {
     if (keeper) {
         connect(keeper.get(), &HistoryKeeper::problem, this, &MeterSource::problem);
     }
-    connect(&meter, &P1Source::telegram, this, &MeterSource::take);
-    connect(&meter, &P1Source::problem, this, &MeterSource::problem);
-    connect(&meter, &P1Source::ended, this, &MeterSource::ended);
-    connect(&meter, &P1Source::meteringFailed, this,
+    connect(meter.get(), &LiveMeter::telegram, this, &MeterSource::take);
+    connect(meter.get(), &LiveMeter::problem, this, &MeterSource::problem);
+    connect(meter.get(), &LiveMeter::ended, this, &MeterSource::ended);
+    connect(meter.get(), &LiveMeter::meteringFailed, this,
             [this](bool failed) { Q_EMIT meteringChanged(!failed); });
 }
 
@@ -53,7 +61,8 @@ void MeterSource::prepare()
 
 void MeterSource::start()
 {
-    meter.start();
+    meter->goOnFrom(readings);
+    meter->start();
 }
 
 std::optional<PowerReport> MeterSource::power() const
@@ -61,21 +70,27 @@ std::optional<PowerReport> MeterSource::power() const
     if (!readings.measuredPower) {
         return std::nullopt;
     }
-    // The meter knows the grid alone: what is delivered is the least that the panels make.
+    const double grid = readings.measuredPower->watts;
+    const HousePower house = meter->housePower();
     PowerReport report;
-    report.consumption = std::max(readings.measuredPower->watts, 0.0);
-    report.production = std::max(-readings.measuredPower->watts, 0.0);
+    report.battery = house.battery.value_or(0.0);
+    // A meter that knows the grid alone: what is delivered is the least that the panels make.
+    report.production = house.production.value_or(std::max(-grid - report.battery, 0.0));
+    report.consumption = std::max(grid + report.production + report.battery, 0.0);
+    if (house.car) {
+        report.devices = {{Device::Car, *house.car, mostOfCar}};
+    }
     return report;
 }
 
 double MeterSource::mostProduction() const
 {
-    return mostDelivered;
+    return mostProduced;
 }
 
 bool MeterSource::isMetering() const
 {
-    return meter.goodCount() > 0 && !meter.hasFailed();
+    return meter->isMetering();
 }
 
 void MeterSource::take(const P1Telegram &telegram)
@@ -83,8 +98,12 @@ void MeterSource::take(const P1Telegram &telegram)
     const qint64 now = telegram.instant.value_or(QDateTime::currentSecsSinceEpoch());
     const bool wasFirst = !readings.firstInstant();
     recorder.add(telegram, now);
-    if (telegram.power) {
-        mostDelivered = std::max(mostDelivered, double(-*telegram.power));
+    if (!telegram.power) {
+        // What it was is not what it is.
+        readings.measuredPower.reset();
+    }
+    if (const std::optional<PowerReport> report = power()) {
+        mostProduced = std::max(mostProduced, report->production);
     }
     Q_EMIT powerChanged();
 

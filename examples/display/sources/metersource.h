@@ -6,14 +6,15 @@
 
 #include "energysource.h"
 #include "historykeeper.h"
+#include "livemeter.h"
 #include "p1recorder.h"
 #include "p1source.h"
 
 #include <memory>
 
 /**
- * A smart meter on its P1 port. What it counts fills the charts from now on, and where a history is
- * kept, from the first day on that it was followed.
+ * A smart meter, on its P1 port or in another way. What it counts fills the charts from now on, and
+ * where a history is kept, from the first day on that it was followed.
  */
 class MeterSource : public EnergySource
 {
@@ -25,6 +26,9 @@ public:
      * HistoryKeeper; if it is empty, nothing is kept.
      */
     MeterSource(const QString &address, const P1Settings &settings, const QString &historyDirectory,
+                QObject *parent = nullptr);
+    /** Follows @p meter. */
+    MeterSource(std::unique_ptr<LiveMeter> meter, const QString &historyDirectory,
                 QObject *parent = nullptr);
     ~MeterSource() override;
 
@@ -46,8 +50,8 @@ private:
     Readings::Household readings;
     const std::unique_ptr<HistoryKeeper> keeper;
     P1Recorder recorder;
-    P1Source meter;
-    double mostDelivered = 0.0; ///< watts
+    const std::unique_ptr<LiveMeter> meter;
+    double mostProduced = 0.0; ///< watts; without a meter of the panels, what was delivered
     qint64 knownStep = 0;
 };
 
