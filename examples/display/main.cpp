@@ -7,6 +7,7 @@
 #include "energy.h"
 #include "housesource.h"
 #include "metersource.h"
+#include "mqttmeter.h"
 #include "options.h"
 #include "readingsfile.h"
 #include "readingssource.h"
@@ -63,7 +64,13 @@ std::unique_ptr<EnergySource> meterSource(const Options &options)
     P1Settings settings;
     // Pictures are of what a file says in the end.
     settings.speed = options.screenshots.isEmpty() ? options.speed : 0.0;
-    auto source = std::make_unique<MeterSource>(options.meter, settings, options.history);
+    std::unique_ptr<LiveMeter> meter;
+    if (options.mqtt) {
+        meter = std::make_unique<MqttMeter>(*options.mqtt);
+    } else {
+        meter = std::make_unique<P1Source>(options.meter, settings);
+    }
+    auto source = std::make_unique<MeterSource>(std::move(meter), options.history);
     QObject::connect(source.get(), &MeterSource::problem, source.get(), &printError);
     source->prepare();
     return source;
@@ -94,7 +101,7 @@ std::unique_ptr<EnergySource> makeSource(const Options &options)
                      [&] { household = readHousehold(options.readings); });
         return household ? std::make_unique<ReadingsSource>(std::move(*household)) : nullptr;
     }
-    if (!options.meter.isEmpty()) {
+    if (options.mqtt || !options.meter.isEmpty()) {
         return meterSource(options);
     }
     auto house = std::make_unique<HouseSource>(options.speed);

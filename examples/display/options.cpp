@@ -5,6 +5,7 @@
 
 #include "historykeeper.h"
 #include "houseclock.h"
+#include "mqttoptions.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -35,7 +36,7 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
-                       "simulated one, or a real one with --readings or --p1."));
+                       "simulated one, or a real one with --readings, --p1 or --mqtt."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption readings(
@@ -66,7 +67,10 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         QStringLiteral("screenshots"),
         QStringLiteral("Write each page and each chart as a PNG to this directory, and end."),
         QStringLiteral("DIR"));
-    parser.addOptions({readings, meter, data, noHistory, speed, page, screenshots});
+    const MqttOptions mqtt;
+    parser.addOptions({readings, meter});
+    parser.addOptions(mqtt.all());
+    parser.addOptions({data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings."),
                                  QStringLiteral("[FILE...]"));
@@ -76,6 +80,9 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     }
     if (parser.isSet(help)) {
         return answer(parser.helpText());
+    }
+    if (const QByteArray mapping = mqtt.mappingToPrint(parser); !mapping.isEmpty()) {
+        return answer(QString::fromUtf8(mapping));
     }
     if (parser.isSet(version)) {
         return answer(QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
@@ -99,6 +106,16 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     if (parser.isSet(meter) && parser.isSet(readings)) {
         return refusal(QStringLiteral("--readings and --p1 do not go together"));
     }
+    QString problem;
+    const std::optional<MqttSettings> broker = mqtt.read(parser, &problem);
+    if (broker && parser.isSet(meter)) {
+        problem = QStringLiteral("--mqtt and --p1 do not go together");
+    } else if (broker && parser.isSet(readings)) {
+        problem = QStringLiteral("--mqtt and --readings do not go together");
+    }
+    if (!problem.isEmpty()) {
+        return refusal(problem);
+    }
     const std::optional<double> factor = parseSpeed(parser.value(speed));
     if (!factor) {
         return refusal(QStringLiteral("--speed wants a number from %1 to %2, not '%3'")
@@ -116,6 +133,7 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
 
     Options options;
     options.meter = parser.value(meter);
+    options.mqtt = broker;
     options.history = historyDirectory;
     options.speed = *factor;
     options.readings = parser.values(readings) + parser.positionalArguments();

@@ -4,8 +4,11 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
+#include "mqttmeter.h"
+
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 /** What the command line asks for. */
 struct Options
@@ -21,6 +24,7 @@ struct Options
 
     QStringList readings; ///< CSV files
     QString meter; ///< where a smart meter is to be followed; empty: no meter
+    std::optional<MqttSettings> mqtt; ///< a publisher that is to be followed
     QString history; ///< directory of the history of a meter; empty: it is not kept
     double speed = 1.0; ///< how much faster than the clock on the wall
     QString screenshots; ///< directory for the pictures of all pages; empty: show the display
