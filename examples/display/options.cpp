@@ -106,6 +106,9 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     if (parser.isSet(meter) && parser.isSet(readings)) {
         return refusal(QStringLiteral("--readings and --p1 do not go together"));
     }
+    if (parser.isSet(meter) && parser.value(meter).isEmpty()) {
+        return refusal(QStringLiteral("--p1 wants a file, a serial port, host:port or -"));
+    }
     QString problem;
     const std::optional<MqttSettings> broker = mqtt.read(parser, &problem);
     if (broker && parser.isSet(meter)) {

@@ -24,8 +24,8 @@ private Q_SLOTS:
     void badSpeed_data();
     void badSpeed();
     void readingsAndMeterDoNotGoTogether();
-    void historyOptions_data();
-    void historyOptions();
+    void meterOptions_data();
+    void meterOptions();
     void mqttOptions_data();
     void mqttOptions();
     void mappingIsPrinted();
@@ -148,17 +148,19 @@ void tst_DisplayProgram::readingsAndMeterDoNotGoTogether()
              qPrintable(result.errors));
 }
 
-void tst_DisplayProgram::historyOptions_data()
+void tst_DisplayProgram::meterOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
     QTest::newRow("both") << QStringList({"--data", "here", "--no-history"})
                           << QStringLiteral("--data and --no-history do not go together");
+    QTest::newRow("no meter") << QStringList({"--p1", ""})
+                              << QStringLiteral("--p1 wants a file, a serial port, host:port or -");
     QTest::newRow("nowhere") << QStringList({"--data", ""})
                              << QStringLiteral("--data wants a directory");
 }
 
-void tst_DisplayProgram::historyOptions()
+void tst_DisplayProgram::meterOptions()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);

@@ -181,6 +181,30 @@ void tst_P1Telegram::content_data()
         << QStringList({QStringLiteral("Belgian 50217"), time, QStringLiteral("none"),
                         QStringLiteral("import-normal 1.001"), QStringLiteral("import-low 2.002"),
                         QStringLiteral("export-normal 3.003"), QStringLiteral("export-low 4.004")});
+    QTest::newRow("totals alone") << withChecksum(
+        head
+        + "1-0:1.8.0(000001.001*kWh)\r\n1-0:2.8.0(000003.003*kWh)\r\n"
+          "1-0:1.7.0(00.100*kW)\r\n")
+                                  << five
+            + QStringList({QStringLiteral("100 W"), QStringLiteral("import 1.001"),
+                           QStringLiteral("export 3.003")});
+    QTest::newRow("totals beside tariffs, which are their parts")
+        << withChecksum(head
+                        + "1-0:1.8.0(000003.003*kWh)\r\n1-0:1.8.1(000001.001*kWh)\r\n"
+                          "1-0:1.8.2(000002.002*kWh)\r\n1-0:2.8.0(000000.500*kWh)\r\n")
+        << noPower
+            + QStringList({QStringLiteral("import-low 1.001"),
+                           QStringLiteral("import-normal 2.002"), QStringLiteral("export 0.500")});
+    QTest::newRow("total beside tariffs that cannot be read")
+        << withChecksum(head + "1-0:1.8.0(000003.003*kWh)\r\n1-0:1.8.1()\r\n" + "1-0:1.8.2(x)\r\n"
+                        + "1-0:2.8.1(000001.000*kWh)\r\n")
+        << noPower + QStringList(QStringLiteral("export-low 1.000"));
+    QTest::newRow("Wh and W") << withChecksum(head
+                                              + "1-0:1.8.0(0001234567*Wh)\r\n1-0:2.8.0(89*Wh)\r\n"
+                                                "1-0:1.7.0(00000*W)\r\n1-0:2.7.0(01750*W)\r\n")
+                              << five
+            + QStringList({QStringLiteral("-1750 W"), QStringLiteral("import 1234.567"),
+                           QStringLiteral("export 0.089")});
     QTest::newRow("import power alone") << withChecksum(head + "1-0:1.7.0(01.234*kW)\r\n")
                                         << five + QStringList(QStringLiteral("1234 W"));
     QTest::newRow("export power alone is no power")
@@ -240,7 +264,7 @@ void tst_P1Telegram::content_data()
                         QStringLiteral("import-low 1.000")});
     QTest::newRow("unreadable value and unknown lines of a whole telegram")
         << withChecksum(head + counter
-                        + "1-0:1.8.2(00a001.000*kWh)\r\n1-0:2.8.1(1.0*Wh)\r\n"
+                        + "1-0:1.8.2(00a001.000*kWh)\r\n1-0:2.8.1(1.0*MWh)\r\n"
                           "1-0:2.8.2()\r\nA-0:96.1.1(12)\r\nhello\r\n1-0:1.7.0(1.2\r\n"
                           "1-0:9.9.9(1)(2)(3)\r\n")
         << counterOnly;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double wattsPerKilowatt = 1000.0;
 constexpr qint64 secondsPerDay = 86400;
-constexpr int tariffCount = 2;
+constexpr std::size_t tariffCount = 2;
 
 /** The kinds of devices on the M-Bus that a household has. */
 enum class DeviceKind { Gas = 3, Heat = 4, Water = 7 };
@@ -32,6 +32,14 @@ struct Channel
     std::optional<qint64> instant;
 };
 
+/** The counters of one direction. A meter may tell their total as well, or that alone. */
+struct Counters
+{
+    std::array<std::optional<double>, tariffCount> tariffs;
+    bool hasTariffs = false; ///< told, be it that they cannot be read
+    std::optional<double> total;
+};
+
 /** What the lines say, before the tariffs and channels can be told what they mean. */
 struct Content
 {
@@ -39,8 +47,8 @@ struct Content
     bool belgian = false;
     bool hasTime = false;
     std::optional<qint64> instant;
-    std::array<std::optional<double>, tariffCount> imported;
-    std::array<std::optional<double>, tariffCount> exported;
+    Counters imported;
+    Counters exported;
     std::optional<double> importPower;
     std::optional<double> exportPower;
     /** Digits before the point of the power. */
@@ -57,14 +65,39 @@ void note(Content &content, const P1Line &line)
     }
 }
 
+/** The number of a line in @p unit, which may be told in thousandths as well: kWh, or Wh. */
 std::optional<double> amountOf(Content &content, const P1Line &line, std::string_view unit)
 {
+    constexpr double thousandth = 0.001;
     const P1Value value = parseP1Value(line.values.back());
-    if (!value.number || value.unit != unit) {
-        note(content, line);
-        return std::nullopt;
+    if (value.number && value.unit == unit) {
+        return value.number;
     }
-    return value.number;
+    if (value.number && value.unit == unit.substr(1)) {
+        return *value.number * thousandth;
+    }
+    note(content, line);
+    return std::nullopt;
+}
+
+/** Lines of electricity, "1-0:1.8.0" to "1-0:2.8.2"; false if it is none. */
+bool readCounterLine(Content &content, const P1Line &line)
+{
+    constexpr std::string_view importPrefix = "1-0:1.8.";
+    constexpr std::string_view exportPrefix = "1-0:2.8.";
+    const std::string_view prefix = line.code.substr(0, importPrefix.size());
+    const std::string_view tariff = line.code.substr(prefix.size());
+    if ((prefix != importPrefix && prefix != exportPrefix) || tariff.size() != 1) {
+        return false;
+    }
+    Counters &counters = prefix == importPrefix ? content.imported : content.exported;
+    if (tariff == "0") {
+        counters.total = amountOf(content, line, "kWh");
+    } else if (tariff == "1" || tariff == "2") {
+        counters.tariffs[tariff == "1" ? 0 : 1] = amountOf(content, line, "kWh");
+        counters.hasTariffs = true;
+    }
+    return true;
 }
 
 void readTime(Content &content, const P1Line &line)
@@ -155,7 +188,7 @@ void readLine(Content &content, const P1Line &line)
     const auto text = [&] {
         return QByteArray(line.values.front().data(), int(line.values.front().size()));
     };
-    if (readChannelLine(content, line)) {
+    if (readChannelLine(content, line) || readCounterLine(content, line)) {
         return;
     }
     if (code == "1-3:0.2.8") {
@@ -165,14 +198,6 @@ void readLine(Content &content, const P1Line &line)
         content.belgian = true;
     } else if (code == "0-0:1.0.0") {
         readTime(content, line);
-    } else if (code == "1-0:1.8.1") {
-        content.imported[0] = amountOf(content, line, "kWh");
-    } else if (code == "1-0:1.8.2") {
-        content.imported[1] = amountOf(content, line, "kWh");
-    } else if (code == "1-0:2.8.1") {
-        content.exported[0] = amountOf(content, line, "kWh");
-    } else if (code == "1-0:2.8.2") {
-        content.exported[1] = amountOf(content, line, "kWh");
     } else if (code == "1-0:1.7.0") {
         readPower(content, line, content.importPower);
     } else if (code == "1-0:2.7.0") {
@@ -241,15 +266,18 @@ std::optional<Quantity> quantityOf(const Channel &channel)
     }
 }
 
-void addElectricity(P1Telegram &telegram, Quantity quantity,
-                    const std::array<std::optional<double>, tariffCount> &values, bool belgian)
+void addElectricity(P1Telegram &telegram, Quantity quantity, const Counters &counters, bool belgian)
 {
     const std::array<Tariff, tariffCount> dutch = {Tariff::Low, Tariff::Normal};
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        if (values[i]) {
+    for (std::size_t i = 0; i < tariffCount; ++i) {
+        if (counters.tariffs[i]) {
             const Tariff tariff = belgian ? dutch[tariffCount - 1 - i] : dutch[i];
-            telegram.readings.push_back({{quantity, tariff}, *values[i], std::nullopt});
+            telegram.readings.push_back({{quantity, tariff}, *counters.tariffs[i], std::nullopt});
         }
+    }
+    // Beside tariffs the total would count everything twice.
+    if (counters.total && !counters.hasTariffs) {
+        telegram.readings.push_back({{quantity, Tariff::Single}, *counters.total, std::nullopt});
     }
 }
 
@@ -310,9 +338,10 @@ QString problemOf(const P1Telegram &telegram, const Content &content)
             return content.unreadable;
         }
     }
-    const auto isKnown = [](const std::optional<double> &value) { return value.has_value(); };
-    const bool hasCounter = std::any_of(content.imported.cbegin(), content.imported.cend(), isKnown)
-        || std::any_of(content.exported.cbegin(), content.exported.cend(), isKnown);
+    const auto isKnown = [](const Counters &counters) {
+        return counters.total || counters.tariffs[0] || counters.tariffs[1];
+    };
+    const bool hasCounter = isKnown(content.imported) || isKnown(content.exported);
     if (!hasCounter && !content.importPower && content.channels.empty()) {
         return QStringLiteral("it holds no reading that is known here");
     }

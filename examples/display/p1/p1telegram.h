@@ -90,10 +90,11 @@ QString p1VersionName(const P1Telegram &telegram);
  * that is known here.
  *
  * The tariffs are 1 = low and 2 = normal in the Netherlands, 1 = normal (day) and 2 = low (night)
- * in Belgium. Gas, water and heat are found by the kind of the device, on whatever channel it is; a
- * channel without a device, or whose device was never read, gives no reading. Where two channels
- * have devices of one kind, the lowest one counts that was read within a day before the latest: the
- * other is a meter that has been replaced.
+ * in Belgium; the total of a direction counts where no tariff of it is told. Gas, water and heat
+ * are found by the kind of the device, on whatever channel it is; a channel without a device, or
+ * whose device was never read, gives no reading. Where two channels have devices of one kind, the
+ * lowest one counts that was read within a day before the latest: the other is a meter that has
+ * been replaced.
  */
 P1Telegram parseP1Telegram(const QByteArray &bytes);
 
