@@ -27,6 +27,7 @@ public:
     double mostProduction() const override { return 4000.0; }
     QDateTime now() const override { return time; }
     bool isMetering() const override { return metering; }
+    bool isSimulated() const override { return simulated; }
 
     /** Counters that are read each hour of so many days from 7 March 2016 on. */
     void count(Readings::Quantity quantity, int days)
@@ -43,6 +44,7 @@ public:
     Readings::Household readings;
     std::optional<PowerReport> report;
     bool metering = true;
+    bool simulated = false;
     QDateTime time {QDate(2016, 3, 9), QTime(14, 5), QTimeZone("Europe/Amsterdam")};
 };
 

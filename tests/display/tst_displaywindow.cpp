@@ -62,6 +62,7 @@ private Q_SLOTS:
     void messagesAreCountedUntilSeen();
     void bellWarnsWhileTheMeterIsSilent();
     void headerTellsTimeAndPlace();
+    void simulatedHouseSaysSoOnEveryPage();
     void nothingHidesBehindAScrollBar();
     void chartsAppearWithTheirMeters();
     void energyKeepsThePeriodThatWasChosen();
@@ -224,6 +225,26 @@ void tst_DisplayWindow::headerTellsTimeAndPlace()
     display.window.openPage(QStringLiteral("overview"));
     header = display.window.currentWidget()->findChild<ZEMPageHeader *>();
     QCOMPARE(header->getSubTitle(), QStringLiteral("woensdag 9 maart 2016, 15:05"));
+}
+
+void tst_DisplayWindow::simulatedHouseSaysSoOnEveryPage()
+{
+    // The longest date of all.
+    source->time = QDateTime(QDate(2016, 9, 28), QTime(20, 48), source->readings.timeZone);
+    for (const bool simulated : {true, false}) {
+        source->simulated = simulated;
+        PlayedDisplay display(*source);
+        QVERIFY(display.show());
+        for (const QString &page : DisplayWindow::pageNames()) {
+            display.window.openPage(page);
+            const QLabel *subtitle =
+                display.onPage<ZEMPageHeader>("ZEMPageHeader")->getSubtitleWidget();
+            QCOMPARE(subtitle->text(),
+                     simulated ? QStringLiteral("simulatie, wo 28 sep. 2016, 20:48")
+                               : QStringLiteral("woensdag 28 september 2016, 20:48"));
+            ZEM_TRY_VERIFY(subtitle->width() >= subtitle->sizeHint().width());
+        }
+    }
 }
 
 void tst_DisplayWindow::nothingHidesBehindAScrollBar()

@@ -135,7 +135,12 @@ QWidget *DisplayPage::makePowerTile()
 void DisplayPage::showNow()
 {
     const QDateTime now = shownSource.now();
-    header->setSubtitle(QLocale().toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")));
+    // Beside the long names of days and months there is no room.
+    header->setSubtitle(
+        shownSource.isSimulated()
+            ? tr("simulatie, %1")
+                  .arg(QLocale().toString(now, QStringLiteral("ddd d MMM yyyy, HH:mm")))
+            : QLocale().toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")));
     minuteTimer.start((secondsPerMinute - now.time().second()) * millisecondsPerSecond);
 }
 

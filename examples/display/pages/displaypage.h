@@ -17,8 +17,8 @@ class ZEMTextLabel;
 
 /**
  * The base of all pages of the display: the dark ground, and a header with the menu, a way back,
- * the title and place of the page, date and time, the power of the grid and the messages. A page is
- * 640 by 480 pixels, of which the header takes 74.
+ * the title and place of the page, date and time (and that it is a simulation), the power of the
+ * grid and the messages. A page is 640 by 480 pixels, of which the header takes 74.
  */
 class DisplayPage : public ZEMPageBackground
 {

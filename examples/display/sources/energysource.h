@@ -63,6 +63,8 @@ public:
     virtual std::optional<PowerReport> power() const = 0;
     /** The production at which the panels give all they can, in watts; 0 without panels. */
     virtual double mostProduction() const = 0;
+    /** Whether nobody lives in the house, which every page then says. */
+    virtual bool isSimulated() const { return false; }
     /** Whether the meter is heard. */
     virtual bool isMetering() const { return true; }
 

@@ -28,6 +28,7 @@ public:
     const Readings::Household &household() const override { return readings; }
     std::optional<PowerReport> power() const override;
     double mostProduction() const override;
+    bool isSimulated() const override { return true; }
     PowerDay powerDay(const QDate &date) const override;
 
 private:
