@@ -29,6 +29,7 @@ private Q_SLOTS:
     void sameFileTwiceIsSilent();
     void contradictionsAreToldWithTheLaterFile();
     void otherWaysOfCountingAreLeftOut();
+    void amountsOfOneFileMeetReadingsOfAnother();
     void firstFileGivesTheTimeZone();
     void ownFormatHasNoTimeZoneOfItsOwn();
     void nothingGivesAnEmptyHousehold();
@@ -105,24 +106,42 @@ void tst_Household::otherWaysOfCountingAreLeftOut()
                                          "time,gas_m3,electricity_import_kwh\n"
                                          "2023-01-01T00:00Z,10,1\n"
                                          "2023-01-01T01:00Z,11,2\n");
-    const QString amounts = folder.write(
-        QStringLiteral("amounts.csv"), portalGasHeader + "01-01-2023 01:00:00 +0100;0,50;14,00\n");
     const QString tariffs = folder.write(QStringLiteral("tariffs.csv"),
                                          "time,electricity_import_low_kwh\n"
                                          "2023-01-01T00:00Z,10\n"
                                          "2023-01-01T01:00Z,11\n");
-    const Household household = loadReadings({counter, amounts, tariffs});
+    const Household household = loadReadings({counter, tariffs});
     QCOMPARE(household.total(Quantity::Gas), 1.0);
     QCOMPARE(household.total(Quantity::GridImport), 1.0);
     QCOMPARE(household.problems.filter(QStringLiteral(":1: ")),
-             (QStringList {amounts
-                               + QStringLiteral(":1: left out: levering; gas is known already from "
-                                                "counter readings"),
-                           tariffs
-                               + QStringLiteral(":1: left out: electricity_import_low_kwh; "
-                                                "electricity import is known already from counter "
-                                                "readings")}));
+             QStringList(tariffs
+                         + QStringLiteral(":1: left out: electricity_import_low_kwh; electricity "
+                                          "import is known already by one register")));
     QCOMPARE(household.metersOf(Quantity::GridImport).size(), std::size_t(1));
+}
+
+void tst_Household::amountsOfOneFileMeetReadingsOfAnother()
+{
+    const QString amounts = folder.write(QStringLiteral("portal.csv"),
+                                         portalGasHeader
+                                             + "01-01-2023 01:00:00 +0100;0,50;14,00\n"
+                                               "01-01-2023 02:00:00 +0100;0,75;14,00\n"
+                                               "01-01-2023 03:00:00 +0100;9,00;14,00\n");
+    const QString counter = folder.write(QStringLiteral("counter.csv"),
+                                         "time,gas_m3\n"
+                                         "2023-01-01T01:00Z,10\n"
+                                         "2023-01-01T02:00Z,11\n"
+                                         "2023-01-01T03:00Z,13\n");
+    for (const QStringList &files : {QStringList {amounts, counter}, {counter, amounts}}) {
+        const Household household = loadReadings(files);
+        QCOMPARE(household.problems.filter(QStringLiteral("left out")), QStringList());
+        // From the first row to the last reading; the hour that both tell is counted once.
+        QCOMPARE(household.total(Quantity::Gas), 4.25);
+        const qint64 first = utc("2022-12-31T23:00:00");
+        QCOMPARE(household.amount(Quantity::Gas, {first, first + 4 * Hour}), Amount(4.25));
+        QCOMPARE(household.amount(Quantity::Gas, {first + 2 * Hour, first + 3 * Hour}),
+                 Amount(1.0));
+    }
 }
 
 void tst_Household::firstFileGivesTheTimeZone()

@@ -380,7 +380,7 @@ void tst_Meter::nonsenseIsRefused()
     QVERIFY(!readings.addReading(Hour, -0.1));
     QVERIFY(!readings.addReading(Hour, nan));
     QVERIFY(!readings.addReading(Hour, infinity));
-    QVERIFY(!readings.addAmount({0, Hour}, 1.0));
+    QVERIFY(!readings.addAmount({0, Hour}, nan));
     QCOMPARE(readings.lastInstant(), std::optional<qint64>(0));
 
     Meter rows = amounts();

@@ -195,6 +195,7 @@ private Q_SLOTS:
     void everyShortHistoryIsJudgedByTheRules();
     void randomCountersMatchTheTruth();
     void randomAmountsMatchAPlainSum();
+    void readingsAndAmountsTogetherKnowWhatAPathTells();
 };
 
 void tst_MeterHistories::everyShortHistoryIsJudgedByTheRules()
@@ -306,6 +307,117 @@ void tst_MeterHistories::randomAmountsMatchAPlainSum()
             QCOMPARE(meter.total(from * Hour, to * Hour), sum);
         }
     }
+}
+
+/// What is known in steps of an hour, as ways from instant to instant.
+struct Ways
+{
+    std::vector<std::vector<int>> from; ///< the ends of what begins at an instant
+
+    explicit Ways(int count) : from(std::size_t(count)) { }
+    void add(int start, int end) { from[std::size_t(start)].push_back(end); }
+    bool lead(int start, int end) const
+    {
+        std::vector<bool> reached(from.size(), false);
+        reached[std::size_t(start)] = true;
+        for (int at = start; at < end; ++at) {
+            for (const int next :
+                 reached[std::size_t(at)] ? from[std::size_t(at)] : std::vector<int>()) {
+                reached[std::size_t(next)] = true;
+            }
+        }
+        return reached[std::size_t(end)];
+    }
+};
+
+/// A meter that was read at some hours and told amounts of others, and the ways that lead through
+/// it.
+class MixedMeter
+{
+public:
+    static constexpr int count = 60;
+
+    MixedMeter(std::mt19937 &theRandom, int readOfHundred)
+        : meter(counter()), all(count), readings(count), random(theRandom)
+    {
+        truth[0] = 0.0;
+        for (int hour = 1; hour < count; ++hour) {
+            truth[hour] = truth[hour - 1] + below(64) / 16.0;
+        }
+        read(readOfHundred);
+        tell();
+    }
+
+    Meter meter;
+    Ways all;
+    Ways readings;
+    double truth[count];
+
+private:
+    int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
+
+    void read(int readOfHundred)
+    {
+        double offset = 100.0;
+        int last = -1;
+        int isNew = 0; // readings to come of another meter, of which two in a row are needed
+        for (int hour = 0; hour < count; ++hour) {
+            if (hour > 0 && hour + 4 < count && isNew == 0 && below(25) == 0) {
+                offset += 100000.0;
+                last = -1;
+                isNew = 2;
+            }
+            if (isNew == 0 && below(100) >= readOfHundred) {
+                continue;
+            }
+            isNew = std::max(isNew - 1, 0);
+            meter.addReading(hour * Hour, offset + truth[hour]);
+            if (last >= 0) {
+                all.add(last, hour);
+                readings.add(last, hour);
+            }
+            last = hour;
+        }
+    }
+
+    void tell()
+    {
+        for (int hour = 0; hour < count;) {
+            const int length = 1 + below(3);
+            if (hour + length < count && below(10) < 8) {
+                meter.addAmount({hour * Hour, (hour + length) * Hour},
+                                truth[hour + length] - truth[hour]);
+                all.add(hour, hour + length);
+            }
+            hour += length;
+        }
+    }
+
+    std::mt19937 &random;
+};
+
+void tst_MeterHistories::readingsAndAmountsTogetherKnowWhatAPathTells()
+{
+    std::mt19937 random(20240);
+    int known = 0;
+    int seams = 0;
+    for (int round = 0; round < 60; ++round) {
+        const MixedMeter mixed(random, 40 + 50 * (round % 2));
+        for (int from = 0; from < MixedMeter::count; ++from) {
+            for (int to = from + 1; to < MixedMeter::count; ++to) {
+                const std::optional<double> answer = mixed.meter.amount(from * Hour, to * Hour);
+                QCOMPARE(answer.has_value(), mixed.all.lead(from, to));
+                if (answer) {
+                    QCOMPARE(*answer, mixed.truth[to] - mixed.truth[from]);
+                    QCOMPARE(mixed.meter.total(from * Hour, to * Hour), *answer);
+                    ++known;
+                    seams += mixed.readings.lead(from, to) ? 0 : 1;
+                }
+            }
+        }
+    }
+    QVERIFY(known > 30000);
+    QVERIFY(seams > 5000);
 }
 
 QTEST_APPLESS_MAIN(tst_MeterHistories)

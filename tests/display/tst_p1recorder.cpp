@@ -78,7 +78,7 @@ private Q_SLOTS:
     void gasThatIsMissingLeavesAGap();
     void channelsMayBeSlow_data();
     void channelsMayBeSlow();
-    void meterOfAnotherKindIsLeftAlone();
+    void readingsFollowAmounts();
     void yearOfSecondsStaysSmall();
     void randomSecondsAgreeWithTheModel();
     void realStream();
@@ -324,14 +324,18 @@ void tst_P1Recorder::channelsMayBeSlow()
     QCOMPARE(reading(household, gasRegister, ten), atTen);
 }
 
-void tst_P1Recorder::meterOfAnotherKindIsLeftAlone()
+void tst_P1Recorder::readingsFollowAmounts()
 {
     Household household;
     household.meter(importLow, Meter::Kind::Amounts).addAmount({ten - hour, ten}, 0.5);
     P1Recorder recorder(&household);
     recorder.add(electricity(ten, 1.0), never);
     recorder.add(electricity(ten + hour, 2.0), never);
-    QCOMPARE(household.total(Quantity::GridImport), 0.5);
+    recorder.add(electricity(ten + hour + minute, 2.25), never);
+    recorder.enterNewest();
+    const Meter &meter = household.meters.at(importLow);
+    QCOMPARE(meter.total(), 1.75);
+    QCOMPARE(meter.amount(ten - hour, ten + hour + minute), std::optional<double>(1.75));
 }
 
 void tst_P1Recorder::yearOfSecondsStaysSmall()

@@ -94,6 +94,46 @@ std::optional<Interval> AmountHistory::lastStepUntil(qint64 instant) const
     return std::prev(after)->data.interval;
 }
 
+std::optional<qint64> AmountHistory::knownUntil(const Interval &interval) const
+{
+    settle();
+    const RowIterator first = startingNotBefore(interval.from);
+    RowIterator after = endingAfter(interval.to);
+    if (first >= after || first->data.interval.from != interval.from) {
+        return std::nullopt;
+    }
+    after = std::upper_bound(first, after, first->run,
+                             [](int run, const Row &row) { return run < row.run; });
+    return std::prev(after)->data.interval.to;
+}
+
+std::optional<qint64> AmountHistory::lastStart(qint64 instant) const
+{
+    settle();
+    const RowIterator next = startingNotBefore(instant + 1);
+    return next == rows.cbegin() ? std::nullopt
+                                 : std::optional<qint64>(std::prev(next)->data.interval.from);
+}
+
+std::optional<qint64> AmountHistory::lastEnd(qint64 instant) const
+{
+    const std::optional<Interval> step = lastStepUntil(instant);
+    return step ? std::optional<qint64>(step->to) : std::nullopt;
+}
+
+std::optional<qint64> AmountHistory::firstEnd(qint64 instant) const
+{
+    settle();
+    const RowIterator found = endingAfter(instant - 1);
+    return found == rows.cend() ? std::nullopt : std::optional<qint64>(found->data.interval.to);
+}
+
+bool AmountHistory::knowsPartOf(const Interval &interval) const
+{
+    settle();
+    return startingNotBefore(interval.from) < endingAfter(interval.to);
+}
+
 std::vector<Fault> AmountHistory::faults() const
 {
     settle();

@@ -42,6 +42,17 @@ public:
     std::optional<qint64> firstInstant() const;
     std::optional<qint64> lastInstant() const;
     std::optional<Interval> lastStepUntil(qint64 instant) const;
+    bool isEmpty() const { return rows.empty() && late.empty(); }
+
+    /** The last instant in the interval up to which all from its start on is known. */
+    std::optional<qint64> knownUntil(const Interval &interval) const;
+    /** The last instant until the given one at which a row begins, or ends. */
+    std::optional<qint64> lastStart(qint64 instant) const;
+    std::optional<qint64> lastEnd(qint64 instant) const;
+    /** The first instant not before the given one at which a row ends. */
+    std::optional<qint64> firstEnd(qint64 instant) const;
+    /** Whether a row lies in the interval whole. */
+    bool knowsPartOf(const Interval &interval) const;
     std::vector<Fault> faults() const;
 
 private:

@@ -104,6 +104,67 @@ std::optional<Interval> CounterHistory::lastStepUntil(qint64 instant) const
     return Interval {(end - 1)->instant, end->instant};
 }
 
+std::optional<qint64> CounterHistory::knownUntil(const Interval &interval) const
+{
+    settle();
+    const KeptReading start = find(interval.from);
+    if (interval.isEmpty() || start == filter.kept().cend()) {
+        return std::nullopt;
+    }
+    const KeptReading last = after(interval.to) - 1;
+    const std::size_t segment = filter.segmentOf(indexOf(start));
+    if (filter.segmentOf(indexOf(last)) == segment) {
+        return last->instant;
+    }
+    return filter.kept()[filter.endOf(segment) - 1].instant;
+}
+
+std::optional<qint64> CounterHistory::lastStart(qint64 instant) const
+{
+    settle();
+    const KeptReading next = after(instant);
+    return next == filter.kept().cbegin() ? std::nullopt
+                                          : std::optional<qint64>((next - 1)->instant);
+}
+
+qint64 CounterHistory::knownSince(qint64 instant) const
+{
+    settle();
+    const KeptReading end = find(instant);
+    return end == filter.kept().cend()
+        ? instant
+        : filter.kept()[filter.beginOf(filter.segmentOf(indexOf(end)))].instant;
+}
+
+std::optional<qint64> CounterHistory::firstStart(qint64 instant) const
+{
+    settle();
+    const KeptReading found = notBefore(instant);
+    return found == filter.kept().cend() ? std::nullopt : std::optional<qint64>(found->instant);
+}
+
+Interval CounterHistory::readIn(const Interval &interval) const
+{
+    settle();
+    const KeptReading first = notBefore(interval.from);
+    const KeptReading end = after(interval.to);
+    return first < end ? Interval {first->instant, (end - 1)->instant} : Interval();
+}
+
+bool CounterHistory::knowsPartOf(const Interval &interval) const
+{
+    settle();
+    const KeptReading first = notBefore(interval.from);
+    const KeptReading end = after(interval.to);
+    if (end - first < 2) {
+        return false;
+    }
+    // More readings than segments: two of them belong together.
+    const std::size_t segments =
+        filter.segmentOf(indexOf(end - 1)) - filter.segmentOf(indexOf(first)) + 1;
+    return std::size_t(end - first) > segments;
+}
+
 std::vector<Fault> CounterHistory::faults() const
 {
     settle();
@@ -154,6 +215,13 @@ CounterHistory::KeptReading CounterHistory::notBefore(qint64 instant) const
     return std::lower_bound(
         filter.kept().cbegin(), filter.kept().cend(), instant,
         [](const Reading &kept, qint64 wanted) { return kept.instant < wanted; });
+}
+
+CounterHistory::KeptReading CounterHistory::after(qint64 instant) const
+{
+    return std::upper_bound(
+        filter.kept().cbegin(), filter.kept().cend(), instant,
+        [](qint64 wanted, const Reading &kept) { return wanted < kept.instant; });
 }
 
 std::size_t CounterHistory::indexOf(KeptReading kept) const

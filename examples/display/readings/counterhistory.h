@@ -36,6 +36,20 @@ public:
     std::optional<qint64> firstInstant() const;
     std::optional<qint64> lastInstant() const;
     std::optional<Interval> lastStepUntil(qint64 instant) const;
+
+    /** The last instant in the interval up to which all from its start on is known. */
+    std::optional<qint64> knownUntil(const Interval &interval) const;
+    /** The last instant until the given one from which, or up to which, something may be known. */
+    std::optional<qint64> lastStart(qint64 instant) const;
+    std::optional<qint64> lastEnd(qint64 instant) const { return lastStart(instant); }
+    /** The first instant from which on all is known until a reading at the given one. */
+    qint64 knownSince(qint64 instant) const;
+    /** The instant of the first reading that is not before the given one. */
+    std::optional<qint64> firstStart(qint64 instant) const;
+    /** From the first to the last reading in the interval; empty if there are not two. */
+    Interval readIn(const Interval &interval) const;
+    /** Whether there are two readings in the interval without a break between them. */
+    bool knowsPartOf(const Interval &interval) const;
     std::vector<Fault> faults() const;
 
 private:
@@ -43,6 +57,7 @@ private:
 
     void settle() const;
     KeptReading notBefore(qint64 instant) const;
+    KeptReading after(qint64 instant) const;
     KeptReading find(qint64 instant) const;
     std::size_t indexOf(KeptReading kept) const;
 

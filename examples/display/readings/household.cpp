@@ -34,7 +34,11 @@ std::optional<double> sumOfAmounts(const std::vector<const Meter *> &meters,
 Meter &Household::meter(const Register &meterRegister, Meter::Kind kind)
 {
     const double most = quantityInfo(meterRegister.quantity).mostPerHour;
-    return meters.try_emplace(meterRegister, kind, most).first->second;
+    Meter &found = meters.try_emplace(meterRegister, kind, most).first->second;
+    if (kind == Meter::Kind::Counter) {
+        found.takeReadings();
+    }
+    return found;
 }
 
 std::vector<const Meter *> Household::metersOf(Quantity quantity) const

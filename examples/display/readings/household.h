@@ -49,8 +49,8 @@ public:
     QStringList problems;
 
     /**
-     * The meter of a register, made if there is none yet. One that is there keeps its kind: ask
-     * it.
+     * The meter of a register, made if there is none yet. It takes readings if @p kind is Counter,
+     * or was when it was made.
      */
     Meter &meter(const Register &meterRegister, Meter::Kind kind);
 

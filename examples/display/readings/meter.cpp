@@ -3,6 +3,7 @@
 
 #include "meter.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Readings {
@@ -14,26 +15,93 @@ bool isQuantity(double value)
     return std::isfinite(value) && value >= 0.0;
 }
 
-std::variant<CounterHistory, AmountHistory> newHistory(Meter::Kind kind, double mostPerHour)
+/**
+ * The last instant after @p start and until @p end up to which @p first knows, and from which on
+ * @p second does.
+ */
+template <class First, class Second>
+std::optional<qint64> lastSeam(const First &first, const Second &second, qint64 start, qint64 end)
 {
-    if (kind == Meter::Kind::Counter) {
-        return CounterHistory(mostPerHour);
+    std::optional<qint64> seam = end;
+    while (seam && *seam > start) {
+        const std::optional<qint64> begins = second.lastStart(*seam);
+        seam = begins ? first.lastEnd(*begins) : std::nullopt;
+        if (seam && seam == begins && *seam > start) {
+            return seam;
+        }
     }
-    return AmountHistory(mostPerHour);
+    return std::nullopt;
+}
+
+std::optional<qint64> bestSeam(const CounterHistory &first, const AmountHistory &second,
+                               const Interval &interval)
+{
+    return lastSeam(first, second, interval.from, interval.to);
+}
+
+// What the counter knows there begins where it can, since readings hold over amounts.
+std::optional<qint64> bestSeam(const AmountHistory &first, const CounterHistory &second,
+                               const Interval &interval)
+{
+    const std::optional<qint64> last = lastSeam(first, second, interval.from, interval.to);
+    if (!last) {
+        return std::nullopt;
+    }
+    qint64 seam = std::max(second.knownSince(*last), interval.from + 1);
+    while (seam < *last) {
+        const qint64 ends = *first.firstEnd(seam);
+        seam = *second.firstStart(ends);
+        if (seam == ends) {
+            break;
+        }
+    }
+    return seam;
+}
+
+/**
+ * The amount of an interval of which two histories know a part each, the first one its beginning.
+ * What the other one knows at the last of their seams reaches as far as any.
+ */
+template <class First, class Second>
+std::optional<double> amountInTurns(const First &first, const Second &second,
+                                    const Interval &interval)
+{
+    const std::optional<qint64> until = first.knownUntil(interval);
+    if (!until || *until == interval.to) {
+        return until ? first.amount(interval) : std::nullopt;
+    }
+    const std::optional<qint64> seam = bestSeam(first, second, {interval.from, *until});
+    if (!seam) {
+        return std::nullopt;
+    }
+    const std::optional<double> rest = amountInTurns(second, first, {*seam, interval.to});
+    return rest ? std::optional<double>(*first.amount({interval.from, *seam}) + *rest)
+                : std::nullopt;
 }
 
 } // namespace
 
-Meter::Meter(Kind kind, double mostPerHour) : history(newHistory(kind, mostPerHour)) { }
+Meter::Meter(Kind kind, double most) : mostPerHour(most), amounts(most)
+{
+    if (kind == Kind::Counter) {
+        takeReadings();
+    }
+}
 
 Meter::Kind Meter::kind() const
 {
-    return std::holds_alternative<CounterHistory>(history) ? Kind::Counter : Kind::Amounts;
+    return counter ? Kind::Counter : Kind::Amounts;
+}
+
+void Meter::takeReadings()
+{
+    if (!counter) {
+        counter.emplace(mostPerHour);
+    }
 }
 
 bool Meter::addReading(qint64 instant, double value, qint64 tag)
 {
-    auto *counter = std::get_if<CounterHistory>(&history);
     if (!counter || !isQuantity(value)) {
         return false;
     }
@@ -43,24 +111,33 @@ bool Meter::addReading(qint64 instant, double value, qint64 tag)
 
 bool Meter::addAmount(const Interval &interval, double amount, qint64 tag)
 {
-    auto *amounts = std::get_if<AmountHistory>(&history);
-    if (!amounts || interval.isEmpty() || !isQuantity(amount)) {
+    if (interval.isEmpty() || !isQuantity(amount)) {
         return false;
     }
-    amounts->add({interval, amount, tag});
+    amounts.add({interval, amount, tag});
     return true;
 }
 
 void Meter::thin(qint64 before, qint64 step)
 {
-    if (auto *counter = std::get_if<CounterHistory>(&history)) {
+    if (counter) {
         counter->thin(before, step);
     }
 }
 
 std::optional<double> Meter::amount(const Interval &interval) const
 {
-    return std::visit([&](const auto &known) { return known.amount(interval); }, history);
+    if (!counter) {
+        return amounts.amount(interval);
+    }
+    std::optional<double> known = counter->amount(interval);
+    if (!known && !amounts.isEmpty()) {
+        known = amountInTurns(*counter, amounts, interval);
+        if (!known) {
+            known = amountInTurns(amounts, *counter, interval);
+        }
+    }
+    return known;
 }
 
 std::optional<double> Meter::amount(qint64 from, qint64 to) const
@@ -70,7 +147,21 @@ std::optional<double> Meter::amount(qint64 from, qint64 to) const
 
 double Meter::total(const Interval &interval) const
 {
-    return std::visit([&](const auto &known) { return known.total(interval); }, history);
+    if (!counter) {
+        return amounts.total(interval);
+    }
+    if (amounts.isEmpty()) {
+        return counter->total(interval);
+    }
+    if (const std::optional<double> known = amount(interval)) {
+        return *known;
+    }
+    const Interval read = counter->readIn(interval);
+    if (read.isEmpty()) {
+        return amounts.total(interval);
+    }
+    return amounts.total({interval.from, read.from}) + counter->total(read)
+        + amounts.total({read.to, interval.to});
 }
 
 double Meter::total(qint64 from, qint64 to) const
@@ -86,28 +177,42 @@ double Meter::total() const
 
 std::optional<double> Meter::readingAt(qint64 instant) const
 {
-    const auto *counter = std::get_if<CounterHistory>(&history);
     return counter ? counter->readingAt(instant) : std::nullopt;
 }
 
 std::optional<qint64> Meter::firstInstant() const
 {
-    return std::visit([](const auto &known) { return known.firstInstant(); }, history);
+    const std::optional<qint64> read = counter ? counter->firstInstant() : std::nullopt;
+    const std::optional<qint64> told = amounts.firstInstant();
+    return read && told ? std::min(read, told) : std::max(read, told);
 }
 
 std::optional<qint64> Meter::lastInstant() const
 {
-    return std::visit([](const auto &known) { return known.lastInstant(); }, history);
+    return std::max(counter ? counter->lastInstant() : std::nullopt, amounts.lastInstant());
 }
 
 std::optional<Interval> Meter::lastStepUntil(qint64 instant) const
 {
-    return std::visit([&](const auto &known) { return known.lastStepUntil(instant); }, history);
+    const std::optional<Interval> read = counter ? counter->lastStepUntil(instant) : std::nullopt;
+    const std::optional<Interval> told = amounts.lastStepUntil(instant);
+    if (!read || !told) {
+        return read ? read : told;
+    }
+    if (read->to != told->to) {
+        return read->to > told->to ? read : told;
+    }
+    return read->from >= told->from ? read : told;
 }
 
 std::vector<Fault> Meter::faults() const
 {
-    return std::visit([](const auto &known) { return known.faults(); }, history);
+    std::vector<Fault> all = amounts.faults();
+    if (counter) {
+        const std::vector<Fault> ofCounter = counter->faults();
+        all.insert(all.end(), ofCounter.cbegin(), ofCounter.cend());
+    }
+    return all;
 }
 
 } // namespace Readings

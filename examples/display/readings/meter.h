@@ -10,7 +10,6 @@
 #include "interval.h"
 
 #include <optional>
-#include <variant>
 #include <vector>
 
 namespace Readings {
@@ -19,9 +18,12 @@ namespace Readings {
  * The history of one register of a household meter, and the answer to "how much was used from then
  * to then".
  *
- * A meter is fed either with readings of its counter (`Kind::Counter`) or with the amounts of
- * intervals (`Kind::Amounts`), from files, from a smart meter's telegrams or from a simulation.
- * Instants are seconds since 1970-01-01 UTC; amounts and readings are in the unit of the quantity.
+ * A meter is fed with readings of its counter (`Kind::Counter`) or with the amounts of intervals,
+ * from files, from a smart meter's telegrams or from a simulation. A counter may be fed with
+ * amounts as well, of a time in which nobody read it: they fill what its readings do not know, and
+ * the two may meet anywhere at an instant of which both tell. Where both know the same, the
+ * readings hold. Instants are seconds since 1970-01-01 UTC; amounts and readings are in the unit of
+ * the quantity.
  *
  *     Meter meter(Meter::Kind::Counter, quantityInfo(Quantity::Gas).mostPerHour);
  *     meter.addReading(nine, 4012.10);
@@ -48,11 +50,14 @@ public:
      */
     Meter(Kind kind, double mostPerHour);
 
+    /** Counter if the meter takes readings; it always takes amounts. */
     Kind kind() const;
+    /** From now on the meter takes readings, and is of the kind Counter. */
+    void takeReadings();
 
     /**
      * Adds a reading of the counter. `tag` is any number of the caller's that comes back in
-     * faults(). Returns false and changes nothing if the meter is not a counter, or if the value
+     * faults(). Returns false and changes nothing if the meter takes no readings, or if the value
      * is negative or not finite.
      *
      * A second reading for the same instant is ignored, and is a fault if it differs. Readings
@@ -61,8 +66,8 @@ public:
     bool addReading(qint64 instant, double value, qint64 tag = 0);
 
     /**
-     * Adds what was used in an interval. Returns false and changes nothing if the meter is a
-     * counter, if the interval is empty, or if the amount is negative or not finite.
+     * Adds what was used in an interval. Returns false and changes nothing if the interval is
+     * empty, or if the amount is negative or not finite.
      *
      * An interval that is known already, or overlaps one, is ignored, and is a fault unless it
      * says the same. So is an amount above what can be used in the time.
@@ -79,7 +84,7 @@ public:
     /**
      * What was used in the interval. Of a counter: the difference of the readings at its two
      * borders. Of amounts: the sum of the rows, which must cover it without a gap and end at its
-     * borders.
+     * borders. Of both: parts of it in turns.
      *
      * Empty if the interval is empty, if a border has no reading, if there is a break in between,
      * or if a part is not covered. A gap of a counter in the midst of the interval does no harm:
@@ -118,7 +123,9 @@ public:
     std::vector<Fault> faults() const;
 
 private:
-    std::variant<CounterHistory, AmountHistory> history;
+    double mostPerHour;
+    std::optional<CounterHistory> counter;
+    AmountHistory amounts;
 };
 
 } // namespace Readings

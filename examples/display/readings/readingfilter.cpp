@@ -61,6 +61,11 @@ std::size_t ReadingFilter::segmentOf(std::size_t index) const
     return std::size_t(next - segments.cbegin()) - 1;
 }
 
+std::size_t ReadingFilter::endOf(std::size_t segment) const
+{
+    return segment + 1 < segments.size() ? segments[segment + 1].begin : keptReadings.size();
+}
+
 double ReadingFilter::counted(std::size_t index) const
 {
     return keptReadings[index].value + segments[segmentOf(index)].offset;

@@ -57,6 +57,9 @@ public:
     const std::vector<Reading> &kept() const { return keptReadings; }
     /** The segment of kept()[index]; between two segments there is a break. */
     std::size_t segmentOf(std::size_t index) const;
+    /** The index of the first reading of a segment, and the one behind its last. */
+    std::size_t beginOf(std::size_t segment) const { return segments[segment].begin; }
+    std::size_t endOf(std::size_t segment) const;
     /** The wrong readings, in no order. */
     const std::vector<Reading> &discarded() const { return discardedReadings; }
     /** The newest reading, while it is not decided whether it is right. */

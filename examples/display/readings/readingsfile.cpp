@@ -321,17 +321,13 @@ QString FileLoader::obstacleFor(const Column &column) const
         const Register &known = entry.first;
         const bool sameTariffs =
             (known.tariff == Tariff::Single) == (wanted.tariff == Tariff::Single);
-        const bool sameKind = entry.second.kind() == kindOf(column);
-        if (known.quantity != wanted.quantity || (sameTariffs && sameKind)) {
+        if (known.quantity != wanted.quantity || sameTariffs) {
             continue;
         }
-        const bool isCounter = entry.second.kind() == Meter::Kind::Counter;
-        const QString how =
-            isCounter ? QStringLiteral("counter readings") : QStringLiteral("amounts");
-        const QString tariffs =
-            known.tariff == Tariff::Single ? QString() : QStringLiteral(" by tariff");
-        return QStringLiteral("%1 is known already from %2%3")
-            .arg(quantityInfo(wanted.quantity).name, how, tariffs);
+        return QStringLiteral("%1 is known already %2")
+            .arg(quantityInfo(wanted.quantity).name,
+                 known.tariff == Tariff::Single ? QStringLiteral("by one register")
+                                                : QStringLiteral("by tariff"));
     }
     return {};
 }

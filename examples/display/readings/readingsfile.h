@@ -21,9 +21,10 @@ namespace Readings {
  * in autumn the first row of a file is summer time and the second winter time; a single one is
  * winter time, unless it stands before a row that shows that the clock was yet to be put back.
  *
- * Several files of a register are merged; where they contradict each other the first one holds. A
- * register that another file tells in another way (amounts instead of a counter, or one counter
- * instead of two tariffs) is left out. The time zone is that of the first file that can be read.
+ * Several files of a register are merged; where they contradict each other the first one holds, and
+ * readings of a counter hold over amounts. A quantity that another file tells by other registers
+ * (one instead of two tariffs) is left out. The time zone is that of the first file that can be
+ * read.
  */
 Household loadReadings(const QStringList &files);
 
