@@ -32,6 +32,8 @@ private Q_SLOTS:
     void amountsOfOneFileMeetReadingsOfAnother();
     void firstFileGivesTheTimeZone();
     void ownFormatHasNoTimeZoneOfItsOwn();
+    void ownFormatTellsAmountsAndTheirLength();
+    void ownFormatTellsTheTimeZone();
     void nothingGivesAnEmptyHousehold();
     void measuredPowerIsThatOfTheLastRow();
     void meanPowerIsThatOfTheLastCompleteInterval();
@@ -268,6 +270,43 @@ void tst_Household::problemsAreInTheOrderOfFilesAndLines()
     QVERIFY(problems.at(0).startsWith(second + QStringLiteral(":1: ")));
     QVERIFY(problems.at(1).startsWith(first + QStringLiteral(":3: ")));
     QVERIFY(problems.at(2).startsWith(first + QStringLiteral(":5: ")));
+}
+
+void tst_Household::ownFormatTellsAmountsAndTheirLength()
+{
+    const Household household = folder.load("time,gas_m3_counted,water_m3,interval_s\n"
+                                            "2024-05-01T01:00Z,1.5,20,\n"
+                                            "2024-05-01T01:15Z,0.25,21,900\n"
+                                            "2024-05-01T02:00Z,0.5,,2700\n"
+                                            "2024-05-01T03:00Z,1,,0\n"
+                                            "2024-05-01T03:00Z,1,,1.5\n"
+                                            "2024-05-01T03:00Z,1,,soon\n");
+    QCOMPARE(
+        household.problems,
+        (QStringList {QStringLiteral("FILE:5: bad length \"0\" of an interval; row left out"),
+                      QStringLiteral("FILE:6: bad length \"1.5\" of an interval; row left out"),
+                      QStringLiteral("FILE:7: bad length \"soon\" of an interval; row left out")}));
+    const qint64 midnight = utc("2024-05-01T00:00:00");
+    const Meter &meter = household.meters.at({Quantity::Gas});
+    QCOMPARE(meter.amount(midnight, midnight + Hour), Amount(1.5));
+    QCOMPARE(meter.amount(midnight + Hour, midnight + 2 * Hour), Amount(0.75));
+    QCOMPARE(meter.total(), 2.25);
+    QCOMPARE(household.amount(Quantity::Water, {midnight + Hour, midnight + Hour + 15 * Minute}),
+             Amount(1.0));
+}
+
+void tst_Household::ownFormatTellsTheTimeZone()
+{
+    const Household household = folder.load("time,gas_m3,time_zone\n"
+                                            "2024-05-01T00:00Z,1,Mars/Olympus\n"
+                                            "2024-05-01T01:00Z,2,\n"
+                                            "2024-05-01T02:00Z,3,Asia/Kolkata\n"
+                                            "2024-05-01T03:00Z,4,Europe/Berlin\n");
+    QCOMPARE(
+        household.problems,
+        QStringList(QStringLiteral("FILE:2: unknown time zone \"Mars/Olympus\"; row left out")));
+    QCOMPARE(household.timeZone.id(), QByteArray("Asia/Kolkata"));
+    QCOMPARE(household.total(Quantity::Gas), 2.0);
 }
 
 QTEST_GUILESS_MAIN(tst_Household)

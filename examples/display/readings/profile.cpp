@@ -50,7 +50,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::IsoWithOffset,
          "",
          Stamp::IntervalEnd,
-         0,
+         Hour,
          {{"electricity_import_kwh", Role::Counter, importSingle},
           {"electricity_import_low_kwh", Role::Counter, importLow},
           {"electricity_import_normal_kwh", Role::Counter, importNormal},
@@ -62,7 +62,21 @@ std::vector<Profile> makeProfiles()
           {"water_m3", Role::Counter, water},
           {"heating_gj", Role::Counter, heating},
           {"heat_pump_kwh", Role::Counter, heatPump},
-          {"car_kwh", Role::Counter, electricCar}}},
+          {"car_kwh", Role::Counter, electricCar},
+          {"electricity_import_kwh_counted", Role::Amount, importSingle},
+          {"electricity_import_low_kwh_counted", Role::Amount, importLow},
+          {"electricity_import_normal_kwh_counted", Role::Amount, importNormal},
+          {"electricity_export_kwh_counted", Role::Amount, exportSingle},
+          {"electricity_export_low_kwh_counted", Role::Amount, exportLow},
+          {"electricity_export_normal_kwh_counted", Role::Amount, exportNormal},
+          {"solar_kwh_counted", Role::Amount, solar},
+          {"gas_m3_counted", Role::Amount, gas},
+          {"water_m3_counted", Role::Amount, water},
+          {"heating_gj_counted", Role::Amount, heating},
+          {"heat_pump_kwh_counted", Role::Amount, heatPump},
+          {"car_kwh_counted", Role::Amount, electricCar}},
+         "interval_s",
+         "time_zone"},
 
         {QStringLiteral("German house with solar panels, hourly"),
          Recognition::WholeHeader,
@@ -188,7 +202,8 @@ QString problemOf(const Profile &profile, const Fields &fields)
             .arg(QString::fromUtf8(profile.timeColumn));
     }
     for (auto field = fields.cbegin() + 1; field != fields.cend(); ++field) {
-        if (!columnNamed(profile, *field)) {
+        if (!columnNamed(profile, *field) && *field != viewOf(profile.lengthColumn)
+            && *field != viewOf(profile.zoneColumn)) {
             return QStringLiteral("unknown column %1").arg(quoted(*field));
         }
         if (std::find(fields.cbegin(), field, *field) != field) {
@@ -206,6 +221,10 @@ HeaderMatch matchProfile(const Profile &profile, const Fields &fields)
     for (std::size_t field = 0; field < fields.size(); ++field) {
         if (fields[field] == viewOf(profile.timeColumn)) {
             match.timeField = field;
+        } else if (fields[field] == viewOf(profile.lengthColumn)) {
+            match.lengthField = field;
+        } else if (fields[field] == viewOf(profile.zoneColumn)) {
+            match.zoneField = field;
         } else if (const Column *column = columnNamed(profile, fields[field])) {
             match.columns.push_back({field, column});
         }

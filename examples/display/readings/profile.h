@@ -9,6 +9,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -74,6 +75,10 @@ struct Profile
     /** The length of a row's interval in seconds; 0 where nothing depends on it. */
     qint64 step;
     std::vector<Column> columns;
+    /** The column that tells the length of a row's interval in seconds, if it is not `step`. */
+    QByteArray lengthColumn = {};
+    /** The column whose first cell that is not empty tells the IANA id of the time zone. */
+    QByteArray zoneColumn = {};
 };
 
 /** All profiles: one row for each kind of file that can be read. */
@@ -93,6 +98,8 @@ struct HeaderMatch
     QString problem;
     std::size_t fieldCount = 0;
     std::size_t timeField = 0;
+    std::optional<std::size_t> lengthField;
+    std::optional<std::size_t> zoneField;
     std::vector<UsedColumn> columns;
 };
 

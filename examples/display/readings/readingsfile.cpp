@@ -70,7 +70,7 @@ public:
 
     QTimeZone timeZone() const { return zone; }
     /** The file says by itself in which time zone the house stands. */
-    bool knowsTimeZone() const { return !header.profile->timeZone.isEmpty(); }
+    bool knowsTimeZone() const { return zoneIsTold || !header.profile->timeZone.isEmpty(); }
 
 private:
     struct Row
@@ -78,6 +78,7 @@ private:
         /** Wall-clock seconds at first, in profiles with such a clock; then UTC. */
         qint64 time;
         int line;
+        qint64 length;
         bool leftOut = false;
     };
 
@@ -85,6 +86,8 @@ private:
     void readRows();
     void readRow(std::string_view line);
     bool readValues();
+    std::optional<qint64> readLength();
+    bool readZone();
     void fillOtherTariffs();
     void resolveWallClock();
     void resolveDoubledTimes(const std::vector<std::size_t> &doubled, const WallClock &clock);
@@ -103,6 +106,7 @@ private:
 
     HeaderMatch header;
     QTimeZone zone;
+    bool zoneIsTold = false;
     std::vector<std::string_view> fields;
     std::vector<double> rowValues;
     std::vector<Row> rows;
@@ -191,12 +195,44 @@ void FileLoader::readRow(std::string_view line)
         broken(QStringLiteral("bad time stamp %1").arg(quoted(stamp)));
         return;
     }
-    if (!readValues()) {
+    const std::optional<qint64> length = readLength();
+    if (!length || !readZone() || !readValues()) {
         return;
     }
     fillOtherTariffs();
-    rows.push_back({*time, reader.lineNumber()});
+    rows.push_back({*time, reader.lineNumber(), *length});
     values.insert(values.end(), rowValues.cbegin(), rowValues.cend());
+}
+
+std::optional<qint64> FileLoader::readLength()
+{
+    if (!header.lengthField || trimmed(fields[*header.lengthField]).empty()) {
+        return header.profile->step;
+    }
+    constexpr double longest = 366.0 * 86400.0;
+    const std::string_view text = trimmed(fields[*header.lengthField]);
+    const std::optional<double> seconds = parseNumber(text, header.profile->decimalSign);
+    if (!seconds || *seconds < 1.0 || *seconds > longest || std::floor(*seconds) != *seconds) {
+        broken(QStringLiteral("bad length %1 of an interval").arg(quoted(text)));
+        return std::nullopt;
+    }
+    return qint64(*seconds);
+}
+
+bool FileLoader::readZone()
+{
+    if (zoneIsTold || !header.zoneField || trimmed(fields[*header.zoneField]).empty()) {
+        return true;
+    }
+    const std::string_view text = trimmed(fields[*header.zoneField]);
+    const QTimeZone told(QByteArray(text.data(), int(text.size())));
+    if (!told.isValid()) {
+        broken(QStringLiteral("unknown time zone %1").arg(quoted(text)));
+        return false;
+    }
+    zone = told;
+    zoneIsTold = true;
+    return true;
 }
 
 bool FileLoader::readValues()
@@ -380,9 +416,9 @@ Interval FileLoader::intervalOf(const Row &row) const
 {
     const Profile &profile = *header.profile;
     if (profile.stamp == Profile::Stamp::IntervalStart) {
-        return {row.time, row.time + profile.step};
+        return {row.time, row.time + row.length};
     }
-    return {row.time - profile.step, row.time};
+    return {row.time - row.length, row.time};
 }
 
 double FileLoader::value(std::size_t row, std::size_t column) const
