@@ -69,6 +69,8 @@ private Q_SLOTS:
     void firstReadingOfAnInstantHolds();
     void newFileIsEmpty();
     void emptyFileIsANewOne();
+    void amountsComeBack();
+    void fileOfTheFirstVersionIsBroughtUpToDate();
     void newerVersionIsLeftAlone();
     void damageIsTold_data();
     void damageIsTold();
@@ -119,7 +121,7 @@ void tst_HistoryFile::valuesAreThousandths()
     QCOMPARE(ask(path(), QStringLiteral("SELECT instant, value, typeof(value) FROM reading")),
              QStringList({QStringLiteral("%1 0 integer").arg(noon),
                           QStringLiteral("%1 999999999 integer").arg(noon + 1)}));
-    QCOMPARE(ask(path(), QStringLiteral("PRAGMA user_version")), QStringList("1"));
+    QCOMPARE(ask(path(), QStringLiteral("PRAGMA user_version")), QStringList("2"));
 }
 
 void tst_HistoryFile::registersAreNamedAsInTheFormat()
@@ -135,7 +137,9 @@ void tst_HistoryFile::everyRegisterHasAName()
 {
     std::vector<KeptReading> readings;
     for (const Column &column : profiles().front().columns) {
-        readings.push_back({column.meterRegister, noon, 1.0});
+        if (column.role == Column::Role::Counter) {
+            readings.push_back({column.meterRegister, noon, 1.0});
+        }
     }
     HistoryFile file;
     QCOMPARE(file.open(path()), Trouble::None);
@@ -184,10 +188,10 @@ void tst_HistoryFile::newerVersionIsLeftAlone()
         HistoryFile file;
         QCOMPARE(file.open(path()), Trouble::None);
     }
-    ask(path(), QStringLiteral("PRAGMA user_version = 2"));
+    ask(path(), QStringLiteral("PRAGMA user_version = 3"));
     HistoryFile file;
     QCOMPARE(file.open(path()), Trouble::Newer);
-    QCOMPARE(file.reason(), QStringLiteral("it has version 2, and 1 is the newest known here"));
+    QCOMPARE(file.reason(), QStringLiteral("it has version 3, and 2 is the newest known here"));
 }
 
 void tst_HistoryFile::damageIsTold_data()
@@ -282,6 +286,51 @@ void tst_HistoryFile::oldReadingsAreThinned()
                                 "WHERE register = 1")
                      .arg(noon)),
              QStringList({"0", "1", "2", "3", "4"}));
+}
+
+void tst_HistoryFile::amountsComeBack()
+{
+    {
+        HistoryFile file;
+        QCOMPARE(file.open(path()), Trouble::None);
+        const std::vector<KeptAmount> amounts {{gas, {noon - hour, noon}, 0.125},
+                                               {gas, {noon, noon + 900}, 0.5}};
+        QCOMPARE(file.writeAmounts(amounts), Trouble::None);
+        QCOMPARE(file.addedRows(), 2);
+        QCOMPARE(file.writeAmounts(
+                     {{gas, {noon, noon + 900}, 9.0}, {gas, {noon + 900, noon + hour}, 1.0}}),
+                 Trouble::None);
+        QCOMPARE(file.addedRows(), 1);
+    }
+    HistoryFile file;
+    QCOMPARE(file.open(path()), Trouble::None);
+    Household household;
+    QCOMPARE(file.read(&household), Trouble::None);
+    QCOMPARE(household.meters.at(gas).amount(noon - hour, noon + hour),
+             std::optional<double>(1.625));
+}
+
+void tst_HistoryFile::fileOfTheFirstVersionIsBroughtUpToDate()
+{
+    for (const char *statement :
+         {"CREATE TABLE register (id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE)",
+          "CREATE TABLE reading (instant INTEGER NOT NULL, register INTEGER NOT NULL, "
+          "value INTEGER NOT NULL, PRIMARY KEY (instant, register)) WITHOUT ROWID",
+          "CREATE TABLE state (thinned_until INTEGER NOT NULL)", "INSERT INTO state VALUES (0)",
+          "INSERT INTO register VALUES (7, 'gas_m3')",
+          "INSERT INTO reading VALUES (1717243200, 7, 4711)", "PRAGMA user_version = 1"}) {
+        ask(path(), QLatin1String(statement));
+    }
+    HistoryFile file;
+    QCOMPARE(file.open(path()), Trouble::None);
+    QCOMPARE(file.writeAmounts({{gas, {noon - hour, noon}, 0.5}}), Trouble::None);
+    Household household;
+    QCOMPARE(file.read(&household), Trouble::None);
+    QCOMPARE(household.meters.at(gas).readingAt(noon), std::optional<double>(4.711));
+    QCOMPARE(household.meters.at(gas).amount(noon - hour, noon), std::optional<double>(0.5));
+    QCOMPARE(ask(path(), QStringLiteral("PRAGMA user_version")), QStringList("2"));
+    HistoryFile second;
+    QCOMPARE(second.open(path()), Trouble::None);
 }
 
 QTEST_GUILESS_MAIN(tst_HistoryFile)

@@ -37,6 +37,22 @@ bool isDamage(const QSqlError &error)
     return code == corrupt || code == notADatabase || code == plainError;
 }
 
+/** What makes a file of @p version one of the next; 0 is that of an empty file. */
+std::vector<const char *> stepsFrom(int version)
+{
+    // Ordered by time, so that what belongs to one transaction comes to lie in one page.
+    if (version == 0) {
+        return {"CREATE TABLE register (id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE)",
+                "CREATE TABLE reading (instant INTEGER NOT NULL, register INTEGER NOT NULL, "
+                "value INTEGER NOT NULL, PRIMARY KEY (instant, register)) WITHOUT ROWID",
+                "CREATE TABLE state (thinned_until INTEGER NOT NULL)",
+                "INSERT INTO state VALUES (0)"};
+    }
+    return {"CREATE TABLE amount (instant INTEGER NOT NULL, seconds INTEGER NOT NULL, "
+            "register INTEGER NOT NULL, value INTEGER NOT NULL, "
+            "PRIMARY KEY (instant, register, seconds)) WITHOUT ROWID"};
+}
+
 const std::vector<Column> &columns()
 {
     return Readings::profiles().front().columns;
@@ -96,8 +112,8 @@ Trouble HistoryFile::open(const QString &path)
             return trouble;
         }
     }
-    if (found == 0) {
-        trouble = inTransaction([this] { return makeTables(); });
+    if (found < version) {
+        trouble = inTransaction([this] { return bringUpToDate(); });
     }
     return trouble == Trouble::None ? learnRegisters() : trouble;
 }
@@ -131,12 +147,37 @@ Trouble HistoryFile::read(Household *household)
                                       double(query.value(2).toLongLong()) / thousandths);
         }
     }
+    return query.lastError().isValid() ? fail(query) : readAmounts(meters);
+}
+
+Trouble HistoryFile::readAmounts(const std::map<int, Meter *> &meters)
+{
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral("SELECT instant, seconds, register, value FROM amount"))) {
+        return fail(query);
+    }
+    while (query.next()) {
+        const auto meter = meters.find(query.value(2).toInt());
+        if (meter != meters.end()) {
+            const qint64 end = query.value(0).toLongLong();
+            meter->second->addAmount({end - query.value(1).toLongLong(), end},
+                                     double(query.value(3).toLongLong()) / thousandths);
+        }
+    }
     return query.lastError().isValid() ? fail(query) : Trouble::None;
 }
 
 Trouble HistoryFile::write(const std::vector<KeptReading> &readings)
 {
+    added = 0;
     return readings.empty() ? Trouble::None : inTransaction([&] { return insert(readings); });
+}
+
+Trouble HistoryFile::writeAmounts(const std::vector<KeptAmount> &amounts)
+{
+    added = 0;
+    return amounts.empty() ? Trouble::None : inTransaction([&] { return insert(amounts); });
 }
 
 Trouble HistoryFile::thin(qint64 before, qint64 step)
@@ -188,24 +229,21 @@ Trouble HistoryFile::number(const QString &statement, qint64 *answer)
     return Trouble::None;
 }
 
-Trouble HistoryFile::makeTables()
+Trouble HistoryFile::bringUpToDate()
 {
-    // Ordered by time, so that what belongs to one transaction comes to lie in one page.
-    for (const QString &statement :
-         {QStringLiteral(
-              "CREATE TABLE register (id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE)"),
-          QStringLiteral(
-              "CREATE TABLE reading (instant INTEGER NOT NULL, register INTEGER NOT NULL, "
-              "value INTEGER NOT NULL, PRIMARY KEY (instant, register)) WITHOUT ROWID"),
-          QStringLiteral("CREATE TABLE state (thinned_until INTEGER NOT NULL)"),
-          QStringLiteral("INSERT INTO state VALUES (0)"),
-          QStringLiteral("PRAGMA user_version = %1").arg(version)}) {
-        const Trouble trouble = execute(statement);
-        if (trouble != Trouble::None) {
-            return trouble;
+    // Another program may have been faster; now it cannot be.
+    qint64 found = 0;
+    Trouble trouble = number(QStringLiteral("PRAGMA user_version"), &found);
+    for (; trouble == Trouble::None && found < version; ++found) {
+        for (const char *statement : stepsFrom(int(found))) {
+            if (trouble == Trouble::None) {
+                trouble = execute(QLatin1String(statement));
+            }
         }
     }
-    return Trouble::None;
+    return trouble == Trouble::None
+        ? execute(QStringLiteral("PRAGMA user_version = %1").arg(version))
+        : trouble;
 }
 
 Trouble HistoryFile::learnRegisters()
@@ -232,6 +270,18 @@ Trouble HistoryFile::addRegister(const Register &meterRegister)
     }
     // Another program may have been faster.
     return learnRegisters();
+}
+
+Trouble HistoryFile::findRegister(const Register &meterRegister, int *id)
+{
+    if (idOf.find(meterRegister) == idOf.end()) {
+        const Trouble trouble = addRegister(meterRegister);
+        if (trouble != Trouble::None) {
+            return trouble;
+        }
+    }
+    *id = idOf[meterRegister];
+    return Trouble::None;
 }
 
 template <typename Work>
@@ -263,19 +313,50 @@ Trouble HistoryFile::insert(const std::vector<KeptReading> &readings)
         return fail(query);
     }
     for (const KeptReading &reading : readings) {
-        if (idOf.find(reading.meterRegister) == idOf.end()) {
-            const Trouble trouble = addRegister(reading.meterRegister);
-            if (trouble != Trouble::None) {
-                return trouble;
-            }
+        int id = 0;
+        Trouble trouble = findRegister(reading.meterRegister, &id);
+        if (trouble == Trouble::None) {
+            query.bindValue(0, reading.instant);
+            query.bindValue(1, id);
+            query.bindValue(2, qint64(std::llround(reading.value * thousandths)));
+            trouble = insert(&query);
         }
-        query.bindValue(0, reading.instant);
-        query.bindValue(1, idOf[reading.meterRegister]);
-        query.bindValue(2, qint64(std::llround(reading.value * thousandths)));
-        if (!query.exec()) {
-            return fail(query);
+        if (trouble != Trouble::None) {
+            return trouble;
         }
     }
+    return Trouble::None;
+}
+
+Trouble HistoryFile::insert(const std::vector<KeptAmount> &amounts)
+{
+    QSqlQuery query(database);
+    if (!query.prepare(QStringLiteral("INSERT OR IGNORE INTO amount VALUES (?, ?, ?, ?)"))) {
+        return fail(query);
+    }
+    for (const KeptAmount &amount : amounts) {
+        int id = 0;
+        Trouble trouble = findRegister(amount.meterRegister, &id);
+        if (trouble == Trouble::None) {
+            query.bindValue(0, amount.interval.to);
+            query.bindValue(1, amount.interval.seconds());
+            query.bindValue(2, id);
+            query.bindValue(3, qint64(std::llround(amount.amount * thousandths)));
+            trouble = insert(&query);
+        }
+        if (trouble != Trouble::None) {
+            return trouble;
+        }
+    }
+    return Trouble::None;
+}
+
+Trouble HistoryFile::insert(QSqlQuery *query)
+{
+    if (!query->exec()) {
+        return fail(*query);
+    }
+    added += query->numRowsAffected();
     return Trouble::None;
 }
 

@@ -24,10 +24,20 @@ struct KeptReading
     double value = 0.0;
 };
 
+/** What a register counted in an interval of which its readings are not known. */
+struct KeptAmount
+{
+    Readings::Register meterRegister;
+    Readings::Interval interval;
+    /** In the unit of the quantity; kept to a thousandth of it. */
+    double amount = 0.0;
+};
+
 /**
  * The SQLite file in which a household's readings are kept.
  *
- * A reading is there once for a register and an instant: the one that was written first holds.
+ * A reading is there once for a register and an instant, and an amount once for a register and an
+ * interval: the one that was written first holds.
  * Values are whole numbers of Wh, dm³ or MJ. The table `register` names the registers as the
  * columns of the program's own CSV format are called. Writing is safe against power cuts: when
  * write() returns, a transaction is on the disk, or not there at all.
@@ -46,7 +56,7 @@ public:
     };
 
     /** The version of the tables that this program writes, `user_version` of the file. */
-    static constexpr int version = 1;
+    static constexpr int version = 2;
 
     HistoryFile();
     ~HistoryFile();
@@ -60,6 +70,10 @@ public:
     Trouble read(Readings::Household *household);
     /** Writes @p readings in one transaction. */
     Trouble write(const std::vector<KeptReading> &readings);
+    /** Writes @p amounts in one transaction. */
+    Trouble writeAmounts(const std::vector<KeptAmount> &amounts);
+    /** How many rows the last write added: those that were not there before. */
+    int addedRows() const { return added; }
     /**
      * Drops, in one transaction, the readings before @p before that slots of @p step seconds do not
      * need, see Readings::dispensable(). What was thinned once is not looked at again.
@@ -74,18 +88,23 @@ private:
     Trouble fail(const QSqlQuery &query);
     Trouble execute(const QString &statement);
     Trouble number(const QString &statement, qint64 *answer);
-    Trouble makeTables();
+    Trouble bringUpToDate();
+    Trouble readAmounts(const std::map<int, Readings::Meter *> &meters);
     Trouble learnRegisters();
     Trouble addRegister(const Readings::Register &meterRegister);
+    Trouble findRegister(const Readings::Register &meterRegister, int *id);
     template <typename Work>
     Trouble inTransaction(Work work);
     Trouble insert(const std::vector<KeptReading> &readings);
+    Trouble insert(const std::vector<KeptAmount> &amounts);
+    Trouble insert(QSqlQuery *query);
     Trouble thinRegister(int id, double mostPerHour, qint64 from, qint64 to, qint64 step);
 
     const QString connection;
     QSqlDatabase database;
     std::map<Readings::Register, int> idOf;
     QString lastReason;
+    int added = 0;
 };
 
 #endif
