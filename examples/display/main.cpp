@@ -5,10 +5,12 @@
 #include "displaysettings.h"
 #include "displaywindow.h"
 #include "energy.h"
+#include "historytransfer.h"
 #include "housesource.h"
 #include "metersource.h"
 #include "mqttmeter.h"
 #include "options.h"
+#include "p1time.h"
 #include "readingsfile.h"
 #include "readingssource.h"
 #include "screenshots.h"
@@ -28,7 +30,7 @@
 namespace {
 
 constexpr int exitFailure = 1;
-constexpr int exitNothingToShow = 2;
+constexpr int exitNothingToShow = 2; // or to keep, or to write
 constexpr int patience = 5000; // milliseconds that screenshots wait for a meter
 constexpr int arrowsUnderWay = 700; // milliseconds
 
@@ -130,6 +132,26 @@ void waitForPictures(const EnergySource *source)
     loop.exec();
 }
 
+/** Fills the history or writes it to a file, which needs no display. */
+int transfer(const Options &options, int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    nameApplication();
+    const Transfer done = options.imports.isEmpty()
+        ? exportReadings(options.exportTo, options.history, p1TimeZone())
+        : importReadings(options.imports, options.history, p1TimeZone());
+    for (const QString &problem : done.problems) {
+        printError(problem);
+    }
+    const QString line = QStringLiteral("zemkit-display: %1").arg(done.text);
+    if (!done.succeeded) {
+        printError(line);
+        return exitNothingToShow;
+    }
+    QTextStream(stdout) << line << '\n';
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -142,6 +164,9 @@ int main(int argc, char *argv[])
     if (options.action == Options::Action::Refuse) {
         QTextStream(stderr) << options.text;
         return exitFailure;
+    }
+    if (!options.imports.isEmpty() || !options.exportTo.isEmpty()) {
+        return transfer(options, argc, argv);
     }
 
     if (!options.screenshots.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

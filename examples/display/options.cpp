@@ -9,6 +9,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <utility>
 
 namespace {
 
@@ -27,6 +28,23 @@ Options answer(const QString &text)
     options.action = Options::Action::PrintAndEnd;
     options.text = text;
     return options;
+}
+
+/** Two options that exclude each other; empty if there are none. */
+QString clashIn(const QCommandLineParser &parser)
+{
+    constexpr std::pair<const char *, const char *> clashes[] = {
+        {"data", "no-history"},   {"import", "no-history"}, {"export", "no-history"},
+        {"import", "export"},     {"import", "readings"},   {"export", "readings"},
+        {"import", "p1"},         {"export", "p1"},         {"import", "screenshots"},
+        {"export", "screenshots"}};
+    for (const auto &[one, other] : clashes) {
+        if (parser.isSet(QLatin1String(one)) && parser.isSet(QLatin1String(other))) {
+            return QStringLiteral("--%1 and --%2 do not go together")
+                .arg(QLatin1String(one), QLatin1String(other));
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -48,6 +66,14 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         QStringLiteral("Follow the P1 telegrams of a smart meter: a file, - for standard input, a "
                        "serial port as /dev/ttyUSB0, or host:port."),
         QStringLiteral("SOURCE"));
+    const QCommandLineOption importFiles(
+        QStringLiteral("import"),
+        QStringLiteral("Keep the readings of these CSV files in the history, and end."),
+        QStringLiteral("FILE..."));
+    const QCommandLineOption exportFile(
+        QStringLiteral("export"),
+        QStringLiteral("Write the history to this file as CSV, by the hour, and end."),
+        QStringLiteral("FILE"));
     const QCommandLineOption data(
         QStringLiteral("data"),
         QStringLiteral("Keep the history of the meter in this directory, instead of %1.")
@@ -70,9 +96,9 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     const MqttOptions mqtt;
     parser.addOptions({readings, meter});
     parser.addOptions(mqtt.all());
-    parser.addOptions({data, noHistory, speed, page, screenshots});
+    parser.addOptions({importFiles, exportFile, data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("More files of --readings."),
+                                 QStringLiteral("More files of --readings or --import."),
                                  QStringLiteral("[FILE...]"));
 
     if (!parser.parse(arguments)) {
@@ -88,7 +114,8 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         return answer(QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
                                                     QCoreApplication::applicationVersion()));
     }
-    if (!parser.positionalArguments().isEmpty() && !parser.isSet(readings)) {
+    if (!parser.positionalArguments().isEmpty() && !parser.isSet(readings)
+        && !parser.isSet(importFiles)) {
         return refusal(QStringLiteral("unexpected argument '%1'")
                            .arg(parser.positionalArguments().constFirst()));
     }
@@ -97,8 +124,12 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
                            .arg(parser.value(page), pages.join(QStringLiteral(", "))));
     }
 
-    if (parser.isSet(data) && parser.isSet(noHistory)) {
-        return refusal(QStringLiteral("--data and --no-history do not go together"));
+    const QString clash = clashIn(parser);
+    if (!clash.isEmpty()) {
+        return refusal(clash);
+    }
+    if (parser.isSet(exportFile) && parser.value(exportFile).isEmpty()) {
+        return refusal(QStringLiteral("--export wants a file"));
     }
     if (parser.isSet(data) && parser.value(data).isEmpty()) {
         return refusal(QStringLiteral("--data wants a directory"));
@@ -139,7 +170,9 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     options.mqtt = broker;
     options.history = historyDirectory;
     options.speed = *factor;
-    options.readings = parser.values(readings) + parser.positionalArguments();
+    (parser.isSet(importFiles) ? options.imports : options.readings) =
+        parser.values(importFiles) + parser.values(readings) + parser.positionalArguments();
+    options.exportTo = parser.value(exportFile);
     options.page = parser.value(page);
     options.screenshots = parser.value(screenshots);
     return options;

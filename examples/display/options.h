@@ -23,6 +23,8 @@ struct Options
     QString text;
 
     QStringList readings; ///< CSV files
+    QStringList imports; ///< CSV files to be kept in the history
+    QString exportTo; ///< CSV file that the history is to be written to
     QString meter; ///< where a smart meter is to be followed; empty: no meter
     std::optional<MqttSettings> mqtt; ///< a publisher that is to be followed
     QString history; ///< directory of the history of a meter; empty: it is not kept

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void liveHouseShowsEverything();
     void meterOfAFile();
     void meterThatIsNotThere();
+    void importAndExport();
+    void importOfNothing();
     void missingFile();
     void unknownHeader();
     void brokenRowIsNamedAndTheRestIsShown();
@@ -83,9 +85,10 @@ void tst_DisplayProgram::help()
 {
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.status, 0);
-    for (const char *option : {"--readings", "--p1", "--mqtt", "--mapping", "--mqtt-credentials",
-                               "--mqtt-ca", "--print-mapping", "--data", "--no-history", "--speed",
-                               "--screenshots", "--page", "--help", "--version"}) {
+    for (const char *option :
+         {"--readings", "--p1", "--mqtt", "--mapping", "--mqtt-credentials", "--mqtt-ca",
+          "--print-mapping", "--import", "--export", "--data", "--no-history", "--speed",
+          "--screenshots", "--page", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QCOMPARE(result.errors, QString());
@@ -156,6 +159,17 @@ void tst_DisplayProgram::meterOptions_data()
                           << QStringLiteral("--data and --no-history do not go together");
     QTest::newRow("no meter") << QStringList({"--p1", ""})
                               << QStringLiteral("--p1 wants a file, a serial port, host:port or -");
+    QTest::newRow("import nowhere")
+        << QStringList({"--import", "a.csv", "--no-history"})
+        << QStringLiteral("--import and --no-history do not go together");
+    QTest::newRow("export nowhere")
+        << QStringList({"--export", "a.csv", "--no-history"})
+        << QStringLiteral("--export and --no-history do not go together");
+    QTest::newRow("import and export")
+        << QStringList({"--import", "a.csv", "--export", "b.csv"})
+        << QStringLiteral("--import and --export do not go together");
+    QTest::newRow("export without a name")
+        << QStringList({"--export", ""}) << QStringLiteral("--export wants a file");
     QTest::newRow("nowhere") << QStringList({"--data", ""})
                              << QStringLiteral("--data wants a directory");
 }
@@ -295,6 +309,56 @@ static QByteArray twoDays()
                     .toUtf8();
     }
     return text;
+}
+
+void tst_DisplayProgram::importAndExport()
+{
+    const QString history = dir.filePath(QStringLiteral("kept"));
+    const QString other = dir.filePath(QStringLiteral("copied"));
+    const QString house = writeReadings(QStringLiteral("house.csv"), twoDays());
+    const QString copy = dir.filePath(QStringLiteral("copy.csv"));
+    const QString second = dir.filePath(QStringLiteral("second.csv"));
+    Result result = run({QStringLiteral("--import"), house, QStringLiteral("--data"), history});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output,
+             QStringLiteral("zemkit-display: 98 of 98 readings are new and kept in %1\n")
+                 .arg(history + QStringLiteral("/history.sqlite")));
+    result = run({QStringLiteral("--import"), house, QStringLiteral("--data"), history});
+    QVERIFY2(result.output.contains(QStringLiteral(": 0 of 98 readings")),
+             qPrintable(result.output));
+    result = run({QStringLiteral("--export"), copy, QStringLiteral("--data"), history});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output,
+             QStringLiteral("zemkit-display: 49 rows are written to %1\n").arg(copy));
+    QCOMPARE(run({QStringLiteral("--import"), copy, QStringLiteral("--data"), other}).status, 0);
+    QCOMPARE(run({QStringLiteral("--export"), second, QStringLiteral("--data"), other}).status, 0);
+    QFile first(copy);
+    QFile again(second);
+    QVERIFY(first.open(QIODevice::ReadOnly) && again.open(QIODevice::ReadOnly));
+    const QByteArray text = first.readAll();
+    QCOMPARE(again.readAll(), text);
+    QVERIFY2(text.startsWith("time,electricity_import_kwh,electricity_import_kwh_counted,gas_m3,"
+                             "gas_m3_counted,interval_s,time_zone\n"
+                             "2026-03-03T00:00:00+01:00,100.000,,50.000,,,Europe/Amsterdam\n"
+                             "2026-03-03T01:00:00+01:00,100.400,0.400,50.100,0.100,,\n"),
+             text.left(400).constData());
+}
+
+void tst_DisplayProgram::importOfNothing()
+{
+    const QString history = dir.filePath(QStringLiteral("nothing"));
+    const QString path = dir.filePath(QStringLiteral("none.csv"));
+    Result result = run({QStringLiteral("--import"), path, QStringLiteral("--data"), history});
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.errors.contains(QStringLiteral("zemkit-display: nothing is kept")),
+             qPrintable(result.errors));
+    result = run({QStringLiteral("--export"), path, QStringLiteral("--data"), history});
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.errors.contains(QStringLiteral("there is no history")),
+             qPrintable(result.errors));
+    QVERIFY(!QFile::exists(history));
+    QVERIFY(!QFile::exists(path));
 }
 
 void tst_DisplayProgram::brokenRowIsNamedAndTheRestIsShown()

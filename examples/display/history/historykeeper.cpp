@@ -34,6 +34,11 @@ QString HistoryKeeper::defaultDirectory()
         + QStringLiteral("/zemkit");
 }
 
+QString HistoryKeeper::pathIn(const QString &directory)
+{
+    return QDir(directory).absoluteFilePath(QStringLiteral("history.sqlite"));
+}
+
 void HistoryKeeper::load(Household *household)
 {
     if (!makeDirectory()) {
@@ -180,5 +185,5 @@ void HistoryKeeper::tell(const QString &what)
 
 QString HistoryKeeper::path() const
 {
-    return directory + QStringLiteral("/history.sqlite");
+    return pathIn(directory);
 }

@@ -35,6 +35,8 @@ public:
 
     /** The directory of a user's history: "zemkit" where the desktop keeps the data of programs. */
     static QString defaultDirectory();
+    /** The file of the history in a directory. */
+    static QString pathIn(const QString &directory);
 
     /**
      * Opens the file and enters into @p household what is in it. To be called once, before add(),

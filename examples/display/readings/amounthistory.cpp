@@ -94,6 +94,17 @@ std::optional<Interval> AmountHistory::lastStepUntil(qint64 instant) const
     return std::prev(after)->data.interval;
 }
 
+std::vector<IntervalAmount> AmountHistory::all() const
+{
+    settle();
+    std::vector<IntervalAmount> amounts;
+    amounts.reserve(rows.size());
+    for (const Row &row : rows) {
+        amounts.push_back(row.data);
+    }
+    return amounts;
+}
+
 std::optional<qint64> AmountHistory::knownUntil(const Interval &interval) const
 {
     settle();

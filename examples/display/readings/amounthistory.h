@@ -42,6 +42,8 @@ public:
     std::optional<qint64> firstInstant() const;
     std::optional<qint64> lastInstant() const;
     std::optional<Interval> lastStepUntil(qint64 instant) const;
+    /** All rows in the order of time. */
+    std::vector<IntervalAmount> all() const;
     bool isEmpty() const { return rows.empty() && late.empty(); }
 
     /** The last instant in the interval up to which all from its start on is known. */

@@ -24,6 +24,12 @@ void CounterHistory::add(const Reading &reading)
     }
 }
 
+std::vector<Reading> CounterHistory::all() const
+{
+    settle();
+    return collected();
+}
+
 void CounterHistory::thin(qint64 before, qint64 step)
 {
     settle();
@@ -183,19 +189,8 @@ void CounterHistory::settle() const
     if (late.empty()) {
         return;
     }
-    std::vector<Reading> all;
-    all.reserve(filter.kept().size() + filter.discarded().size() + late.size() + 1);
-    all.insert(all.end(), filter.kept().cbegin(), filter.kept().cend());
-    all.insert(all.end(), filter.discarded().cbegin(), filter.discarded().cend());
-    if (filter.undecided()) {
-        all.push_back(*filter.undecided());
-    }
-    all.insert(all.end(), late.cbegin(), late.cend());
+    const std::vector<Reading> all = collected();
     late.clear();
-    std::stable_sort(all.begin(), all.end(), [](const Reading &left, const Reading &right) {
-        return left.instant < right.instant;
-    });
-
     filter = ReadingFilter(mostPerHour);
     const Reading *previous = nullptr;
     for (const Reading &reading : all) {
@@ -208,6 +203,23 @@ void CounterHistory::settle() const
         }
     }
     newest = *previous;
+}
+
+// Two readings of an instant stay in the order in which they came.
+std::vector<Reading> CounterHistory::collected() const
+{
+    std::vector<Reading> all;
+    all.reserve(filter.kept().size() + filter.discarded().size() + late.size() + 1);
+    all.insert(all.end(), filter.kept().cbegin(), filter.kept().cend());
+    all.insert(all.end(), filter.discarded().cbegin(), filter.discarded().cend());
+    if (filter.undecided()) {
+        all.push_back(*filter.undecided());
+    }
+    all.insert(all.end(), late.cbegin(), late.cend());
+    std::stable_sort(all.begin(), all.end(), [](const Reading &left, const Reading &right) {
+        return left.instant < right.instant;
+    });
+    return all;
 }
 
 CounterHistory::KeptReading CounterHistory::notBefore(qint64 instant) const

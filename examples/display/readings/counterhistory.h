@@ -27,6 +27,9 @@ public:
      */
     void add(const Reading &reading);
 
+    /** All readings in the order of time, the wrong ones too. */
+    std::vector<Reading> all() const;
+
     /** See Meter::thin(). */
     void thin(qint64 before, qint64 step);
 
@@ -56,6 +59,7 @@ private:
     using KeptReading = std::vector<Reading>::const_iterator;
 
     void settle() const;
+    std::vector<Reading> collected() const;
     KeptReading notBefore(qint64 instant) const;
     KeptReading after(qint64 instant) const;
     KeptReading find(qint64 instant) const;

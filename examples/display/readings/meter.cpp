@@ -205,6 +205,16 @@ std::optional<Interval> Meter::lastStepUntil(qint64 instant) const
     return read->from >= told->from ? read : told;
 }
 
+std::vector<Reading> Meter::readings() const
+{
+    return counter ? counter->all() : std::vector<Reading>();
+}
+
+std::vector<IntervalAmount> Meter::amountRows() const
+{
+    return amounts.all();
+}
+
 std::vector<Fault> Meter::faults() const
 {
     std::vector<Fault> all = amounts.faults();

@@ -119,6 +119,11 @@ public:
      */
     std::optional<Interval> lastStepUntil(qint64 instant) const;
 
+    /** All readings in the order of time, those that were judged wrong too. */
+    std::vector<Reading> readings() const;
+    /** All rows of amounts in the order of time. */
+    std::vector<IntervalAmount> amountRows() const;
+
     /** Everything wrong that was found so far, in no particular order. */
     std::vector<Fault> faults() const;
 
