@@ -61,7 +61,7 @@ void setLook()
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
 }
 
-std::unique_ptr<EnergySource> meterSource(const Options &options)
+std::unique_ptr<MeterSource> meterSource(const Options &options)
 {
     P1Settings settings;
     // Pictures are of what a file says in the end.
@@ -97,14 +97,23 @@ std::optional<Readings::Household> readHousehold(const QStringList &files)
  */
 std::unique_ptr<EnergySource> makeSource(const Options &options)
 {
+    std::optional<Readings::Household> household;
     if (!options.readings.isEmpty()) {
-        std::optional<Readings::Household> household;
         doWithNotice(QCoreApplication::translate("main", "Standen lezen …"),
                      [&] { household = readHousehold(options.readings); });
-        return household ? std::make_unique<ReadingsSource>(std::move(*household)) : nullptr;
+        if (!household) {
+            return nullptr;
+        }
     }
     if (options.mqtt || !options.meter.isEmpty()) {
-        return meterSource(options);
+        auto source = meterSource(options);
+        if (household) {
+            source->addOlder(std::move(*household));
+        }
+        return source;
+    }
+    if (household) {
+        return std::make_unique<ReadingsSource>(std::move(*household));
     }
     auto house = std::make_unique<HouseSource>(options.speed);
     doWithNotice(QCoreApplication::translate("main", "Het huis komt tot leven …"),

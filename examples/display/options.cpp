@@ -34,10 +34,11 @@ Options answer(const QString &text)
 QString clashIn(const QCommandLineParser &parser)
 {
     constexpr std::pair<const char *, const char *> clashes[] = {
-        {"data", "no-history"},   {"import", "no-history"}, {"export", "no-history"},
-        {"import", "export"},     {"import", "readings"},   {"export", "readings"},
-        {"import", "p1"},         {"export", "p1"},         {"import", "screenshots"},
-        {"export", "screenshots"}};
+        {"data", "no-history"},    {"import", "no-history"}, {"export", "no-history"},
+        {"import", "export"},      {"import", "readings"},   {"export", "readings"},
+        {"import", "p1"},          {"export", "p1"},         {"import", "screenshots"},
+        {"export", "screenshots"}, {"mqtt", "p1"},           {"import", "mqtt"},
+        {"export", "mqtt"}};
     for (const auto &[one, other] : clashes) {
         if (parser.isSet(QLatin1String(one)) && parser.isSet(QLatin1String(other))) {
             return QStringLiteral("--%1 and --%2 do not go together")
@@ -59,7 +60,9 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption readings(
         QStringLiteral("readings"),
-        QStringLiteral("Show the readings of these CSV files, which are those of one household."),
+        QStringLiteral(
+            "Show the readings of these CSV files, which are those of one household; with "
+            "--p1 they are what was counted before the meter was followed."),
         QStringLiteral("FILE..."));
     const QCommandLineOption meter(
         QStringLiteral("p1"),
@@ -134,19 +137,11 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     if (parser.isSet(data) && parser.value(data).isEmpty()) {
         return refusal(QStringLiteral("--data wants a directory"));
     }
-    if (parser.isSet(meter) && parser.isSet(readings)) {
-        return refusal(QStringLiteral("--readings and --p1 do not go together"));
-    }
     if (parser.isSet(meter) && parser.value(meter).isEmpty()) {
         return refusal(QStringLiteral("--p1 wants a file, a serial port, host:port or -"));
     }
     QString problem;
     const std::optional<MqttSettings> broker = mqtt.read(parser, &problem);
-    if (broker && parser.isSet(meter)) {
-        problem = QStringLiteral("--mqtt and --p1 do not go together");
-    } else if (broker && parser.isSet(readings)) {
-        problem = QStringLiteral("--mqtt and --readings do not go together");
-    }
     if (!problem.isEmpty()) {
         return refusal(problem);
     }

@@ -23,7 +23,7 @@ private Q_SLOTS:
     void argumentWithoutOption();
     void badSpeed_data();
     void badSpeed();
-    void readingsAndMeterDoNotGoTogether();
+    void readingsAndMeterAreOneHousehold();
     void meterOptions_data();
     void meterOptions();
     void mqttOptions_data();
@@ -142,15 +142,6 @@ void tst_DisplayProgram::badSpeed()
              qPrintable(result.errors));
 }
 
-void tst_DisplayProgram::readingsAndMeterDoNotGoTogether()
-{
-    const Result result = run({QStringLiteral("--readings"), QStringLiteral("a.csv"),
-                               QStringLiteral("--p1"), QStringLiteral("b.txt")});
-    QCOMPARE(result.status, 1);
-    QVERIFY2(result.errors.contains(QStringLiteral("--readings and --p1 do not go together")),
-             qPrintable(result.errors));
-}
-
 void tst_DisplayProgram::meterOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -246,6 +237,20 @@ void tst_DisplayProgram::liveHouseShowsEverything()
     }
 }
 
+static QByteArray twoDays()
+{
+    QByteArray text = "time,electricity_import_kwh,gas_m3\n";
+    for (int hour = 0; hour <= 48; ++hour) {
+        text += QStringLiteral("2026-03-%1T%2:00:00+01:00,%3,%4\n")
+                    .arg(3 + hour / 24, 2, 10, QLatin1Char('0'))
+                    .arg(hour % 24, 2, 10, QLatin1Char('0'))
+                    .arg(100.0 + 0.4 * hour)
+                    .arg(50.0 + 0.1 * hour)
+                    .toUtf8();
+    }
+    return text;
+}
+
 static QByteArray oldTelegram()
 {
     return "/ISk5\\2ME382-1003\r\n\r\n"
@@ -265,6 +270,20 @@ void tst_DisplayProgram::meterOfAFile()
     QCOMPARE(result.status, 0);
     QVERIFY(QFile::exists(screens + QStringLiteral("/overview.png")));
     QVERIFY(QFile::exists(screens + QStringLiteral("/charts-electricity-day.png")));
+}
+
+void tst_DisplayProgram::readingsAndMeterAreOneHousehold()
+{
+    const QString path = writeReadings(QStringLiteral("telegram.txt"), oldTelegram());
+    const QString house = writeReadings(QStringLiteral("house.csv"), twoDays());
+    const QString screens = dir.filePath(QStringLiteral("both"));
+    const Result result = run({QStringLiteral("--readings"), house, QStringLiteral("--p1"), path,
+                               QStringLiteral("--screenshots"), screens});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    // The gas is in the file alone, the power is told by the meter alone.
+    QVERIFY(QFile::exists(screens + QStringLiteral("/charts-gas-year.png")));
+    QVERIFY(QFile::exists(screens + QStringLiteral("/charts-electricity-year.png")));
 }
 
 void tst_DisplayProgram::meterThatIsNotThere()
@@ -295,20 +314,6 @@ void tst_DisplayProgram::unknownHeader()
     const Result result = run({QStringLiteral("--readings"), path});
     QCOMPARE(result.status, 2);
     QVERIFY2(result.errors.startsWith(path + QStringLiteral(":1:")), qPrintable(result.errors));
-}
-
-static QByteArray twoDays()
-{
-    QByteArray text = "time,electricity_import_kwh,gas_m3\n";
-    for (int hour = 0; hour <= 48; ++hour) {
-        text += QStringLiteral("2026-03-%1T%2:00:00+01:00,%3,%4\n")
-                    .arg(3 + hour / 24, 2, 10, QLatin1Char('0'))
-                    .arg(hour % 24, 2, 10, QLatin1Char('0'))
-                    .arg(100.0 + 0.4 * hour)
-                    .arg(50.0 + 0.1 * hour)
-                    .toUtf8();
-    }
-    return text;
 }
 
 void tst_DisplayProgram::importAndExport()

@@ -126,7 +126,7 @@ void tst_HistoryTransfer::exportedAndImportedTheChartsAreTheSame_data()
 static double usedUntil(const Register &meterRegister, qint64 instant)
 {
     const qint64 of = qint64(meterRegister.quantity) + 3 * qint64(meterRegister.tariff) + 1;
-    const qint64 since = instant - 1700000000;
+    const qint64 since = instant - 1600000000;
     return double(since * of / 20 + since / 977 * 29) / 1000.0;
 }
 
@@ -144,7 +144,7 @@ static void fillCounters(HistoryFile *file, qint64 from, qint64 to, std::mt19937
             const bool isSilent = below(500) == 0;
             at = isSilent ? at + below(20) * hour + below(5000) + 1 : (at / step + 1) * step;
             if (below(1500) == 0) {
-                offset = -usedUntil(meterRegister, at - 10); // another meter
+                offset += 100.0 + below(5000); // another meter
             } else if (below(1000) == 0) {
                 readings.push_back({meterRegister, at - 1, 0.5}); // a wrong reading
             }

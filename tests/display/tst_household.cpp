@@ -31,6 +31,9 @@ private Q_SLOTS:
     void otherWaysOfCountingAreLeftOut();
     void amountsOfOneFileMeetReadingsOfAnother();
     void firstFileGivesTheTimeZone();
+    void oldReadingsMeetNewOnes();
+    void oneRegisterMakesWayForTwoTariffs();
+    void twoTariffsMakeWayForOneRegister();
     void ownFormatHasNoTimeZoneOfItsOwn();
     void ownFormatTellsAmountsAndTheirLength();
     void ownFormatTellsTheTimeZone();
@@ -307,6 +310,62 @@ void tst_Household::ownFormatTellsTheTimeZone()
         QStringList(QStringLiteral("FILE:2: unknown time zone \"Mars/Olympus\"; row left out")));
     QCOMPARE(household.timeZone.id(), QByteArray("Asia/Kolkata"));
     QCOMPARE(household.total(Quantity::Gas), 2.0);
+}
+
+static Household ofRegisters(const std::vector<std::pair<Register, std::vector<double>>> &hourly,
+                             qint64 from)
+{
+    Household household;
+    for (const auto &[meterRegister, values] : hourly) {
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            household.meter(meterRegister, Meter::Kind::Counter)
+                .addReading(from + qint64(i) * Hour, values[i]);
+        }
+    }
+    return household;
+}
+
+void tst_Household::oldReadingsMeetNewOnes()
+{
+    const Register gas {Quantity::Gas};
+    Household house = ofRegisters({{gas, {12, 13, 14}}}, 4 * Hour);
+    // The fifth hour is told twice, and once wrongly.
+    house.add(ofRegisters({{gas, {10, 10.5, 11, 11.25, 12, 12.75}}}, 0));
+    QCOMPARE(house.amount(Quantity::Gas, {0, 6 * Hour}), Amount(4.0));
+    QCOMPARE(house.amount(Quantity::Gas, {4 * Hour, 5 * Hour}), Amount(1.0));
+    Household apart = ofRegisters({{gas, {12, 13, 14}}}, 4 * Hour);
+    apart.add(ofRegisters({{gas, {10, 10.5}}}, 0));
+    QCOMPARE(apart.amount(Quantity::Gas, {2 * Hour, 3 * Hour}), Amount());
+    QCOMPARE(apart.amount(Quantity::Gas, {0, 6 * Hour}), Amount(4.0));
+}
+
+void tst_Household::oneRegisterMakesWayForTwoTariffs()
+{
+    constexpr Quantity quantity = Quantity::GridImport;
+    Household house = ofRegisters({{{quantity}, {10, 11, 13, 16}}}, 0);
+    house.makeWayFor({quantity, Tariff::Low});
+    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(2 * Hour, 500.0);
+    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(2 * Hour, 700.0);
+    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(4 * Hour, 501.0);
+    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(4 * Hour, 706.0);
+    QCOMPARE(house.meters.size(), std::size_t(2));
+    QCOMPARE(house.amount(quantity, {0, 4 * Hour}), Amount(10.0));
+    QCOMPARE(house.meters.at({quantity, Tariff::Low}).amount(0, 4 * Hour), Amount(1.0));
+    QCOMPARE(house.amount(quantity, {0, Hour}), Amount(1.0));
+    house.makeWayFor({quantity, Tariff::Normal});
+    QCOMPARE(house.amount(quantity, {0, 4 * Hour}), Amount(10.0));
+}
+
+void tst_Household::twoTariffsMakeWayForOneRegister()
+{
+    constexpr Quantity quantity = Quantity::GridImport;
+    Household house = ofRegisters(
+        {{{quantity, Tariff::Low}, {1, 2, 2, 2}}, {{quantity, Tariff::Normal}, {5, 5, 7, 10}}}, 0);
+    Household live = ofRegisters({{{quantity}, {100, 101}}}, 3 * Hour);
+    live.add(house);
+    QCOMPARE(live.meters.size(), std::size_t(1));
+    QCOMPARE(live.amount(quantity, {0, 4 * Hour}), Amount(7.0));
+    QCOMPARE(live.amount(quantity, {Hour, 2 * Hour}), Amount(2.0));
 }
 
 QTEST_GUILESS_MAIN(tst_Household)

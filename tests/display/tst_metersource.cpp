@@ -55,6 +55,7 @@ private Q_SLOTS:
     void init();
     void historyIsThereAfterTheNextStart();
     void historyGoesOn();
+    void filesAndMeterAreOneHousehold();
     void withoutADirectoryNothingIsKept();
     void troubleIsAProblemOfTheHousehold();
     void panelsWithAMeterMakeConsumptionExact();
@@ -116,6 +117,27 @@ void tst_MeterSource::historyGoesOn()
     QCOMPARE(source.household().amount(Quantity::GridImport, {ten, ten + 2 * hour}),
              std::optional<double>(counterAt(ten + 2 * hour) - counterAt(ten)));
     QVERIFY(source.household().meters.at(importLow).faults().empty());
+}
+
+void tst_MeterSource::filesAndMeterAreOneHousehold()
+{
+    play(ten, ten + hour, historyDirectory());
+    Household files;
+    for (qint64 at = ten - 2 * hour; at <= ten + hour / 2; at += hour / 2) {
+        files.meter(importLow, Meter::Kind::Counter).addReading(at, counterAt(at));
+    }
+    {
+        MeterSource source(QStringLiteral("/dev/null"), P1Settings(), historyDirectory());
+        source.prepare();
+        source.addOlder(files);
+        for (qint64 at = ten - 2 * hour; at < ten + hour; at += hour) {
+            QCOMPARE(source.household().amount(Quantity::GridImport, {at, at + hour}),
+                     std::optional<double>(counterAt(at + hour) - counterAt(at)));
+        }
+    }
+    MeterSource next(QStringLiteral("/dev/null"), P1Settings(), historyDirectory());
+    next.prepare();
+    QCOMPARE(next.household().firstInstant(), std::optional<qint64>(ten));
 }
 
 void tst_MeterSource::withoutADirectoryNothingIsKept()

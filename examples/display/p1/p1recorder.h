@@ -48,7 +48,8 @@ public:
     /**
      * Enters a telegram, and its power as the household's. A telegram with a problem changes
      * nothing. @p receivedAt, in seconds since 1970-01-01 UTC, is the time of a telegram that does
-     * not tell its own. A register that the household knows as another kind of meter is left out.
+     * not tell its own. What the household counted by other tariffs makes way, see
+     * Readings::Household::makeWayFor().
      */
     void add(const P1Telegram &telegram, qint64 receivedAt);
 

@@ -16,13 +16,21 @@ namespace {
 
 constexpr PlotHeights plotHeights {222, 156, 94};
 
+bool sameMeters(const std::vector<EnergySeries> &left, const std::vector<EnergySeries> &right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const EnergySeries &a, const EnergySeries &b) {
+                          return a.name == b.name && a.meters == b.meters;
+                      });
+}
+
 /** Whether two lists need the same charts: a meter that is heard for the first time adds one. */
 bool sameSeries(const std::vector<Energy> &left, const std::vector<Energy> &right)
 {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                       [](const Energy &a, const Energy &b) {
-                          return a.tab == b.tab && a.consumption.size() == b.consumption.size()
-                              && a.yield.size() == b.yield.size();
+                          return a.tab == b.tab && sameMeters(a.consumption, b.consumption)
+                              && sameMeters(a.yield, b.yield);
                       });
 }
 

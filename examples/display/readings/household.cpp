@@ -4,6 +4,7 @@
 #include "household.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Readings {
 
@@ -11,6 +12,43 @@ namespace {
 
 constexpr double WattsPerKilowatt = 1000.0;
 constexpr double SecondsPerHour = 3600.0;
+
+bool hasTariffs(const Register &meterRegister)
+{
+    return meterRegister.tariff != Tariff::Single;
+}
+
+/** All instants at which a meter may know something. */
+std::vector<qint64> bordersOf(const Meter &meter)
+{
+    std::vector<qint64> borders;
+    for (const Reading &reading : meter.readings()) {
+        borders.push_back(reading.instant);
+    }
+    for (const IntervalAmount &row : meter.amountRows()) {
+        borders.push_back(row.interval.from);
+        borders.push_back(row.interval.to);
+    }
+    std::sort(borders.begin(), borders.end());
+    borders.erase(std::unique(borders.begin(), borders.end()), borders.end());
+    return borders;
+}
+
+/** What meters counted together, from each instant at which all of them know to the next. */
+std::vector<IntervalAmount> sumOfRows(const std::vector<const Meter *> &meters)
+{
+    std::vector<IntervalAmount> rows;
+    std::optional<qint64> start;
+    for (const qint64 end : bordersOf(*meters.front())) {
+        const std::optional<double> sum =
+            start ? sumOfAmounts(meters, {*start, end}) : std::optional<double>();
+        if (sum) {
+            rows.push_back({{*start, end}, *sum, 0});
+        }
+        start = end;
+    }
+    return rows;
+}
 
 } // namespace
 
@@ -39,6 +77,46 @@ Meter &Household::meter(const Register &meterRegister, Meter::Kind kind)
         found.takeReadings();
     }
     return found;
+}
+
+void Household::makeWayFor(const Register &meterRegister)
+{
+    const Quantity quantity = meterRegister.quantity;
+    const bool isOther = std::any_of(meters.cbegin(), meters.cend(), [&](const auto &entry) {
+        return entry.first.quantity == quantity
+            && hasTariffs(entry.first) != hasTariffs(meterRegister);
+    });
+    if (!isOther) {
+        return;
+    }
+    const std::vector<IntervalAmount> counted = sumOfRows(metersOf(quantity));
+    for (auto entry = meters.begin(); entry != meters.end();) {
+        entry = entry->first.quantity == quantity ? meters.erase(entry) : std::next(entry);
+    }
+    const Tariff whole = hasTariffs(meterRegister) ? Tariff::Normal : Tariff::Single;
+    for (const IntervalAmount &row : counted) {
+        meter({quantity, whole}, Meter::Kind::Amounts).addAmount(row.interval, row.amount);
+        if (hasTariffs(meterRegister)) {
+            meter({quantity, Tariff::Low}, Meter::Kind::Amounts).addAmount(row.interval, 0.0);
+        }
+    }
+}
+
+void Household::add(Household older)
+{
+    for (const auto &entry : meters) {
+        older.makeWayFor(entry.first);
+    }
+    for (const auto &[meterRegister, known] : older.meters) {
+        Meter &here = meter(meterRegister, known.kind());
+        for (const Reading &reading : known.readings()) {
+            here.addReading(reading.instant, reading.value, reading.tag);
+        }
+        for (const IntervalAmount &row : known.amountRows()) {
+            here.addAmount(row.interval, row.amount, row.tag);
+        }
+    }
+    problems += older.problems;
 }
 
 std::vector<const Meter *> Household::metersOf(Quantity quantity) const

@@ -55,6 +55,18 @@ public:
     Meter &meter(const Register &meterRegister, Meter::Kind kind);
 
     /**
+     * Makes way for a register of a live meter: where its quantity was counted by one register
+     * until now and this is one of two tariffs, or the other way round, what was counted becomes
+     * amounts of the new registers. Of one register that is the normal tariff.
+     */
+    void makeWayFor(const Register &meterRegister);
+    /**
+     * Adds what another household's meters know; where they contradict each other, this one holds.
+     * Its registers are fitted to those here, see makeWayFor(). The time zone stays.
+     */
+    void add(Household older);
+
+    /**
      * The meters of all registers of a quantity, the tariffs of electricity for instance; none if
      * the household does not measure it. They live as long as `meters` is not changed.
      */

@@ -34,6 +34,11 @@ public:
 
     /** Reads the history; what is wrong with it is in household().problems as well. */
     void prepare() override;
+    /**
+     * Shows what files tell of the household besides. It is not kept in the history. To be called
+     * once, after prepare() and before start().
+     */
+    void addOlder(Readings::Household older) { readings.add(std::move(older)); }
     void start() override;
     const Readings::Household &household() const override { return readings; }
     std::optional<PowerReport> power() const override;
