@@ -66,18 +66,22 @@ void tst_Budget::takenOnADay()
     Household household;
     household.timeZone = QTimeZone("Europe/Amsterdam");
     const QDate date(2024, 3, 30);
-    QCOMPARE(Budget::takenOn(household, date), std::optional<double>());
+    QVERIFY(!Budget::takenOn(household, date));
 
     Meter &meter = household.meter({Quantity::GridImport}, Meter::Kind::Counter);
     const qint64 midnight = QDateTime(date, QTime(0, 0), household.timeZone).toSecsSinceEpoch();
     for (int hour = 0; hour <= 30; ++hour) {
         meter.addReading(midnight + 3600 * hour, 0.5 * hour);
     }
-    QCOMPARE(*Budget::takenOn(household, date), 12.0);
+    QCOMPARE(Budget::takenOn(household, date)->amount, 12.0);
+    QVERIFY(Budget::takenOn(household, date)->isComplete);
     // The day on which the readings end counts so far.
-    QCOMPARE(*Budget::takenOn(household, date.addDays(1)), 3.0);
-    QCOMPARE(Budget::takenOn(household, date.addDays(2)), std::optional<double>());
-    QCOMPARE(Budget::takenOn(household, date.addDays(-1)), std::optional<double>());
+    QCOMPARE(Budget::takenOn(household, date.addDays(1))->amount, 3.0);
+    QVERIFY(!Budget::takenOn(household, date.addDays(2)));
+    QVERIFY(!Budget::takenOn(household, date.addDays(-1)));
+    meter.addReading(midnight - 7200, 0.0);
+    QCOMPARE(Budget::takenOn(household, date.addDays(-1))->amount, 0.0);
+    QVERIFY(!Budget::takenOn(household, date.addDays(-1))->isComplete);
 }
 
 QTEST_APPLESS_MAIN(tst_Budget)

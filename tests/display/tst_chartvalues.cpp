@@ -103,6 +103,7 @@ void tst_ChartValues::monthWindowsEndWithTheLastWeek()
     QCOMPARE(chart.windows(), 2u);
     QCOMPARE(chart.newestWindow, last.addDays(-7 * 4));
     QVERIFY(!chart.values[2].has_value());
+    QVERIFY(chart.incomplete.empty());
     QCOMPARE(chart.values[3].value_or(-1.0), 7 * 24.0);
     // The week that begins on 21 March 2016 lost an hour to summer time.
     QCOMPARE(chart.values[5].value_or(-1.0), 7 * 24.0 - 1.0);

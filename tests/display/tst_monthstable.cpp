@@ -22,6 +22,7 @@ private Q_SLOTS:
     void emptyHouse();
     void newestMonthComesFirst();
     void unknownMonthIsADash();
+    void monthOfWhichAPartWasMeasuredIsALeast();
     void columnsAreWhatIsMeasured();
     void tariffsAreOneColumn();
 
@@ -77,11 +78,22 @@ void tst_MonthsTable::unknownMonthIsADash()
 {
     Household household;
     count(&household, {Quantity::GridImport}, QDate(2024, 1, 5), QDate(2024, 3, 1), 1.0);
+    count(&household, {Quantity::Gas}, QDate(2024, 2, 1), QDate(2024, 3, 1), 1.0);
     MonthsTable table;
     table.show(household);
     QCOMPARE(table.rowCount(), 2);
+    QCOMPARE(table.index(0, 2).data().toString(), QStringLiteral("29,0"));
+    QCOMPARE(table.index(1, 2).data().toString(), QStringLiteral("–"));
+}
+
+void tst_MonthsTable::monthOfWhichAPartWasMeasuredIsALeast()
+{
+    Household household;
+    count(&household, {Quantity::GridImport}, QDate(2024, 1, 5), QDate(2024, 3, 1), 1.0);
+    MonthsTable table;
+    table.show(household);
     QCOMPARE(table.index(0, 1).data().toString(), QStringLiteral("29,0"));
-    QCOMPARE(table.index(1, 1).data().toString(), QStringLiteral("–"));
+    QCOMPARE(table.index(1, 1).data().toString(), QStringLiteral("≥ 27,0"));
 }
 
 void tst_MonthsTable::columnsAreWhatIsMeasured()

@@ -3,6 +3,8 @@
 
 #include "chartvalues.h"
 
+#include "meter.h"
+
 #include <ZEMHistogramData>
 
 #include <algorithm>
@@ -15,32 +17,59 @@ namespace {
 // Amounts of energy come nowhere near it.
 constexpr double gapMark = std::numeric_limits<double>::lowest();
 
-void append(std::vector<std::optional<double>> &values, const Calendar::Amounts &amounts)
+/** Collects the amounts of slots, oldest first. */
+class Slots
 {
-    values.insert(values.end(), amounts.begin(), amounts.end());
-}
+public:
+    explicit Slots(const Calendar::Meters &theMeters) : meters(theMeters) { }
+
+    void add(const Readings::Interval &slot)
+    {
+        const std::optional<Readings::Measured> measured = Calendar::measured(meters, slot);
+        if (measured && !measured->isComplete) {
+            parts.push_back(values.size());
+        }
+        values.push_back(measured ? std::optional<double>(measured->amount) : std::nullopt);
+    }
+
+    ChartValues chart(Period period, const QDate &newestWindow) const
+    {
+        ChartValues made {period, newestWindow, values};
+        for (const std::size_t index : parts) {
+            made.incomplete.insert(made.slotOf(index));
+        }
+        return made;
+    }
+
+private:
+    const Calendar::Meters &meters;
+    std::vector<std::optional<double>> values;
+    std::vector<std::size_t> parts;
+};
 
 /** Whole windows of hours, one for each date. */
 ChartValues dayValues(const Calendar &calendar, const Calendar::Meters &meters,
                       const DateRange &range)
 {
-    ChartValues chart {Period::Day, range.last, {}};
+    Slots slots(meters);
     for (QDate date = range.first; date <= range.last; date = date.addDays(1)) {
-        append(chart.values, calendar.hoursOfDay(meters, date));
+        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+            slots.add(calendar.hour(date, hour));
+        }
     }
-    return chart;
+    return slots.chart(Period::Day, range.last);
 }
 
 ChartValues weekValues(const Calendar &calendar, const Calendar::Meters &meters,
                        const DateRange &range)
 {
+    Slots slots(meters);
     const QDate newest = Calendar::mondayOf(range.last);
-    ChartValues chart {Period::Week, newest, {}};
-    for (QDate monday = Calendar::mondayOf(range.first); monday <= newest;
-         monday = monday.addDays(Calendar::DaysPerWeek)) {
-        append(chart.values, calendar.daysOfWeek(meters, monday));
+    const QDate end = newest.addDays(Calendar::DaysPerWeek);
+    for (QDate date = Calendar::mondayOf(range.first); date < end; date = date.addDays(1)) {
+        slots.add(calendar.day(date));
     }
-    return chart;
+    return slots.chart(Period::Week, newest);
 }
 
 /** Windows of five weeks, counted back from the week of the last date. */
@@ -56,20 +85,23 @@ ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters
         return newestWeek.addDays(-Calendar::DaysPerWeek * qint64(count));
     };
 
-    ChartValues chart {Period::Month, weeksBack(weeksInView - 1), {}};
-    append(chart.values,
-           calendar.weeks(meters, weeksBack(windows * weeksInView - 1), windows * weeksInView));
-    return chart;
+    Slots slots(meters);
+    for (int back = windows * weeksInView - 1; back >= 0; --back) {
+        slots.add(calendar.week(weeksBack(back)));
+    }
+    return slots.chart(Period::Month, weeksBack(weeksInView - 1));
 }
 
 ChartValues yearValues(const Calendar &calendar, const Calendar::Meters &meters,
                        const DateRange &range)
 {
-    ChartValues chart {Period::Year, QDate(range.last.year(), 1, 1), {}};
-    for (int year = range.first.year(); year <= range.last.year(); ++year) {
-        append(chart.values, calendar.monthsOfYear(meters, year));
+    Slots slots(meters);
+    const QDate newest(range.last.year(), 1, 1);
+    for (QDate month(range.first.year(), 1, 1); month < newest.addYears(1);
+         month = month.addMonths(1)) {
+        slots.add(calendar.month(month));
     }
-    return chart;
+    return slots.chart(Period::Year, newest);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 
 #include <QDate>
 #include <optional>
+#include <set>
 #include <vector>
 
 class ZEMHistogramData;
@@ -20,14 +21,21 @@ struct ChartValues
     Period period = Period::Day;
     QDate newestWindow; ///< the date of x = 0
     std::vector<std::optional<double>> values; ///< an empty one is a gap
+    std::set<int> incomplete = {}; ///< slots of which only a part was measured, by their x
 
     unsigned int windows() const { return unsigned(values.size()) / slotsOf(period); }
+    /** The x at which the slot of a value begins. */
+    int slotOf(std::size_t index) const
+    {
+        return int(index) - int(values.size()) + int(slotsOf(period));
+    }
 };
 
 /**
  * Sums of @p meters by calendar: hours, days, weeks or months, whose last window holds the last
- * date. The hour of the night that summer time takes away is a gap; the one that winter time gives
- * belongs to the hour of the same name.
+ * date. A slot of which only a part was measured, since the readings begin in it or pause, shows
+ * that part and is incomplete. The hour of the night that summer time takes away is a gap; the one
+ * that winter time gives belongs to the hour of the same name.
  */
 ChartValues chartValues(const Readings::Calendar &calendar,
                         const Readings::Calendar::Meters &meters, Period period,

@@ -3,12 +3,12 @@
 
 #include "energychart.h"
 
+#include "amountseries.h"
 #include "fittedhistogram.h"
 #include "yearhistogram.h"
 
 #include <QBrush>
 #include <ZEMHistogramData>
-#include <ZEMHistogramSeries>
 #include <ZEMSmartDayHistogram>
 #include <ZEMSmartMonthHistogram>
 #include <ZEMSmartWeekHistogram>
@@ -48,6 +48,7 @@ void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
     auto *upperChart = new Chart(Chart::Place::Upper, pair ? heights.upper : heights.alone);
     upper = upperChart;
     upper->setYAxisText(energy.unit);
+    markSlots = [upperChart](const std::set<int> &slots) { upperChart->setIncomplete(slots); };
     Chart *lowerChart = nullptr;
     if (pair) {
         lowerChart = new Chart(Chart::Place::Lower, heights.lower);
@@ -74,7 +75,7 @@ std::vector<EnergyChart::Series> EnergyChart::addSeries(ZEMHistogram *chart,
     const ZEMStyle style(nullptr);
     std::vector<Series> added;
     for (const EnergySeries &each : allSeries) {
-        auto *item = new ZEMHistogramSeries(each.name, QBrush(style.color(each.color)), false);
+        auto *item = new AmountSeries(each.name, QBrush(style.color(each.color)), false);
         chart->addSeries(item);
         added.push_back({item, each.meters});
     }
@@ -83,10 +84,12 @@ std::vector<EnergyChart::Series> EnergyChart::addSeries(ZEMHistogram *chart,
 
 void EnergyChart::feed(const Readings::Calendar &calendar, const DateRange &range)
 {
+    incomplete.clear();
     feed(upper, upperSeries, calendar, range);
     if (lower) {
         feed(lower, lowerSeries, calendar, range);
     }
+    markSlots(incomplete);
     if (!isFed) {
         // The chart page turned to the newest period before there was one.
         isFed = true;
@@ -102,13 +105,14 @@ void EnergyChart::feed(ZEMHistogram *chart, const std::vector<Series> &allSeries
     for (const Series &each : allSeries) {
         const ChartValues values = chartValues(calendar, each.meters, period, range);
         largest = std::max(largest, largestValue(values));
-        ZEMHistogramData *data = makeChartData(values);
+        incomplete.insert(values.incomplete.begin(), values.incomplete.end());
+        each.item->setValues(values);
         if (chart == upper) {
-            upper->setScaleInterval(data->interval());
+            upper->setScaleInterval(
+                static_cast<const ZEMHistogramData *>(each.item->data())->interval());
             // Counting in UTC, a day of the chart always has 24 hours.
             upper->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
         }
-        each.item->setData(data);
     }
     chart->setValueLimits(QwtInterval(0.0, largest > 0.0 ? largest : 1.0));
 }

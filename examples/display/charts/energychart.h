@@ -7,9 +7,11 @@
 #include "chartvalues.h"
 #include "energy.h"
 
+#include <functional>
+
 class QwtPlot;
 class ZEMHistogram;
-class ZEMHistogramSeries;
+class AmountSeries;
 
 /** Heights of the plots of a chart in pixels, x axis included. */
 struct PlotHeights
@@ -38,7 +40,7 @@ public:
 private:
     struct Series
     {
-        ZEMHistogramSeries *item;
+        AmountSeries *item;
         Readings::Calendar::Meters meters;
     };
 
@@ -52,7 +54,10 @@ private:
     const Period period;
     bool isFed = false;
     ZEMHistogram *upper = nullptr;
+    /** Tells the headline which slots are incomplete. */
+    std::function<void(const std::set<int> &)> markSlots;
     ZEMHistogram *lower = nullptr;
+    std::set<int> incomplete;
     std::vector<Series> upperSeries;
     std::vector<Series> lowerSeries;
 };

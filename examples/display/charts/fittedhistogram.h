@@ -6,10 +6,13 @@
 
 #include <ZEMHistogramLegend>
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 #include <QwtPlotMover>
+#include <cmath>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
+#include <set>
 
 /** One row of legend items, in pixels. */
 constexpr int legendHeight = 30;
@@ -31,6 +34,27 @@ public:
     FittedHistogram(Place itsPlace, int plotHeight) : place(itsPlace), height(plotHeight) { }
 
     QwtPlot *thePlot() const { return this->plot; }
+
+    /** The headline tells when one of these slots, told by their x, is in view. */
+    void setIncomplete(const std::set<int> &slots)
+    {
+        incomplete = slots;
+        if (shown.isValid()) {
+            updateTitle(shown);
+        }
+    }
+
+    void updateTitle(QwtInterval interval) override
+    {
+        shown = interval;
+        Base::updateTitle(interval);
+        const auto first = incomplete.lower_bound(int(std::floor(interval.minValue())));
+        if (first != incomplete.end() && double(*first) < interval.maxValue()) {
+            this->titleText = QCoreApplication::translate("FittedHistogram", "%1 (onvolledig)")
+                                  .arg(this->titleText);
+            Q_EMIT this->changed(static_cast<ZEMHistogram *>(this));
+        }
+    }
 
     /** Lets a touch through to what is beneath the chart, instead of dragging it. After init(). */
     void setTouchable(bool touchable)
@@ -63,6 +87,8 @@ protected:
 private:
     const Place place;
     const int height;
+    std::set<int> incomplete;
+    QwtInterval shown;
 };
 
 #endif

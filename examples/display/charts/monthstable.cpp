@@ -59,9 +59,8 @@ void MonthsTable::show(const Readings::Household &household)
          !quantities.empty() && month.addMonths(1) > dates.first; month = month.addMonths(-1)) {
         rows.push_back({month, {}});
         for (const Quantity quantity : quantities) {
-            const Readings::Calendar::Amounts year =
-                calendar.monthsOfYear(household.metersOf(quantity), month.year());
-            rows.back().totals.push_back(year.at(std::size_t(month.month() - 1)));
+            rows.back().totals.push_back(
+                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month)));
         }
     }
     endResetModel();
@@ -91,9 +90,13 @@ QVariant MonthsTable::data(const QModelIndex &index, int role) const
         return QLocale().toString(row.month, QStringLiteral("MMM yyyy"));
     }
     const auto column = std::size_t(index.column() - 1);
-    const std::optional<double> &total = row.totals.at(column);
-    return total ? QLocale().toString(*total, 'f', decimalsOf(quantities.at(column)))
-                 : QStringLiteral("–");
+    const std::optional<Readings::Measured> &total = row.totals.at(column);
+    if (!total) {
+        return QStringLiteral("–");
+    }
+    const QString amount =
+        QLocale().toString(total->amount, 'f', decimalsOf(quantities.at(column)));
+    return total->isComplete ? amount : QStringLiteral("≥ %1").arg(amount);
 }
 
 QVariant MonthsTable::headerData(int section, Qt::Orientation orientation, int role) const

@@ -4,6 +4,7 @@
 #ifndef MONTHSTABLE_H
 #define MONTHSTABLE_H
 
+#include "meter.h"
 #include "quantity.h"
 
 #include <QAbstractTableModel>
@@ -17,7 +18,8 @@ class Household;
 
 /**
  * The totals of all months, newest first: the month, and a column for each quantity that the house
- * measures. A month that is not wholly known is a dash; the present one counts so far.
+ * measures. A month of which only a part was measured is told with "≥", one of which nothing is
+ * known by a dash; the present one counts so far.
  */
 class MonthsTable : public QAbstractTableModel
 {
@@ -38,7 +40,7 @@ private:
     struct Row
     {
         QDate month;
-        std::vector<std::optional<double>> totals;
+        std::vector<std::optional<Readings::Measured>> totals;
     };
 
     std::vector<Readings::Quantity> quantities;

@@ -45,10 +45,13 @@ QWidget *makeCard(const QString &caption, QVBoxLayout **rows)
     return card;
 }
 
-QString ofBudget(const std::optional<double> &used, double budget)
+QString ofBudget(const std::optional<Readings::Measured> &used, double budget)
 {
     const QLocale locale;
-    const QString amount = used ? locale.toString(*used, 'f', 1) : QStringLiteral("–");
+    QString amount = used ? locale.toString(used->amount, 'f', 1) : QStringLiteral("–");
+    if (used && !used->isComplete) {
+        amount.prepend(QStringLiteral("≥ "));
+    }
     return GoalsPage::tr("%1 van %2 kWh").arg(amount, locale.toString(budget, 'f', 1));
 }
 
@@ -189,15 +192,16 @@ void GoalsPage::showToday()
     const Readings::Household &household = energySource().household();
     const QDate today = datesOf(household).last;
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
-    const std::optional<double> used = Budget::takenOn(household, today);
+    const std::optional<Readings::Measured> used = Budget::takenOn(household, today);
+    const double amount = used ? used->amount : 0.0;
     todayText->setText(ofBudget(used, budget));
     todayCosts->setText(
-        used ? tr("tot nu toe € %1").arg(QLocale().toString(*used * settings->price(), 'f', 2))
+        used ? tr("tot nu toe € %1").arg(QLocale().toString(amount * settings->price(), 'f', 2))
              : QString());
 
     budgetBar->setMaxValue(budget);
-    budgetBar->setValue(used.value_or(0.0));
-    const bool isOver = used.value_or(0.0) > budget;
+    budgetBar->setValue(amount);
+    const bool isOver = amount > budget;
     const ZEMStyle style(nullptr);
     budgetBar->setValuePen(
         QPen(style.color(isOver ? ZEMStyle::SoftRed : ZEMStyle::Green), barLine));
@@ -211,7 +215,9 @@ void GoalsPage::showYesterday()
 {
     const QDate yesterday = datesOf(energySource().household()).last.addDays(-1);
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
-    const std::optional<double> used = Budget::takenOn(energySource().household(), yesterday);
+    const std::optional<Readings::Measured> used =
+        Budget::takenOn(energySource().household(), yesterday);
     yesterdayText->setText(ofBudget(used, budget));
-    stars->setStars(used ? Budget::starsFor(*used, budget) : 0);
+    // What was not measured may have cost a star.
+    stars->setStars(used && used->isComplete ? Budget::starsFor(used->amount, budget) : 0);
 }

@@ -3,6 +3,7 @@
 
 #include "overviewpage.h"
 
+#include "amountseries.h"
 #include "chartvalues.h"
 #include "energysource.h"
 #include "fittedhistogram.h"
@@ -14,8 +15,6 @@
 #include <ZEMButton>
 #include <ZEMCurrentStatusWidget>
 #include <ZEMHistogramButton>
-#include <ZEMHistogramData>
-#include <ZEMHistogramSeries>
 #include <ZEMMiniDayHistogram>
 #include <ZEMSmartWeekHistogram>
 #include <ZEMTotalsTodayWidget>
@@ -91,6 +90,7 @@ QWidget *OverviewPage::makeWeekButton()
     addSmallChart(chart, {Quantity::GridImport, Quantity::Gas}, Period::Week, ZEMStyle::Amber);
 
     auto *button = new ZEMHistogramButton;
+    weekButton = button;
     button->setTitle(tr("deze week"));
     button->setHistogram(chart);
     connect(button, &ZEMHistogramButton::clicked, this, &OverviewPage::chartsClicked);
@@ -118,7 +118,7 @@ QWidget *OverviewPage::makePageButtons()
 void OverviewPage::addSmallChart(ZEMHistogram *chart, const QVector<Readings::Quantity> &quantities,
                                  Period period, ZEMStyle::ZEMColor color)
 {
-    auto *series = new ZEMHistogramSeries(QString(), QBrush(ZEMStyle(nullptr).color(color)), false);
+    auto *series = new AmountSeries(QString(), QBrush(ZEMStyle(nullptr).color(color)), false);
     chart->addSeries(series);
     smallCharts.push_back({chart, series, quantities, period});
 }
@@ -166,7 +166,11 @@ void OverviewPage::feedCharts()
     for (const SmallChart &small : smallCharts) {
         const ChartValues values =
             chartValues(calendar, metersOf(small), small.period, newestOnly(small.period, last));
-        small.series->setData(makeChartData(values));
+        small.series->setValues(values);
+        if (small.period == Period::Week) {
+            weekButton->setTitle(values.incomplete.empty() ? tr("deze week")
+                                                           : tr("deze week (onvolledig)"));
+        }
         small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), 0.1)));
         small.chart->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
         small.chart->replot();

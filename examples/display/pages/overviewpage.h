@@ -15,7 +15,8 @@
 
 class ZEMCurrentStatusWidget;
 class ZEMHistogram;
-class ZEMHistogramSeries;
+class ZEMHistogramButton;
+class AmountSeries;
 
 /** The start page: the power that flows now, the totals of today, and the way to the other pages.
  */
@@ -40,7 +41,7 @@ private:
     struct SmallChart
     {
         ZEMHistogram *chart;
-        ZEMHistogramSeries *series;
+        AmountSeries *series;
         QVector<Readings::Quantity> quantities; ///< the first that is measured is shown
         Period period;
     };
@@ -57,6 +58,7 @@ private:
 
     ZEMCurrentStatusWidget *status = nullptr;
     std::vector<SmallChart> smallCharts;
+    ZEMHistogramButton *weekButton = nullptr;
     bool isFed = false;
 };
 

@@ -67,6 +67,22 @@ int Calendar::hourAt(qint64 instant) const
     return QDateTime::fromSecsSinceEpoch(instant, clock.timeZone()).time().hour();
 }
 
+std::optional<Measured> Calendar::measured(const Meters &meters, const Interval &slot)
+{
+    Measured sum;
+    bool isKnown = false;
+    for (const Meter *meter : meters) {
+        const std::optional<qint64> last = meter->lastInstant();
+        const Interval counted {slot.from,
+                                last && *last > slot.from ? std::min(slot.to, *last) : slot.to};
+        const std::optional<Measured> part = meter->measured(counted);
+        isKnown = isKnown || part;
+        sum.isComplete = sum.isComplete && part && part->isComplete;
+        sum.amount += part ? part->amount : 0.0;
+    }
+    return isKnown ? std::optional<Measured>(sum) : std::nullopt;
+}
+
 Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) const
 {
     Amounts amounts;

@@ -15,6 +15,7 @@
 namespace Readings {
 
 class Meter;
+struct Measured;
 
 /**
  * The slots of a chart, by the calendar of a household's time zone.
@@ -60,6 +61,13 @@ public:
     QDate dateAt(qint64 instant) const;
     /** The hour slot (0 to 23) at an instant. */
     int hourAt(qint64 instant) const;
+
+    /**
+     * What several meters measured in a slot, each of them up to its last reading if the slot is
+     * still running. It is incomplete if that of one of them is, or if one knows nothing; empty if
+     * none knows anything, and for the slot of a skipped hour.
+     */
+    static std::optional<Measured> measured(const Meters &meters, const Interval &slot);
 
     /** 24 amounts, of the hours of a day. */
     Amounts hoursOfDay(const Meters &meters, const QDate &date) const;

@@ -145,6 +145,17 @@ std::optional<double> Meter::amount(qint64 from, qint64 to) const
     return amount(Interval {from, to});
 }
 
+std::optional<Measured> Meter::measured(const Interval &interval) const
+{
+    if (const std::optional<double> known = amount(interval)) {
+        return Measured {*known, true};
+    }
+    const bool isPartKnown =
+        amounts.knowsPartOf(interval) || (counter && counter->knowsPartOf(interval));
+    return isPartKnown && !interval.isEmpty() ? std::optional<Measured>({total(interval), false})
+                                              : std::nullopt;
+}
+
 double Meter::total(const Interval &interval) const
 {
     if (!counter) {

@@ -14,6 +14,14 @@
 
 namespace Readings {
 
+/** What was measured in an interval. */
+struct Measured
+{
+    double amount = 0.0;
+    /** Whether it is all that was used in the interval, and not only what is known of it. */
+    bool isComplete = true;
+};
+
 /**
  * The history of one register of a household meter, and the answer to "how much was used from then
  * to then".
@@ -92,6 +100,12 @@ public:
      */
     std::optional<double> amount(const Interval &interval) const;
     std::optional<double> amount(qint64 from, qint64 to) const;
+
+    /**
+     * What is known of an interval: amount(), or else, marked as incomplete, total(). Empty if
+     * nothing is known, which a reading alone does not change.
+     */
+    std::optional<Measured> measured(const Interval &interval) const;
 
     /**
      * All that was counted in the interval: of a counter from its first to its last reading in it,

@@ -47,10 +47,11 @@ int starsFor(double used, double budget)
     return used > partForThreeStars * budget ? 2 : 3;
 }
 
-std::optional<double> takenOn(const Readings::Household &household, const QDate &date)
+std::optional<Readings::Measured> takenOn(const Readings::Household &household, const QDate &date)
 {
     const Readings::Calendar calendar(household.timeZone);
-    return calendar.days(household.metersOf(Readings::Quantity::GridImport), date, 1).front();
+    return Readings::Calendar::measured(household.metersOf(Readings::Quantity::GridImport),
+                                        calendar.day(date));
 }
 
 } // namespace Budget

@@ -7,6 +7,7 @@
 #include "displaysettings.h"
 
 #include "calendar.h"
+#include "meter.h"
 
 #include <QDate>
 #include <optional>
@@ -28,10 +29,10 @@ double ofDay(int yearGoal, Profile profile);
 int starsFor(double used, double budget);
 
 /**
- * What the house took from the grid on a day, in kWh; so far, if the day is still running. Empty if
- * a reading is missing.
+ * What the house took from the grid on a day, in kWh; so far, if the day is still running.
+ * Incomplete if readings are missing, empty if nothing is known.
  */
-std::optional<double> takenOn(const Readings::Household &household, const QDate &date);
+std::optional<Readings::Measured> takenOn(const Readings::Household &household, const QDate &date);
 
 } // namespace Budget
 
