@@ -33,6 +33,7 @@ private Q_SLOTS:
     void firstFileGivesTheTimeZone();
     void oldReadingsMeetNewOnes();
     void oneRegisterMakesWayForTwoTariffs();
+    void registersThatAreThereStay();
     void twoTariffsMakeWayForOneRegister();
     void ownFormatHasNoTimeZoneOfItsOwn();
     void ownFormatTellsAmountsAndTheirLength();
@@ -354,6 +355,18 @@ void tst_Household::oneRegisterMakesWayForTwoTariffs()
     QCOMPARE(house.amount(quantity, {0, Hour}), Amount(1.0));
     house.makeWayFor({quantity, Tariff::Normal});
     QCOMPARE(house.amount(quantity, {0, 4 * Hour}), Amount(10.0));
+}
+
+void tst_Household::registersThatAreThereStay()
+{
+    constexpr Quantity quantity = Quantity::GridImport;
+    Household house = ofRegisters({{{quantity}, {10, 11, 13}}}, 0);
+    const Household newer = ofRegisters(
+        {{{quantity, Tariff::Low}, {1, 2}}, {{quantity, Tariff::Normal}, {5, 9}}}, 2 * Hour);
+    house.meters.insert(newer.meters.cbegin(), newer.meters.cend());
+    house.makeWayFor({quantity, Tariff::Low});
+    QCOMPARE(house.meters.size(), std::size_t(2));
+    QCOMPARE(house.amount(quantity, {0, 3 * Hour}), Amount(8.0));
 }
 
 void tst_Household::twoTariffsMakeWayForOneRegister()

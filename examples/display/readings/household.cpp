@@ -82,16 +82,22 @@ Meter &Household::meter(const Register &meterRegister, Meter::Kind kind)
 void Household::makeWayFor(const Register &meterRegister)
 {
     const Quantity quantity = meterRegister.quantity;
-    const bool isOther = std::any_of(meters.cbegin(), meters.cend(), [&](const auto &entry) {
+    const auto isOther = [&](const auto &entry) {
         return entry.first.quantity == quantity
             && hasTariffs(entry.first) != hasTariffs(meterRegister);
-    });
-    if (!isOther) {
+    };
+    std::vector<const Meter *> others;
+    for (const auto &entry : meters) {
+        if (isOther(entry)) {
+            others.push_back(&entry.second);
+        }
+    }
+    if (others.empty()) {
         return;
     }
-    const std::vector<IntervalAmount> counted = sumOfRows(metersOf(quantity));
+    const std::vector<IntervalAmount> counted = sumOfRows(others);
     for (auto entry = meters.begin(); entry != meters.end();) {
-        entry = entry->first.quantity == quantity ? meters.erase(entry) : std::next(entry);
+        entry = isOther(*entry) ? meters.erase(entry) : std::next(entry);
     }
     const Tariff whole = hasTariffs(meterRegister) ? Tariff::Normal : Tariff::Single;
     for (const IntervalAmount &row : counted) {

@@ -97,6 +97,7 @@ void MeterSource::take(const P1Telegram &telegram)
 {
     const qint64 now = telegram.instant.value_or(QDateTime::currentSecsSinceEpoch());
     const bool wasFirst = !readings.firstInstant();
+    const std::size_t metersBefore = readings.meters.size();
     recorder.add(telegram, now);
     if (!telegram.power) {
         // What it was is not what it is.
@@ -108,7 +109,8 @@ void MeterSource::take(const P1Telegram &telegram)
     Q_EMIT powerChanged();
 
     const qint64 step = now / P1Recorder::step;
-    if (wasFirst || step != knownStep) {
+    // Whoever shows a meter must hear at once that it made way for another.
+    if (wasFirst || readings.meters.size() != metersBefore || step != knownStep) {
         knownStep = step;
         if (keeper) {
             keeper->keep(now, &readings);
