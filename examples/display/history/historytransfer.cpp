@@ -97,9 +97,11 @@ Trouble Importer::keep(const Register &meterRegister, const Meter &added, Meter 
     const double most = Readings::quantityInfo(meterRegister.quantity).mostPerHour;
     const std::vector<Reading> read = added.readings();
     const std::vector<bool> isDispensable = Readings::dispensable(read, step, most);
+    const std::set<qint64> borders = Readings::bordersOf(added.amountRows());
     std::vector<KeptReading> readings;
     for (std::size_t i = 0; i < read.size(); ++i) {
-        if (read[i].instant >= fineSince || !isDispensable[i]) {
+        if (read[i].instant >= fineSince || !isDispensable[i]
+            || borders.count(read[i].instant) > 0) {
             readings.push_back({meterRegister, read[i].instant, read[i].value});
             known.addReading(read[i].instant, read[i].value);
         }

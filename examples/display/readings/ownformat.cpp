@@ -69,8 +69,10 @@ void Table::addReadings(const Register &meterRegister, const Meter &meter)
     const int column = addColumn(Column::Role::Counter, meterRegister);
     const std::vector<bool> isDispensable =
         dispensable(readings, step, quantityInfo(meterRegister.quantity).mostPerHour);
+    const std::set<qint64> borders = bordersOf(meter.amountRows());
     for (std::size_t i = 0; i < readings.size(); ++i) {
-        if (!isDispensable[i]) {
+        // Amounts and readings meet where both tell of an instant.
+        if (!isDispensable[i] || borders.count(readings[i].instant) > 0) {
             set({readings[i].instant, step}, column, readings[i].value);
         }
     }
@@ -85,31 +87,23 @@ void Table::addAmounts(const Register &meterRegister, const Meter &meter)
     const std::vector<IntervalAmount> amounts = meter.amountRows();
     addHours(column, meter, amounts);
     for (const IntervalAmount &row : amounts) {
-        // What lies in one of the hours above is told by it.
-        const auto told = rows.find({hourOf(row).to, step});
-        const bool isTold = row.interval.from >= hourOf(row).from && told != rows.end()
-            && told->second.count(column) > 0;
-        if (!isTold) {
-            set({row.interval.to, row.interval.seconds()}, column, row.amount);
-        }
+        set({row.interval.to, row.interval.seconds()}, column, row.amount);
     }
 }
 
 void Table::addHours(int column, const Meter &meter, const std::vector<IntervalAmount> &amounts)
 {
-    // An hour beside a row that reaches into it from another one would overlap that row.
-    std::set<qint64> torn;
+    // What files told is told again as it was: the sum of an hour would overlap it.
+    std::set<qint64> told;
     for (const IntervalAmount &row : amounts) {
-        if (row.interval.from < hourOf(row).from) {
-            for (qint64 end = hourOf(row).to; end > row.interval.from; end -= step) {
-                torn.insert(end);
-            }
+        for (qint64 end = hourOf(row).to; end > row.interval.from; end -= step) {
+            told.insert(end);
         }
     }
     const qint64 last = *meter.lastInstant();
     for (qint64 end = (*meter.firstInstant() / step + 1) * step; end <= last; end += step) {
         const std::optional<double> amount = meter.amount(end - step, end);
-        if (amount && torn.count(end) == 0) {
+        if (amount && told.count(end) == 0) {
             set({end, step}, column, *amount);
         }
     }
@@ -172,6 +166,16 @@ void Table::write(QIODevice *device) const
 }
 
 } // namespace
+
+std::set<qint64> bordersOf(const std::vector<IntervalAmount> &rows)
+{
+    std::set<qint64> borders;
+    for (const IntervalAmount &row : rows) {
+        borders.insert(row.interval.from);
+        borders.insert(row.interval.to);
+    }
+    return borders;
+}
 
 int writeOwnFormat(const Household &household, QIODevice *device)
 {
