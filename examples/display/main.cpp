@@ -86,8 +86,12 @@ std::optional<Readings::Household> readHousehold(const QStringList &files)
         printError(problem);
     }
     if (energiesOf(household).empty()) {
-        printError(QStringLiteral("zemkit-display: nothing to show, as no reading of the files "
-                                  "could be used"));
+        const bool isUsable = household.firstInstant().has_value();
+        printError(isUsable ? QStringLiteral("zemkit-display: nothing to show, as the readings are "
+                                             "of what has no charts, or nothing was counted; "
+                                             "docs/readings.md tells more")
+                            : QStringLiteral("zemkit-display: nothing to show, as no reading of "
+                                             "the files could be used"));
         return std::nullopt;
     }
     return household;

@@ -6,6 +6,7 @@
 #include "historykeeper.h"
 #include "houseclock.h"
 #include "mqttoptions.h"
+#include "p1source.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -30,15 +31,31 @@ Options answer(const QString &text)
     return options;
 }
 
+/** Whether a source with "tcp://" before it is anything but a host and a port. */
+bool lacksPort(const QString &meter)
+{
+    const QString scheme = QStringLiteral("tcp://");
+    return meter.startsWith(scheme) && parseP1Address(meter).kind != P1Address::Kind::Network;
+}
+
 /** Two options that exclude each other; empty if there are none. */
 QString clashIn(const QCommandLineParser &parser)
 {
-    constexpr std::pair<const char *, const char *> clashes[] = {
-        {"data", "no-history"},    {"import", "no-history"}, {"export", "no-history"},
-        {"import", "export"},      {"import", "readings"},   {"export", "readings"},
-        {"import", "p1"},          {"export", "p1"},         {"import", "screenshots"},
-        {"export", "screenshots"}, {"mqtt", "p1"},           {"import", "mqtt"},
-        {"export", "mqtt"}};
+    constexpr std::pair<const char *, const char *> clashes[] = {{"data", "no-history"},
+                                                                 {"import", "no-history"},
+                                                                 {"export", "no-history"},
+                                                                 {"import", "export"},
+                                                                 {"import", "readings"},
+                                                                 {"export", "readings"},
+                                                                 {"import", "p1"},
+                                                                 {"export", "p1"},
+                                                                 {"import", "screenshots"},
+                                                                 {"export", "screenshots"},
+                                                                 {"speed", "import"},
+                                                                 {"speed", "export"},
+                                                                 {"mqtt", "p1"},
+                                                                 {"import", "mqtt"},
+                                                                 {"export", "mqtt"}};
     for (const auto &[one, other] : clashes) {
         if (parser.isSet(QLatin1String(one)) && parser.isSet(QLatin1String(other))) {
             return QStringLiteral("--%1 and --%2 do not go together")
@@ -56,7 +73,10 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     parser.setApplicationDescription(
         QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
                        "simulated one, or a real one with --readings, --p1 or --mqtt."));
-    const QCommandLineOption help = parser.addHelpOption();
+    // The parser's own one comes with --help-all, which has no more to say.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Displays help on commandline options."));
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption readings(
         QStringLiteral("readings"),
@@ -67,7 +87,7 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     const QCommandLineOption meter(
         QStringLiteral("p1"),
         QStringLiteral("Follow the P1 telegrams of a smart meter: a file, - for standard input, a "
-                       "serial port as /dev/ttyUSB0, or host:port."),
+                       "serial port as /dev/ttyUSB0, or [tcp://]host:port."),
         QStringLiteral("SOURCE"));
     const QCommandLineOption importFiles(
         QStringLiteral("import"),
@@ -139,6 +159,17 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     }
     if (parser.isSet(meter) && parser.value(meter).isEmpty()) {
         return refusal(QStringLiteral("--p1 wants a file, a serial port, host:port or -"));
+    }
+    if (parser.isSet(screenshots) && parser.value(screenshots).isEmpty()) {
+        return refusal(QStringLiteral("--screenshots wants a directory"));
+    }
+    if (parser.isSet(speed) && parser.isSet(readings) && !parser.isSet(meter)) {
+        return refusal(QStringLiteral("--speed and --readings do not go together: files of "
+                                      "readings stand still"));
+    }
+    if (lacksPort(parser.value(meter))) {
+        return refusal(
+            QStringLiteral("--p1 wants a port behind the host: %1:8088").arg(parser.value(meter)));
     }
     QString problem;
     const std::optional<MqttSettings> broker = mqtt.read(parser, &problem);

@@ -84,6 +84,10 @@ void tst_P1Source::addresses_data()
         QStringLiteral("meter:65536"));
     add("no port", QStringLiteral("meter:"), P1Address::Kind::File, QStringLiteral("meter:"));
     add("no host", QStringLiteral(":80"), P1Address::Kind::File, QStringLiteral(":80"));
+    add("scheme", QStringLiteral("tcp://meter:80"), P1Address::Kind::Network,
+        QStringLiteral("meter"), 80);
+    add("scheme without a port", QStringLiteral("tcp://meter"), P1Address::Kind::File,
+        QStringLiteral("tcp://meter"));
     add("path with a colon", QStringLiteral("no/such:80"), P1Address::Kind::File,
         QStringLiteral("no/such:80"));
 }

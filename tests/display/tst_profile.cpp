@@ -123,13 +123,16 @@ void tst_Profile::refusedHeadersAreExplained_data()
 {
     QTest::addColumn<QByteArray>("header");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("unknown") << QByteArray("date,price")
-                             << QStringLiteral("no known kind of file has the header "
-                                               "\"date,price\"");
+    QTest::newRow("unknown")
+        << QByteArray("date,price")
+        << QStringLiteral("no known kind of file has the header "
+                          "\"date,price\"; docs/readings.md tells of those that there are");
     QTest::newRow("empty") << QByteArray()
-                           << QStringLiteral("no known kind of file has the header \"\"");
+                           << QStringLiteral("no known kind of file has the header \"\"; "
+                                             "docs/readings.md tells of those that there are");
     QTest::newRow("long") << QByteArray(200, 'x')
-                          << QStringLiteral("no known kind of file has the header \"%1...\"")
+                          << QStringLiteral("no known kind of file has the header \"%1...\"; "
+                                            "docs/readings.md tells of those that there are")
                                  .arg(QString(60, QLatin1Char('x')));
     QTest::newRow("unknown column")
         << QByteArray("time,gas_m3,oil_l") << QStringLiteral("unknown column \"oil_l\"");
@@ -137,13 +140,15 @@ void tst_Profile::refusedHeadersAreExplained_data()
                            << QStringLiteral("column \"gas_m3\" comes twice");
     QTest::newRow("time alone") << QByteArray("time")
                                 << QStringLiteral("there is no column but \"time\"");
-    QTest::newRow("time later") << QByteArray("gas_m3,time")
-                                << QStringLiteral("no known kind of file has the header "
-                                                  "\"gas_m3,time\"");
+    QTest::newRow("time later")
+        << QByteArray("gas_m3,time")
+        << QStringLiteral("no known kind of file has the header "
+                          "\"gas_m3,time\"; docs/readings.md tells of those that there are");
     QTest::newRow("one column more")
         << QByteArray("unix_ts,water_counter,furnace_gas_counter,x")
         << QStringLiteral("no known kind of file has the header \"unix_"
-                          "ts,water_counter,furnace_gas_counter,x\"");
+                          "ts,water_counter,furnace_gas_counter,x\"; docs/readings.md tells of "
+                          "those that there are");
 }
 
 void tst_Profile::refusedHeadersAreExplained()

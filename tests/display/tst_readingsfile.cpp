@@ -518,18 +518,20 @@ void tst_ReadingsFile::unknownHeadersAreTold_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QStringList>("problems");
     QTest::newRow("empty") << QByteArray() << QStringList {"FILE: the file is empty"};
-    QTest::newRow("unknown") << QByteArray("date,price\n1,2\n")
-                             << QStringList {"FILE:1: no known kind of file has the header "
-                                             "\"date,price\""};
+    QTest::newRow("unknown")
+        << QByteArray("date,price\n1,2\n")
+        << QStringList {"FILE:1: no known kind of file has the header "
+                        "\"date,price\"; docs/readings.md tells of those that there are"};
     QTest::newRow("unknown column") << QByteArray("time,oil_l\n2024-05-01T00:00Z,10\n")
                                     << QStringList {"FILE:1: unknown column \"oil_l\""};
     QTest::newRow("column twice") << QByteArray("time,gas_m3,gas_m3\n2024-05-01T00:00Z,10,10\n")
                                   << QStringList {"FILE:1: column \"gas_m3\" comes twice"};
     QTest::newRow("header alone") << QByteArray("time,gas_m3\n")
                                   << QStringList {"FILE: there are no readings in it"};
-    QTest::newRow("no header") << QByteArray("2024-05-01T00:00Z,10\n2024-05-01T01:00Z,11\n")
-                               << QStringList {"FILE:1: no known kind of file has the header "
-                                               "\"2024-05-01T00:00Z,10\""};
+    QTest::newRow("no header")
+        << QByteArray("2024-05-01T00:00Z,10\n2024-05-01T01:00Z,11\n")
+        << QStringList {"FILE:1: no known kind of file has the header "
+                        "\"2024-05-01T00:00Z,10\"; docs/readings.md tells of those that there are"};
 }
 
 void tst_ReadingsFile::unknownHeadersAreTold()

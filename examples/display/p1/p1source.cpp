@@ -84,7 +84,9 @@ P1Address parseP1Address(const QString &text)
     if (text.startsWith(QLatin1String("/dev/"))) {
         return {P1Address::Kind::Serial, text, 0};
     }
-    const P1Address network = parseNetworkAddress(text);
+    const QString scheme = QStringLiteral("tcp://");
+    const P1Address network =
+        parseNetworkAddress(text.startsWith(scheme) ? text.mid(scheme.size()) : text);
     return network.port > 0 ? network : P1Address {P1Address::Kind::File, text, 0};
 }
 

@@ -258,7 +258,10 @@ HeaderMatch matchHeader(std::string_view header)
         return matchProfile(profile, fields);
     }
     HeaderMatch match;
-    match.problem = QStringLiteral("no known kind of file has the header %1").arg(quoted(header));
+    match.problem =
+        QStringLiteral("no known kind of file has the header %1; docs/readings.md tells "
+                       "of those that there are")
+            .arg(quoted(header));
     return match;
 }
 

@@ -157,9 +157,13 @@ bool FileLoader::readHeader()
     const QByteArray &id = header.profile->timeZone;
     zone = id.isEmpty() ? QTimeZone::systemTimeZone() : QTimeZone(id);
     if (!zone.isValid()) {
-        problems.add(file, 0, Kind::File,
-                     QStringLiteral("this system does not know the time zone %1; UTC is used")
-                         .arg(QString::fromUtf8(id)));
+        // The system's zone is none when its TZ names one that nobody knows.
+        const QByteArray named = id.isEmpty() ? qgetenv("TZ") : id;
+        if (!header.zoneField) {
+            problems.add(file, 0, Kind::File,
+                         QStringLiteral("this system does not know the time zone %1; UTC is used")
+                             .arg(QString::fromUtf8(named)));
+        }
         zone = QTimeZone::utc();
     }
     return true;
