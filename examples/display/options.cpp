@@ -10,6 +10,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -65,65 +66,89 @@ QString clashIn(const QCommandLineParser &parser)
     return {};
 }
 
-} // namespace
-
-Options readOptions(const QStringList &arguments, const QStringList &pages)
+/** The words of the command line, what help says of them, and what may be wrong with them. */
+class CommandLine
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
-                       "simulated one, or a real one with --readings, --p1 or --mqtt."));
+public:
+    explicit CommandLine(const QStringList &pages);
+
+    /** Empty if there is nothing to answer, and the options are to be looked at. */
+    std::optional<Options> answerTo(const QStringList &arguments);
+    /** Why the options make no sense; empty if they do. */
+    QString problem(const QStringList &pages) const;
+    Options options() const;
+
+    std::optional<MqttSettings> publisher(QString *problem) const
+    {
+        return mqtt.read(parser, problem);
+    }
+
+private:
+    QString missingValue() const;
+    QString historyDirectory() const;
+
     // The parser's own one comes with --help-all, which has no more to say.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Displays help on commandline options."));
-    parser.addOption(help);
-    const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption readings(
+    const QCommandLineOption help {{QStringLiteral("h"), QStringLiteral("help")},
+                                   QStringLiteral("Displays help on commandline options.")};
+    const QCommandLineOption version {{QStringLiteral("v"), QStringLiteral("version")},
+                                      QStringLiteral("Displays version information.")};
+    const QCommandLineOption readings {
         QStringLiteral("readings"),
-        QStringLiteral(
-            "Show the readings of these CSV files, which are those of one household; with "
-            "--p1 they are what was counted before the meter was followed."),
-        QStringLiteral("FILE..."));
-    const QCommandLineOption meter(
+        QStringLiteral("Show the readings of these CSV files, which are those of one household; "
+                       "with --p1 or --mqtt they are what was counted before the meter was "
+                       "followed."),
+        QStringLiteral("FILE...")};
+    const QCommandLineOption meter {
         QStringLiteral("p1"),
         QStringLiteral("Follow the P1 telegrams of a smart meter: a file, - for standard input, a "
                        "serial port as /dev/ttyUSB0, or [tcp://]host:port."),
-        QStringLiteral("SOURCE"));
-    const QCommandLineOption importFiles(
+        QStringLiteral("SOURCE")};
+    const MqttOptions mqtt;
+    const QCommandLineOption importFiles {
         QStringLiteral("import"),
         QStringLiteral("Keep the readings of these CSV files in the history, and end."),
-        QStringLiteral("FILE..."));
-    const QCommandLineOption exportFile(
+        QStringLiteral("FILE...")};
+    const QCommandLineOption exportFile {
         QStringLiteral("export"),
         QStringLiteral("Write the history to this file as CSV, by the hour, and end."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption data(
+        QStringLiteral("FILE")};
+    const QCommandLineOption data {
         QStringLiteral("data"),
         QStringLiteral("Keep the history of the meter in this directory, instead of %1.")
             .arg(HistoryKeeper::defaultDirectory()),
-        QStringLiteral("DIR"));
-    const QCommandLineOption noHistory(QStringLiteral("no-history"),
-                                       QStringLiteral("Keep no history of the meter."));
-    const QCommandLineOption speed(
+        QStringLiteral("DIR")};
+    const QCommandLineOption noHistory {QStringLiteral("no-history"),
+                                        QStringLiteral("Keep no history of the meter.")};
+    const QCommandLineOption speed {
         QStringLiteral("speed"),
         QStringLiteral("Let the simulated house, or a file of telegrams, run N times as fast."),
-        QStringLiteral("N"), QStringLiteral("1"));
-    const QCommandLineOption page(
-        QStringLiteral("page"),
-        QStringLiteral("Open this page: %1.").arg(pages.join(QStringLiteral(", "))),
-        QStringLiteral("NAME"), pages.value(0));
-    const QCommandLineOption screenshots(
+        QStringLiteral("N"), QStringLiteral("1")};
+    const QCommandLineOption page;
+    const QCommandLineOption screenshots {
         QStringLiteral("screenshots"),
         QStringLiteral("Write each page and each chart as a PNG to this directory, and end."),
-        QStringLiteral("DIR"));
-    const MqttOptions mqtt;
-    parser.addOptions({readings, meter});
+        QStringLiteral("DIR")};
+    QCommandLineParser parser;
+};
+
+CommandLine::CommandLine(const QStringList &pages)
+    : page(QStringLiteral("page"),
+           QStringLiteral("Open this page: %1.").arg(pages.join(QStringLiteral(", "))),
+           QStringLiteral("NAME"), pages.value(0))
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
+                       "simulated one, or a real one with --readings, --p1 or --mqtt."));
+    parser.addOptions({help, version, readings, meter});
     parser.addOptions(mqtt.all());
     parser.addOptions({importFiles, exportFile, data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings or --import."),
                                  QStringLiteral("[FILE...]"));
+}
 
+std::optional<Options> CommandLine::answerTo(const QStringList &arguments)
+{
     if (!parser.parse(arguments)) {
         return refusal(parser.errorText());
     }
@@ -137,69 +162,94 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
         return answer(QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
                                                     QCoreApplication::applicationVersion()));
     }
+    return {};
+}
+
+QString CommandLine::missingValue() const
+{
+    const std::pair<const QCommandLineOption &, QString> wants[] = {
+        {exportFile, QStringLiteral("--export wants a file")},
+        {data, QStringLiteral("--data wants a directory")},
+        {meter, QStringLiteral("--p1 wants a file, a serial port, host:port or -")},
+        {screenshots, QStringLiteral("--screenshots wants a directory")}};
+    for (const auto &[option, wanted] : wants) {
+        if (parser.isSet(option) && parser.value(option).isEmpty()) {
+            return wanted;
+        }
+    }
+    return {};
+}
+
+QString CommandLine::problem(const QStringList &pages) const
+{
     if (!parser.positionalArguments().isEmpty() && !parser.isSet(readings)
         && !parser.isSet(importFiles)) {
-        return refusal(QStringLiteral("unexpected argument '%1'")
-                           .arg(parser.positionalArguments().constFirst()));
+        return QStringLiteral("unexpected argument '%1'")
+            .arg(parser.positionalArguments().constFirst());
     }
     if (!pages.contains(parser.value(page))) {
-        return refusal(QStringLiteral("no page '%1'; there is %2")
-                           .arg(parser.value(page), pages.join(QStringLiteral(", "))));
+        return QStringLiteral("no page '%1'; there is %2")
+            .arg(parser.value(page), pages.join(QStringLiteral(", ")));
     }
-
-    const QString clash = clashIn(parser);
-    if (!clash.isEmpty()) {
-        return refusal(clash);
-    }
-    if (parser.isSet(exportFile) && parser.value(exportFile).isEmpty()) {
-        return refusal(QStringLiteral("--export wants a file"));
-    }
-    if (parser.isSet(data) && parser.value(data).isEmpty()) {
-        return refusal(QStringLiteral("--data wants a directory"));
-    }
-    if (parser.isSet(meter) && parser.value(meter).isEmpty()) {
-        return refusal(QStringLiteral("--p1 wants a file, a serial port, host:port or -"));
-    }
-    if (parser.isSet(screenshots) && parser.value(screenshots).isEmpty()) {
-        return refusal(QStringLiteral("--screenshots wants a directory"));
+    for (const QString &wrong : {clashIn(parser), missingValue()}) {
+        if (!wrong.isEmpty()) {
+            return wrong;
+        }
     }
     if (parser.isSet(speed) && parser.isSet(readings) && !parser.isSet(meter)) {
-        return refusal(QStringLiteral("--speed and --readings do not go together: files of "
-                                      "readings stand still"));
+        return QStringLiteral("--speed and --readings do not go together: files of readings stand "
+                              "still");
     }
     if (lacksPort(parser.value(meter))) {
-        return refusal(
-            QStringLiteral("--p1 wants a port behind the host: %1:8088").arg(parser.value(meter)));
+        return QStringLiteral("--p1 wants a port behind the host: %1:8088")
+            .arg(parser.value(meter));
     }
-    QString problem;
-    const std::optional<MqttSettings> broker = mqtt.read(parser, &problem);
-    if (!problem.isEmpty()) {
-        return refusal(problem);
+    if (!parseSpeed(parser.value(speed))) {
+        return QStringLiteral("--speed wants a number from %1 to %2, not '%3'")
+            .arg(HouseClock::slowest)
+            .arg(HouseClock::fastest)
+            .arg(parser.value(speed));
     }
-    const std::optional<double> factor = parseSpeed(parser.value(speed));
-    if (!factor) {
-        return refusal(QStringLiteral("--speed wants a number from %1 to %2, not '%3'")
-                           .arg(HouseClock::slowest)
-                           .arg(HouseClock::fastest)
-                           .arg(parser.value(speed)));
-    }
+    return {};
+}
 
+QString CommandLine::historyDirectory() const
+{
+    if (parser.isSet(data)) {
+        return parser.value(data);
+    }
     // Pictures are a look at a meter, not a part of the household's life, unless it is asked for.
-    const bool keeps =
-        parser.isSet(data) || (!parser.isSet(noHistory) && !parser.isSet(screenshots));
-    const QString historyDirectory = !keeps ? QString()
-        : parser.isSet(data)                ? parser.value(data)
-                                            : HistoryKeeper::defaultDirectory();
+    const bool keeps = !parser.isSet(noHistory) && !parser.isSet(screenshots);
+    return keeps ? HistoryKeeper::defaultDirectory() : QString();
+}
 
+Options CommandLine::options() const
+{
     Options options;
     options.meter = parser.value(meter);
-    options.mqtt = broker;
-    options.history = historyDirectory;
-    options.speed = *factor;
+    options.history = historyDirectory();
+    options.speed = *parseSpeed(parser.value(speed));
     (parser.isSet(importFiles) ? options.imports : options.readings) =
         parser.values(importFiles) + parser.values(readings) + parser.positionalArguments();
     options.exportTo = parser.value(exportFile);
     options.page = parser.value(page);
     options.screenshots = parser.value(screenshots);
     return options;
+}
+
+} // namespace
+
+Options readOptions(const QStringList &arguments, const QStringList &pages)
+{
+    CommandLine line(pages);
+    if (const std::optional<Options> answer = line.answerTo(arguments)) {
+        return *answer;
+    }
+    QString problem = line.problem(pages);
+    if (!problem.isEmpty()) {
+        return refusal(problem);
+    }
+    Options options = line.options();
+    options.mqtt = line.publisher(&problem);
+    return problem.isEmpty() ? options : refusal(problem);
 }
