@@ -12,8 +12,8 @@
 #include <QtGlobal>
 #include <optional>
 
-constexpr qint64 Hour = 3600;
-constexpr qint64 Minute = 60;
+constexpr qint64 oneHour = 3600;
+constexpr qint64 oneMinute = 60;
 
 using Amount = std::optional<double>;
 

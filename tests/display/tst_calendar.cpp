@@ -11,7 +11,7 @@ using namespace Readings;
 
 namespace {
 
-constexpr qint64 Hour = 3600;
+constexpr qint64 oneHour = 3600;
 
 const QDate springDay(2023, 3, 26);
 const QDate autumnDay(2023, 10, 29);
@@ -31,8 +31,8 @@ qint64 utc(const QDate &date, int hour)
 Meter steadyMeter(const Interval &interval)
 {
     Meter meter(Meter::Kind::Counter, 25.0);
-    for (qint64 instant = interval.from; instant <= interval.to; instant += Hour) {
-        meter.addReading(instant, static_cast<double>((instant - interval.from) / Hour));
+    for (qint64 instant = interval.from; instant <= interval.to; instant += oneHour) {
+        meter.addReading(instant, static_cast<double>((instant - interval.from) / oneHour));
     }
     return meter;
 }
@@ -62,32 +62,33 @@ private Q_SLOTS:
 void tst_Calendar::plainDayHas24EqualHours()
 {
     const Calendar calendar = amsterdam();
-    QCOMPARE(calendar.day(plainDay), (Interval {utc(plainDay, 0) - 2 * Hour, utc(plainDay, 22)}));
-    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
-        QCOMPARE(calendar.hour(plainDay, hour).from, utc(plainDay, 0) + (hour - 2) * Hour);
-        QCOMPARE(calendar.hour(plainDay, hour).seconds(), Hour);
+    QCOMPARE(calendar.day(plainDay),
+             (Interval {utc(plainDay, 0) - 2 * oneHour, utc(plainDay, 22)}));
+    for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
+        QCOMPARE(calendar.hour(plainDay, hour).from, utc(plainDay, 0) + (hour - 2) * oneHour);
+        QCOMPARE(calendar.hour(plainDay, hour).seconds(), oneHour);
     }
 }
 
 void tst_Calendar::springDayHasAnEmptySlot()
 {
     const Calendar calendar = amsterdam();
-    QCOMPARE(calendar.day(springDay).seconds(), 23 * Hour);
+    QCOMPARE(calendar.day(springDay).seconds(), 23 * oneHour);
     const qint64 change = utc(springDay, 1);
-    QCOMPARE(calendar.hour(springDay, 1), (Interval {change - Hour, change}));
+    QCOMPARE(calendar.hour(springDay, 1), (Interval {change - oneHour, change}));
     QCOMPARE(calendar.hour(springDay, 2), (Interval {change, change}));
     QVERIFY(calendar.hour(springDay, 2).isEmpty());
-    QCOMPARE(calendar.hour(springDay, 3), (Interval {change, change + Hour}));
+    QCOMPARE(calendar.hour(springDay, 3), (Interval {change, change + oneHour}));
 }
 
 void tst_Calendar::autumnDayHasASlotOfTwoHours()
 {
     const Calendar calendar = amsterdam();
-    QCOMPARE(calendar.day(autumnDay).seconds(), 25 * Hour);
+    QCOMPARE(calendar.day(autumnDay).seconds(), 25 * oneHour);
     const qint64 change = utc(autumnDay, 1);
-    QCOMPARE(calendar.hour(autumnDay, 1), (Interval {change - 2 * Hour, change - Hour}));
-    QCOMPARE(calendar.hour(autumnDay, 2), (Interval {change - Hour, change + Hour}));
-    QCOMPARE(calendar.hour(autumnDay, 3), (Interval {change + Hour, change + 2 * Hour}));
+    QCOMPARE(calendar.hour(autumnDay, 1), (Interval {change - 2 * oneHour, change - oneHour}));
+    QCOMPARE(calendar.hour(autumnDay, 2), (Interval {change - oneHour, change + oneHour}));
+    QCOMPARE(calendar.hour(autumnDay, 3), (Interval {change + oneHour, change + 2 * oneHour}));
 }
 
 void tst_Calendar::hoursOfEveryDayTouch_data()
@@ -106,7 +107,7 @@ void tst_Calendar::hoursOfEveryDayTouch()
     qint64 end = calendar.day(QDate(2016, 1, 1)).from;
     for (QDate date(2016, 1, 1); date.year() == 2016; date = date.addDays(1)) {
         QCOMPARE(calendar.day(date).from, end);
-        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
             const Interval slot = calendar.hour(date, hour);
             QCOMPARE(slot.from, end);
             QVERIFY(slot.to >= slot.from);
@@ -121,20 +122,20 @@ void tst_Calendar::weeksBeginOnMonday()
 {
     const Calendar calendar = amsterdam();
     const QDate monday(2023, 6, 12);
-    for (int day = 0; day < Calendar::DaysPerWeek; ++day) {
+    for (int day = 0; day < Calendar::daysPerWeek; ++day) {
         QCOMPARE(Calendar::mondayOf(monday.addDays(day)), monday);
         QCOMPARE(calendar.week(monday.addDays(day)).from, calendar.day(monday).from);
         QCOMPARE(calendar.week(monday.addDays(day)).to, calendar.day(monday.addDays(6)).to);
     }
     QCOMPARE(Calendar::mondayOf(monday.addDays(-1)), monday.addDays(-7));
-    QCOMPARE(calendar.week(monday).seconds(), 7 * 24 * Hour);
+    QCOMPARE(calendar.week(monday).seconds(), 7 * 24 * oneHour);
 }
 
 void tst_Calendar::weeksOfTheClockChangeAreAnHourOff()
 {
     const Calendar calendar = amsterdam();
-    QCOMPARE(calendar.week(springDay).seconds(), (7 * 24 - 1) * Hour);
-    QCOMPARE(calendar.week(autumnDay).seconds(), (7 * 24 + 1) * Hour);
+    QCOMPARE(calendar.week(springDay).seconds(), (7 * 24 - 1) * oneHour);
+    QCOMPARE(calendar.week(autumnDay).seconds(), (7 * 24 + 1) * oneHour);
 }
 
 void tst_Calendar::invalidQuestionsAreEmpty()
@@ -161,7 +162,7 @@ void tst_Calendar::instantsAreFoundInTheirSlots()
 {
     const Calendar calendar = amsterdam();
     QCOMPARE(calendar.timeZone().id(), QByteArray("Europe/Amsterdam"));
-    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+    for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
         const Interval slot = calendar.hour(autumnDay, hour);
         QCOMPARE(calendar.dateAt(slot.from), autumnDay);
         QCOMPARE(calendar.hourAt(slot.from), hour);

@@ -102,8 +102,8 @@ void tst_Household::contradictionsAreToldWithTheLaterFile()
                     + QStringLiteral(":3: gas 11.25 contradicts an earlier value for this time; "
                                      "left out")));
     const qint64 start = utc("2024-05-01T00:00:00");
-    QCOMPARE(household.amount(Quantity::Gas, {start, start + Hour}), Amount(1.0));
-    QCOMPARE(household.amount(Quantity::Gas, {start + Hour, start + 2 * Hour}), Amount(1.0));
+    QCOMPARE(household.amount(Quantity::Gas, {start, start + oneHour}), Amount(1.0));
+    QCOMPARE(household.amount(Quantity::Gas, {start + oneHour, start + 2 * oneHour}), Amount(1.0));
 }
 
 void tst_Household::otherWaysOfCountingAreLeftOut()
@@ -144,8 +144,8 @@ void tst_Household::amountsOfOneFileMeetReadingsOfAnother()
         // From the first row to the last reading; the hour that both tell is counted once.
         QCOMPARE(household.total(Quantity::Gas), 4.25);
         const qint64 first = utc("2022-12-31T23:00:00");
-        QCOMPARE(household.amount(Quantity::Gas, {first, first + 4 * Hour}), Amount(4.25));
-        QCOMPARE(household.amount(Quantity::Gas, {first + 2 * Hour, first + 3 * Hour}),
+        QCOMPARE(household.amount(Quantity::Gas, {first, first + 4 * oneHour}), Amount(4.25));
+        QCOMPARE(household.amount(Quantity::Gas, {first + 2 * oneHour, first + 3 * oneHour}),
                  Amount(1.0));
     }
 }
@@ -191,7 +191,7 @@ void tst_Household::nothingGivesAnEmptyHousehold()
     QCOMPARE(household.timeZone, QTimeZone::systemTimeZone());
     QVERIFY(!household.firstInstant());
     QVERIFY(!household.latestPower());
-    QVERIFY(!household.consumption({0, Hour}));
+    QVERIFY(!household.consumption({0, oneHour}));
 }
 
 void tst_Household::measuredPowerIsThatOfTheLastRow()
@@ -231,7 +231,7 @@ void tst_Household::meanPowerIsThatOfTheLastCompleteInterval()
 void tst_Household::consumptionNeedsWhatItIsMadeOf()
 {
     const qint64 start = utc("2024-05-01T10:00:00");
-    const Interval hour {start, start + Hour};
+    const Interval hour {start, start + oneHour};
     QCOMPARE(folder.load("time,electricity_import_kwh\n2024-05-01T10:00Z,1\n2024-05-01T11:00Z,3\n")
                  .consumption(hour),
              Amount(2.0));
@@ -292,10 +292,11 @@ void tst_Household::ownFormatTellsAmountsAndTheirLength()
                       QStringLiteral("FILE:7: bad length \"soon\" of an interval; row left out")}));
     const qint64 midnight = utc("2024-05-01T00:00:00");
     const Meter &meter = household.meters.at({Quantity::Gas});
-    QCOMPARE(meter.amount(midnight, midnight + Hour), Amount(1.5));
-    QCOMPARE(meter.amount(midnight + Hour, midnight + 2 * Hour), Amount(0.75));
+    QCOMPARE(meter.amount(midnight, midnight + oneHour), Amount(1.5));
+    QCOMPARE(meter.amount(midnight + oneHour, midnight + 2 * oneHour), Amount(0.75));
     QCOMPARE(meter.total(), 2.25);
-    QCOMPARE(household.amount(Quantity::Water, {midnight + Hour, midnight + Hour + 15 * Minute}),
+    QCOMPARE(household.amount(Quantity::Water,
+                              {midnight + oneHour, midnight + oneHour + 15 * oneMinute}),
              Amount(1.0));
 }
 
@@ -320,7 +321,7 @@ static Household ofRegisters(const std::vector<std::pair<Register, std::vector<d
     for (const auto &[meterRegister, values] : hourly) {
         for (std::size_t i = 0; i < values.size(); ++i) {
             household.meter(meterRegister, Meter::Kind::Counter)
-                .addReading(from + qint64(i) * Hour, values[i]);
+                .addReading(from + qint64(i) * oneHour, values[i]);
         }
     }
     return household;
@@ -329,15 +330,15 @@ static Household ofRegisters(const std::vector<std::pair<Register, std::vector<d
 void tst_Household::oldReadingsMeetNewOnes()
 {
     const Register gas {Quantity::Gas};
-    Household house = ofRegisters({{gas, {12, 13, 14}}}, 4 * Hour);
+    Household house = ofRegisters({{gas, {12, 13, 14}}}, 4 * oneHour);
     // The fifth hour is told twice, and once wrongly.
     house.add(ofRegisters({{gas, {10, 10.5, 11, 11.25, 12, 12.75}}}, 0));
-    QCOMPARE(house.amount(Quantity::Gas, {0, 6 * Hour}), Amount(4.0));
-    QCOMPARE(house.amount(Quantity::Gas, {4 * Hour, 5 * Hour}), Amount(1.0));
-    Household apart = ofRegisters({{gas, {12, 13, 14}}}, 4 * Hour);
+    QCOMPARE(house.amount(Quantity::Gas, {0, 6 * oneHour}), Amount(4.0));
+    QCOMPARE(house.amount(Quantity::Gas, {4 * oneHour, 5 * oneHour}), Amount(1.0));
+    Household apart = ofRegisters({{gas, {12, 13, 14}}}, 4 * oneHour);
     apart.add(ofRegisters({{gas, {10, 10.5}}}, 0));
-    QCOMPARE(apart.amount(Quantity::Gas, {2 * Hour, 3 * Hour}), Amount());
-    QCOMPARE(apart.amount(Quantity::Gas, {0, 6 * Hour}), Amount(4.0));
+    QCOMPARE(apart.amount(Quantity::Gas, {2 * oneHour, 3 * oneHour}), Amount());
+    QCOMPARE(apart.amount(Quantity::Gas, {0, 6 * oneHour}), Amount(4.0));
 }
 
 void tst_Household::oneRegisterMakesWayForTwoTariffs()
@@ -345,16 +346,16 @@ void tst_Household::oneRegisterMakesWayForTwoTariffs()
     constexpr Quantity quantity = Quantity::GridImport;
     Household house = ofRegisters({{{quantity}, {10, 11, 13, 16}}}, 0);
     house.makeWayFor({quantity, Tariff::Low});
-    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(2 * Hour, 500.0);
-    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(2 * Hour, 700.0);
-    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(4 * Hour, 501.0);
-    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(4 * Hour, 706.0);
+    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(2 * oneHour, 500.0);
+    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(2 * oneHour, 700.0);
+    house.meter({quantity, Tariff::Low}, Meter::Kind::Counter).addReading(4 * oneHour, 501.0);
+    house.meter({quantity, Tariff::Normal}, Meter::Kind::Counter).addReading(4 * oneHour, 706.0);
     QCOMPARE(house.meters.size(), std::size_t(2));
-    QCOMPARE(house.amount(quantity, {0, 4 * Hour}), Amount(10.0));
-    QCOMPARE(house.meters.at({quantity, Tariff::Low}).amount(0, 4 * Hour), Amount(1.0));
-    QCOMPARE(house.amount(quantity, {0, Hour}), Amount(1.0));
+    QCOMPARE(house.amount(quantity, {0, 4 * oneHour}), Amount(10.0));
+    QCOMPARE(house.meters.at({quantity, Tariff::Low}).amount(0, 4 * oneHour), Amount(1.0));
+    QCOMPARE(house.amount(quantity, {0, oneHour}), Amount(1.0));
     house.makeWayFor({quantity, Tariff::Normal});
-    QCOMPARE(house.amount(quantity, {0, 4 * Hour}), Amount(10.0));
+    QCOMPARE(house.amount(quantity, {0, 4 * oneHour}), Amount(10.0));
 }
 
 void tst_Household::registersThatAreThereStay()
@@ -362,11 +363,11 @@ void tst_Household::registersThatAreThereStay()
     constexpr Quantity quantity = Quantity::GridImport;
     Household house = ofRegisters({{{quantity}, {10, 11, 13}}}, 0);
     const Household newer = ofRegisters(
-        {{{quantity, Tariff::Low}, {1, 2}}, {{quantity, Tariff::Normal}, {5, 9}}}, 2 * Hour);
+        {{{quantity, Tariff::Low}, {1, 2}}, {{quantity, Tariff::Normal}, {5, 9}}}, 2 * oneHour);
     house.meters.insert(newer.meters.cbegin(), newer.meters.cend());
     house.makeWayFor({quantity, Tariff::Low});
     QCOMPARE(house.meters.size(), std::size_t(2));
-    QCOMPARE(house.amount(quantity, {0, 3 * Hour}), Amount(8.0));
+    QCOMPARE(house.amount(quantity, {0, 3 * oneHour}), Amount(8.0));
 }
 
 void tst_Household::twoTariffsMakeWayForOneRegister()
@@ -374,11 +375,11 @@ void tst_Household::twoTariffsMakeWayForOneRegister()
     constexpr Quantity quantity = Quantity::GridImport;
     Household house = ofRegisters(
         {{{quantity, Tariff::Low}, {1, 2, 2, 2}}, {{quantity, Tariff::Normal}, {5, 5, 7, 10}}}, 0);
-    Household live = ofRegisters({{{quantity}, {100, 101}}}, 3 * Hour);
+    Household live = ofRegisters({{{quantity}, {100, 101}}}, 3 * oneHour);
     live.add(house);
     QCOMPARE(live.meters.size(), std::size_t(1));
-    QCOMPARE(live.amount(quantity, {0, 4 * Hour}), Amount(7.0));
-    QCOMPARE(live.amount(quantity, {Hour, 2 * Hour}), Amount(2.0));
+    QCOMPARE(live.amount(quantity, {0, 4 * oneHour}), Amount(7.0));
+    QCOMPARE(live.amount(quantity, {oneHour, 2 * oneHour}), Amount(2.0));
 }
 
 QTEST_GUILESS_MAIN(tst_Household)

@@ -13,20 +13,20 @@ using namespace Readings;
 
 namespace {
 
-constexpr qint64 Hour = 3600;
-constexpr double Most = 25.0;
+constexpr qint64 oneHour = 3600;
+constexpr double most = 25.0;
 
 using Values = QVector<double>;
 using Indexes = QVector<int>;
 
 Meter counter()
 {
-    return Meter(Meter::Kind::Counter, Most);
+    return Meter(Meter::Kind::Counter, most);
 }
 
 Meter amounts()
 {
-    return Meter(Meter::Kind::Amounts, Most);
+    return Meter(Meter::Kind::Amounts, most);
 }
 
 // One reading an hour, from instant 0 on.
@@ -34,7 +34,7 @@ Meter hourly(const Values &values)
 {
     Meter meter = counter();
     for (int i = 0; i < values.size(); ++i) {
-        meter.addReading(i * Hour, values.at(i), i);
+        meter.addReading(i * oneHour, values.at(i), i);
     }
     return meter;
 }
@@ -84,44 +84,44 @@ private Q_SLOTS:
 void tst_Meter::counterAnswersTheDifferenceAtTheBorders()
 {
     const Meter meter = hourly({100.5, 101.0, 103.25});
-    QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.5));
-    QCOMPARE(meter.amount(Hour, 2 * Hour), std::optional<double>(2.25));
-    QCOMPARE(meter.amount(0, 2 * Hour), std::optional<double>(2.75));
-    QCOMPARE(meter.readingAt(Hour), std::optional<double>(101.0));
+    QCOMPARE(meter.amount(0, oneHour), std::optional<double>(0.5));
+    QCOMPARE(meter.amount(oneHour, 2 * oneHour), std::optional<double>(2.25));
+    QCOMPARE(meter.amount(0, 2 * oneHour), std::optional<double>(2.75));
+    QCOMPARE(meter.readingAt(oneHour), std::optional<double>(101.0));
     QCOMPARE(meter.total(), 2.75);
     QCOMPARE(meter.firstInstant(), std::optional<qint64>(0));
-    QCOMPARE(meter.lastInstant(), std::optional<qint64>(2 * Hour));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(2 * oneHour));
 }
 
 void tst_Meter::counterAnswersNothingWithoutAReadingAtABorder()
 {
     const Meter meter = hourly({100.0, 101.0, 102.0});
-    QVERIFY(!meter.amount(-Hour, Hour));
-    QVERIFY(!meter.amount(0, 3 * Hour));
-    QVERIFY(!meter.amount(0, Hour + 1));
-    QVERIFY(!meter.amount(1, Hour));
-    QVERIFY(!meter.amount(Hour, Hour));
-    QVERIFY(!meter.amount(2 * Hour, Hour));
+    QVERIFY(!meter.amount(-oneHour, oneHour));
+    QVERIFY(!meter.amount(0, 3 * oneHour));
+    QVERIFY(!meter.amount(0, oneHour + 1));
+    QVERIFY(!meter.amount(1, oneHour));
+    QVERIFY(!meter.amount(oneHour, oneHour));
+    QVERIFY(!meter.amount(2 * oneHour, oneHour));
     QVERIFY(!meter.readingAt(1));
     // A total asks for no reading at its borders.
-    QCOMPARE(meter.total(-Hour, 3 * Hour), 2.0);
-    QCOMPARE(meter.total(1, 3 * Hour), 1.0);
-    QCOMPARE(meter.total(0, 2 * Hour - 1), 1.0);
-    QCOMPARE(meter.total(1, Hour - 1), 0.0);
-    QCOMPARE(meter.total(2 * Hour, 0), 0.0);
-    QCOMPARE(meter.total(5 * Hour, 9 * Hour), 0.0);
-    QCOMPARE(meter.total(-9 * Hour, -5 * Hour), 0.0);
+    QCOMPARE(meter.total(-oneHour, 3 * oneHour), 2.0);
+    QCOMPARE(meter.total(1, 3 * oneHour), 1.0);
+    QCOMPARE(meter.total(0, 2 * oneHour - 1), 1.0);
+    QCOMPARE(meter.total(1, oneHour - 1), 0.0);
+    QCOMPARE(meter.total(2 * oneHour, 0), 0.0);
+    QCOMPARE(meter.total(5 * oneHour, 9 * oneHour), 0.0);
+    QCOMPARE(meter.total(-9 * oneHour, -5 * oneHour), 0.0);
 }
 
 void tst_Meter::gapInsideASlotDoesNoHarm()
 {
     Meter meter = counter();
     meter.addReading(0, 10.0);
-    meter.addReading(Hour, 11.0);
-    meter.addReading(50 * Hour, 41.0);
-    QCOMPARE(meter.amount(0, 50 * Hour), std::optional<double>(31.0));
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QVERIFY(!meter.amount(49 * Hour, 50 * Hour));
+    meter.addReading(oneHour, 11.0);
+    meter.addReading(50 * oneHour, 41.0);
+    QCOMPARE(meter.amount(0, 50 * oneHour), std::optional<double>(31.0));
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QVERIFY(!meter.amount(49 * oneHour, 50 * oneHour));
     QCOMPARE(meter.total(), 31.0);
     QVERIFY(meter.faults().empty());
 }
@@ -129,8 +129,8 @@ void tst_Meter::gapInsideASlotDoesNoHarm()
 void tst_Meter::unchangedCounterIsZeroAndNoGap()
 {
     const Meter meter = hourly({5.0, 5.0, 5.0});
-    QCOMPARE(meter.amount(0, Hour), std::optional<double>(0.0));
-    QCOMPARE(meter.amount(0, 2 * Hour), std::optional<double>(0.0));
+    QCOMPARE(meter.amount(0, oneHour), std::optional<double>(0.0));
+    QCOMPARE(meter.amount(0, 2 * oneHour), std::optional<double>(0.0));
 }
 
 void tst_Meter::wrongReadings_data()
@@ -181,12 +181,12 @@ void tst_Meter::wrongReadings()
 
     const Meter meter = hourly(values);
     for (int i = 0; i < values.size(); ++i) {
-        QCOMPARE(meter.readingAt(i * Hour).has_value(), !missing.contains(i));
+        QCOMPARE(meter.readingAt(i * oneHour).has_value(), !missing.contains(i));
     }
     double sum = 0.0;
     for (int i = 1; i < values.size(); ++i) {
         const bool gap = missing.contains(i) || missing.contains(i - 1) || breaks.contains(i);
-        const std::optional<double> amount = meter.amount((i - 1) * Hour, i * Hour);
+        const std::optional<double> amount = meter.amount((i - 1) * oneHour, i * oneHour);
         QCOMPARE(amount.has_value(), !gap);
         if (gap) {
             continue;
@@ -207,31 +207,31 @@ void tst_Meter::wrongReadings()
 void tst_Meter::breakHidesWhatLiesAcrossIt()
 {
     const Meter meter = hourly({500, 501, 3, 4, 6, 9000, 9002});
-    QVERIFY(!meter.amount(0, 2 * Hour));
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QVERIFY(!meter.amount(0, 6 * Hour));
-    QCOMPARE(meter.amount(2 * Hour, 4 * Hour), std::optional<double>(3.0));
+    QVERIFY(!meter.amount(0, 2 * oneHour));
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QVERIFY(!meter.amount(0, 6 * oneHour));
+    QCOMPARE(meter.amount(2 * oneHour, 4 * oneHour), std::optional<double>(3.0));
     QCOMPARE(meter.total(), 1.0 + 3.0 + 2.0);
-    QCOMPARE(meter.total(Hour, 5 * Hour), 3.0);
-    QCOMPARE(meter.total(Hour, 2 * Hour), 0.0);
+    QCOMPARE(meter.total(oneHour, 5 * oneHour), 3.0);
+    QCOMPARE(meter.total(oneHour, 2 * oneHour), 0.0);
 }
 
 void tst_Meter::newestReadingThatDoesNotFollowWaitsForTheNext()
 {
     Meter meter = hourly({100, 101, 50});
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QCOMPARE(meter.lastInstant(), std::optional<qint64>(Hour));
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(oneHour));
     QCOMPARE(faultsOf(meter, Fault::Kind::Undecided), Indexes {2});
 
     Meter other = meter;
-    meter.addReading(3 * Hour, 102.0, 3);
-    QCOMPARE(meter.amount(Hour, 3 * Hour), std::optional<double>(1.0));
+    meter.addReading(3 * oneHour, 102.0, 3);
+    QCOMPARE(meter.amount(oneHour, 3 * oneHour), std::optional<double>(1.0));
     QCOMPARE(faultsOf(meter, Fault::Kind::StepBack), Indexes {2});
     QVERIFY(faultsOf(meter, Fault::Kind::Undecided).isEmpty());
 
-    other.addReading(3 * Hour, 51.0, 3);
-    QVERIFY(!other.amount(Hour, 3 * Hour));
-    QCOMPARE(other.amount(2 * Hour, 3 * Hour), std::optional<double>(1.0));
+    other.addReading(3 * oneHour, 51.0, 3);
+    QVERIFY(!other.amount(oneHour, 3 * oneHour));
+    QCOMPARE(other.amount(2 * oneHour, 3 * oneHour), std::optional<double>(1.0));
     QCOMPARE(faultsOf(other, Fault::Kind::Break), Indexes {2});
 }
 
@@ -239,12 +239,12 @@ void tst_Meter::leapIsMeasuredAgainstTheTimeThatPassed()
 {
     Meter meter = counter();
     meter.addReading(0, 0.0);
-    meter.addReading(10 * Hour, 250.0);
-    meter.addReading(11 * Hour, 275.0);
-    meter.addReading(12 * Hour, 300.1);
-    meter.addReading(13 * Hour, 300.2);
-    QCOMPARE(meter.amount(0, 11 * Hour), std::optional<double>(275.0));
-    QVERIFY(!meter.amount(11 * Hour, 12 * Hour));
+    meter.addReading(10 * oneHour, 250.0);
+    meter.addReading(11 * oneHour, 275.0);
+    meter.addReading(12 * oneHour, 300.1);
+    meter.addReading(13 * oneHour, 300.2);
+    QCOMPARE(meter.amount(0, 11 * oneHour), std::optional<double>(275.0));
+    QVERIFY(!meter.amount(11 * oneHour, 12 * oneHour));
     QCOMPARE(meter.total(), 275.0 + (300.2 - 300.1));
 }
 
@@ -263,36 +263,36 @@ void tst_Meter::firstOfTwoReadingsForAnInstantHolds()
 {
     Meter meter = counter();
     meter.addReading(0, 10.0, 1);
-    meter.addReading(Hour, 11.0, 2);
-    meter.addReading(Hour, 11.0, 3);
-    meter.addReading(Hour, 11.5, 4);
-    QCOMPARE(meter.readingAt(Hour), std::optional<double>(11.0));
+    meter.addReading(oneHour, 11.0, 2);
+    meter.addReading(oneHour, 11.0, 3);
+    meter.addReading(oneHour, 11.5, 4);
+    QCOMPARE(meter.readingAt(oneHour), std::optional<double>(11.0));
     QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), Indexes {4});
 
     meter.addReading(0, 10.0, 5);
     meter.addReading(0, 10.1, 6);
-    meter.addReading(Hour, 12.0, 7);
+    meter.addReading(oneHour, 12.0, 7);
     QCOMPARE(meter.readingAt(0), std::optional<double>(10.0));
-    QCOMPARE(meter.readingAt(Hour), std::optional<double>(11.0));
+    QCOMPARE(meter.readingAt(oneHour), std::optional<double>(11.0));
     QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), (Indexes {4, 6, 7}));
 
-    meter.addReading(2 * Hour, 12.0, 8);
-    QCOMPARE(meter.amount(Hour, 2 * Hour), std::optional<double>(1.0));
+    meter.addReading(2 * oneHour, 12.0, 8);
+    QCOMPARE(meter.amount(oneHour, 2 * oneHour), std::optional<double>(1.0));
 }
 
 void tst_Meter::lateReadingTurnsABreakIntoAWrongReading()
 {
     Meter meter = counter();
     meter.addReading(0, 100.0, 0);
-    meter.addReading(2 * Hour, 40.0, 2);
-    meter.addReading(4 * Hour, 41.0, 4);
-    meter.addReading(5 * Hour, 102.0, 5);
-    meter.addReading(6 * Hour, 103.0, 6);
+    meter.addReading(2 * oneHour, 40.0, 2);
+    meter.addReading(4 * oneHour, 41.0, 4);
+    meter.addReading(5 * oneHour, 102.0, 5);
+    meter.addReading(6 * oneHour, 103.0, 6);
     QCOMPARE(faultsOf(meter, Fault::Kind::Break), (Indexes {2, 5}));
-    meter.addReading(3 * Hour, 101.0, 3);
+    meter.addReading(3 * oneHour, 101.0, 3);
     QCOMPARE(faultsOf(meter, Fault::Kind::Break), Indexes {});
     QCOMPARE(faultsOf(meter, Fault::Kind::StepBack), (Indexes {2, 4}));
-    QCOMPARE(meter.amount(0, 6 * Hour), std::optional<double>(3.0));
+    QCOMPARE(meter.amount(0, 6 * oneHour), std::optional<double>(3.0));
 }
 
 void tst_Meter::amountsAddUpWhereTheyCoverTheSlot()
@@ -300,48 +300,48 @@ void tst_Meter::amountsAddUpWhereTheyCoverTheSlot()
     Meter meter = amounts();
     for (int quarter = 0; quarter < 12; ++quarter) {
         if (quarter != 6) {
-            meter.addAmount({quarter * Hour / 4, (quarter + 1) * Hour / 4}, 0.25);
+            meter.addAmount({quarter * oneHour / 4, (quarter + 1) * oneHour / 4}, 0.25);
         }
     }
     QCOMPARE(meter.kind(), Meter::Kind::Amounts);
-    QCOMPARE(meter.amount(0, Hour), std::optional<double>(1.0));
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QCOMPARE(meter.amount(2 * Hour, 3 * Hour), std::optional<double>(1.0));
-    QVERIFY(!meter.amount(0, 3 * Hour));
-    QVERIFY(!meter.amount(0, 4 * Hour));
-    QVERIFY(!meter.amount(-Hour, Hour));
-    QVERIFY(!meter.amount(Hour, Hour));
-    QCOMPARE(meter.total(0, 3 * Hour), 2.75);
-    QCOMPARE(meter.total(-Hour, 9 * Hour), 2.75);
+    QCOMPARE(meter.amount(0, oneHour), std::optional<double>(1.0));
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QCOMPARE(meter.amount(2 * oneHour, 3 * oneHour), std::optional<double>(1.0));
+    QVERIFY(!meter.amount(0, 3 * oneHour));
+    QVERIFY(!meter.amount(0, 4 * oneHour));
+    QVERIFY(!meter.amount(-oneHour, oneHour));
+    QVERIFY(!meter.amount(oneHour, oneHour));
+    QCOMPARE(meter.total(0, 3 * oneHour), 2.75);
+    QCOMPARE(meter.total(-oneHour, 9 * oneHour), 2.75);
     QCOMPARE(meter.total(), 2.75);
     QVERIFY(!meter.readingAt(0));
     QCOMPARE(meter.firstInstant(), std::optional<qint64>(0));
-    QCOMPARE(meter.lastInstant(), std::optional<qint64>(3 * Hour));
+    QCOMPARE(meter.lastInstant(), std::optional<qint64>(3 * oneHour));
 }
 
 void tst_Meter::amountsAreNeverSplit()
 {
     Meter meter = amounts();
-    meter.addAmount({0, 2 * Hour}, 3.0);
-    meter.addAmount({2 * Hour, 4 * Hour}, 5.0);
-    QVERIFY(!meter.amount(0, Hour));
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QVERIFY(!meter.amount(Hour, 4 * Hour));
-    QVERIFY(!meter.amount(0, 3 * Hour));
-    QCOMPARE(meter.amount(0, 4 * Hour), std::optional<double>(8.0));
-    QCOMPARE(meter.total(Hour, 4 * Hour), 5.0);
-    QCOMPARE(meter.total(Hour, 3 * Hour), 0.0);
+    meter.addAmount({0, 2 * oneHour}, 3.0);
+    meter.addAmount({2 * oneHour, 4 * oneHour}, 5.0);
+    QVERIFY(!meter.amount(0, oneHour));
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QVERIFY(!meter.amount(oneHour, 4 * oneHour));
+    QVERIFY(!meter.amount(0, 3 * oneHour));
+    QCOMPARE(meter.amount(0, 4 * oneHour), std::optional<double>(8.0));
+    QCOMPARE(meter.total(oneHour, 4 * oneHour), 5.0);
+    QCOMPARE(meter.total(oneHour, 3 * oneHour), 0.0);
 }
 
 void tst_Meter::firstOfTwoAmountsHolds()
 {
     Meter meter = amounts();
-    meter.addAmount({0, Hour}, 1.0, 1);
-    meter.addAmount({0, Hour}, 1.0, 2);
-    meter.addAmount({0, Hour}, 2.0, 3);
-    meter.addAmount({Hour / 2, 2 * Hour}, 2.0, 4);
-    meter.addAmount({Hour, 2 * Hour}, 4.0, 5);
-    meter.addAmount({0, Hour}, 1.5, 6);
+    meter.addAmount({0, oneHour}, 1.0, 1);
+    meter.addAmount({0, oneHour}, 1.0, 2);
+    meter.addAmount({0, oneHour}, 2.0, 3);
+    meter.addAmount({oneHour / 2, 2 * oneHour}, 2.0, 4);
+    meter.addAmount({oneHour, 2 * oneHour}, 4.0, 5);
+    meter.addAmount({0, oneHour}, 1.5, 6);
     QCOMPARE(meter.total(), 5.0);
     QCOMPARE(faultsOf(meter, Fault::Kind::Contradiction), (Indexes {3, 6}));
     QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), Indexes {4});
@@ -350,12 +350,12 @@ void tst_Meter::firstOfTwoAmountsHolds()
 void tst_Meter::firstAmountThatCameHoldsAmongLateOnes()
 {
     Meter meter = amounts();
-    meter.addAmount({10 * Hour, 11 * Hour}, 1.0, 1);
-    meter.addAmount({5 * Hour, 6 * Hour}, 2.0, 2);
-    meter.addAmount({4 * Hour, 8 * Hour}, 4.0, 3);
-    meter.addAmount({5 * Hour + 1, 6 * Hour - 1}, 4.0, 4);
-    meter.addAmount({6 * Hour, 7 * Hour}, 8.0, 5);
-    QCOMPARE(meter.amount(5 * Hour, 7 * Hour), std::optional<double>(10.0));
+    meter.addAmount({10 * oneHour, 11 * oneHour}, 1.0, 1);
+    meter.addAmount({5 * oneHour, 6 * oneHour}, 2.0, 2);
+    meter.addAmount({4 * oneHour, 8 * oneHour}, 4.0, 3);
+    meter.addAmount({5 * oneHour + 1, 6 * oneHour - 1}, 4.0, 4);
+    meter.addAmount({6 * oneHour, 7 * oneHour}, 8.0, 5);
+    QCOMPARE(meter.amount(5 * oneHour, 7 * oneHour), std::optional<double>(10.0));
     QCOMPARE(meter.total(), 11.0);
     QCOMPARE(faultsOf(meter, Fault::Kind::Overlap), (Indexes {3, 4}));
 }
@@ -363,12 +363,12 @@ void tst_Meter::firstAmountThatCameHoldsAmongLateOnes()
 void tst_Meter::amountThatNoHouseholdTakesIsLeftOut()
 {
     Meter meter = amounts();
-    meter.addAmount({0, Hour}, Most, 1);
-    meter.addAmount({Hour, 2 * Hour}, Most + 0.1, 2);
-    meter.addAmount({2 * Hour, 12 * Hour}, 10 * Most, 3);
+    meter.addAmount({0, oneHour}, most, 1);
+    meter.addAmount({oneHour, 2 * oneHour}, most + 0.1, 2);
+    meter.addAmount({2 * oneHour, 12 * oneHour}, 10 * most, 3);
     QCOMPARE(faultsOf(meter, Fault::Kind::TooMuch), Indexes {2});
-    QVERIFY(!meter.amount(Hour, 2 * Hour));
-    QCOMPARE(meter.total(), 11 * Most);
+    QVERIFY(!meter.amount(oneHour, 2 * oneHour));
+    QCOMPARE(meter.total(), 11 * most);
 }
 
 void tst_Meter::nonsenseIsRefused()
@@ -377,50 +377,50 @@ void tst_Meter::nonsenseIsRefused()
     const double infinity = std::numeric_limits<double>::infinity();
     Meter readings = counter();
     QVERIFY(readings.addReading(0, 0.0));
-    QVERIFY(!readings.addReading(Hour, -0.1));
-    QVERIFY(!readings.addReading(Hour, nan));
-    QVERIFY(!readings.addReading(Hour, infinity));
-    QVERIFY(!readings.addAmount({0, Hour}, nan));
+    QVERIFY(!readings.addReading(oneHour, -0.1));
+    QVERIFY(!readings.addReading(oneHour, nan));
+    QVERIFY(!readings.addReading(oneHour, infinity));
+    QVERIFY(!readings.addAmount({0, oneHour}, nan));
     QCOMPARE(readings.lastInstant(), std::optional<qint64>(0));
 
     Meter rows = amounts();
     QVERIFY(!rows.addReading(0, 1.0));
     QVERIFY(!rows.addAmount({0, 0}, 1.0));
-    QVERIFY(!rows.addAmount({Hour, 0}, 1.0));
-    QVERIFY(!rows.addAmount({0, Hour}, -1.0));
-    QVERIFY(!rows.addAmount({0, Hour}, nan));
-    QVERIFY(!rows.addAmount({0, Hour}, infinity));
+    QVERIFY(!rows.addAmount({oneHour, 0}, 1.0));
+    QVERIFY(!rows.addAmount({0, oneHour}, -1.0));
+    QVERIFY(!rows.addAmount({0, oneHour}, nan));
+    QVERIFY(!rows.addAmount({0, oneHour}, infinity));
     QVERIFY(!rows.firstInstant());
 }
 
 void tst_Meter::stepsAreFoundFromTheEnd()
 {
     const Meter meter = hourly({10, 11, 9, 12});
-    QCOMPARE(meter.lastStepUntil(9 * Hour), std::optional<Interval>({Hour, 3 * Hour}));
-    QCOMPARE(meter.lastStepUntil(3 * Hour), std::optional<Interval>({Hour, 3 * Hour}));
-    QCOMPARE(meter.lastStepUntil(3 * Hour - 1), std::optional<Interval>({0, Hour}));
-    QVERIFY(!meter.lastStepUntil(Hour - 1));
+    QCOMPARE(meter.lastStepUntil(9 * oneHour), std::optional<Interval>({oneHour, 3 * oneHour}));
+    QCOMPARE(meter.lastStepUntil(3 * oneHour), std::optional<Interval>({oneHour, 3 * oneHour}));
+    QCOMPARE(meter.lastStepUntil(3 * oneHour - 1), std::optional<Interval>({0, oneHour}));
+    QVERIFY(!meter.lastStepUntil(oneHour - 1));
     QVERIFY(!meter.lastStepUntil(-1));
 
     Meter rows = amounts();
-    rows.addAmount({0, Hour}, 1.0);
-    rows.addAmount({2 * Hour, 3 * Hour}, 1.0);
-    QCOMPARE(rows.lastStepUntil(3 * Hour), std::optional<Interval>({2 * Hour, 3 * Hour}));
-    QCOMPARE(rows.lastStepUntil(3 * Hour - 1), std::optional<Interval>({0, Hour}));
-    QVERIFY(!rows.lastStepUntil(Hour - 1));
+    rows.addAmount({0, oneHour}, 1.0);
+    rows.addAmount({2 * oneHour, 3 * oneHour}, 1.0);
+    QCOMPARE(rows.lastStepUntil(3 * oneHour), std::optional<Interval>({2 * oneHour, 3 * oneHour}));
+    QCOMPARE(rows.lastStepUntil(3 * oneHour - 1), std::optional<Interval>({0, oneHour}));
+    QVERIFY(!rows.lastStepUntil(oneHour - 1));
 }
 
 void tst_Meter::emptyMeterKnowsNothing()
 {
     for (const Meter &meter : {counter(), amounts()}) {
-        QVERIFY(!meter.amount(0, Hour));
+        QVERIFY(!meter.amount(0, oneHour));
         QVERIFY(!meter.readingAt(0));
         QVERIFY(!meter.firstInstant());
         QVERIFY(!meter.lastInstant());
-        QVERIFY(!meter.lastStepUntil(Hour));
+        QVERIFY(!meter.lastStepUntil(oneHour));
         QVERIFY(meter.faults().empty());
         QCOMPARE(meter.total(), 0.0);
-        QCOMPARE(meter.total(0, Hour), 0.0);
+        QCOMPARE(meter.total(0, oneHour), 0.0);
     }
 }
 

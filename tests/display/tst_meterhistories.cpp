@@ -13,20 +13,20 @@ using namespace Readings;
 
 namespace {
 
-constexpr qint64 Hour = 3600;
-constexpr double Most = 25.0;
+constexpr qint64 oneHour = 3600;
+constexpr double most = 25.0;
 
 Meter counter()
 {
-    return Meter(Meter::Kind::Counter, Most);
+    return Meter(Meter::Kind::Counter, most);
 }
 
 Meter amounts()
 {
-    return Meter(Meter::Kind::Amounts, Most);
+    return Meter(Meter::Kind::Amounts, most);
 }
 
-/// A history told by its rules, one reading after the other in a plain list.
+/** A history told by its rules, one reading after the other in a plain list. */
 struct Model
 {
     struct Item
@@ -74,8 +74,8 @@ struct Model
 
 bool follows(const Model::Item &earlier, const Model::Item &later)
 {
-    const double hours = std::max(1.0, double(later.instant - earlier.instant) / double(Hour));
-    return later.value >= earlier.value && later.value <= earlier.value + Most * hours;
+    const double hours = std::max(1.0, double(later.instant - earlier.instant) / double(oneHour));
+    return later.value >= earlier.value && later.value <= earlier.value + most * hours;
 }
 
 // Strikes wrong readings off a list until none is left.
@@ -114,15 +114,15 @@ Model judged(std::vector<Model::Item> list)
     return {list};
 }
 
-/// Makes up a household meter with everything that goes wrong, and remembers the truth.
+/** Makes up a household meter with everything that goes wrong, and remembers the truth. */
 class FaultyMeter
 {
 public:
     FaultyMeter(quint32 seed, int count) : random(seed)
     {
-        qint64 instant = 1000 * Hour;
+        qint64 instant = 1000 * oneHour;
         for (int i = 0; i < count; ++i) {
-            instant += below(10) == 0 ? Hour * (2 + below(60)) : Hour;
+            instant += below(10) == 0 ? oneHour * (2 + below(60)) : oneHour;
             const bool mayFail = quiet >= 4 && i + 4 < count;
             if (mayFail && below(12) == 0) {
                 fail(instant);
@@ -186,7 +186,7 @@ private:
 
 } // namespace
 
-/// Meters with all kinds of histories, beside a plain model of what they are to answer.
+/** Meters with all kinds of histories, beside a plain model of what they are to answer. */
 class tst_MeterHistories : public QObject
 {
     Q_OBJECT
@@ -201,27 +201,27 @@ private Q_SLOTS:
 void tst_MeterHistories::everyShortHistoryIsJudgedByTheRules()
 {
     const std::vector<double> steps {0.0, 1.0, 20.0, 40.0, 60.0, 120.0};
-    constexpr int Length = 6;
+    constexpr int length = 6;
     int count = 1;
-    for (int i = 0; i < Length; ++i) {
+    for (int i = 0; i < length; ++i) {
         count *= static_cast<int>(steps.size());
     }
     for (int code = 0; code < count; ++code) {
         Meter meter = counter();
         std::vector<Model::Item> items;
         int digits = code;
-        for (int i = 0; i < Length; ++i, digits /= static_cast<int>(steps.size())) {
+        for (int i = 0; i < length; ++i, digits /= static_cast<int>(steps.size())) {
             const double value = steps[static_cast<std::size_t>(digits) % steps.size()];
-            meter.addReading(i * Hour, value);
-            items.push_back({i * Hour, value, 0});
+            meter.addReading(i * oneHour, value);
+            items.push_back({i * oneHour, value, 0});
         }
         const Model model = judged(items);
-        for (int from = 0; from < Length; ++from) {
-            for (int to = from + 1; to < Length; ++to) {
-                const std::optional<double> expected = model.amount(from * Hour, to * Hour);
-                const double total = model.total(from * Hour, to * Hour);
-                if (meter.amount(from * Hour, to * Hour) != expected
-                    || std::abs(meter.total(from * Hour, to * Hour) - total) > 1e-9) {
+        for (int from = 0; from < length; ++from) {
+            for (int to = from + 1; to < length; ++to) {
+                const std::optional<double> expected = model.amount(from * oneHour, to * oneHour);
+                const double total = model.total(from * oneHour, to * oneHour);
+                if (meter.amount(from * oneHour, to * oneHour) != expected
+                    || std::abs(meter.total(from * oneHour, to * oneHour) - total) > 1e-9) {
                     QFAIL(qPrintable(
                         QStringLiteral("history %1, %2 to %3").arg(code).arg(from).arg(to)));
                 }
@@ -249,7 +249,7 @@ void tst_MeterHistories::randomCountersMatchTheTruth()
             meter.addReading(reading.instant, reading.value);
             // A question in between must not spoil what comes later.
             if (reading.instant % 5 == 0) {
-                meter.amount(0, Hour);
+                meter.amount(0, oneHour);
             }
         }
         // What comes later for the same instants does not count, wherever it comes.
@@ -283,7 +283,7 @@ void tst_MeterHistories::randomAmountsMatchAPlainSum()
                 continue;
             }
             const double amount = slot(random) / 16.0;
-            meter.addAmount({index * Hour, (index + 1) * Hour}, amount);
+            meter.addAmount({index * oneHour, (index + 1) * oneHour}, amount);
             double &known = truth[static_cast<std::size_t>(index)];
             if (known < 0.0) {
                 known = amount;
@@ -299,17 +299,17 @@ void tst_MeterHistories::randomAmountsMatchAPlainSum()
                 covered = covered && amount >= 0.0;
                 sum += std::max(amount, 0.0);
             }
-            const std::optional<double> answer = meter.amount(from * Hour, to * Hour);
+            const std::optional<double> answer = meter.amount(from * oneHour, to * oneHour);
             QCOMPARE(answer.has_value(), covered);
             if (covered) {
                 QCOMPARE(*answer, sum);
             }
-            QCOMPARE(meter.total(from * Hour, to * Hour), sum);
+            QCOMPARE(meter.total(from * oneHour, to * oneHour), sum);
         }
     }
 }
 
-/// What is known in steps of an hour, as ways from instant to instant.
+/** What is known in steps of an hour, as ways from instant to instant. */
 struct Ways
 {
     std::vector<std::vector<int>> from; ///< the ends of what begins at an instant
@@ -330,8 +330,10 @@ struct Ways
     }
 };
 
-/// A meter that was read at some hours and told amounts of others, and the ways that lead through
-/// it.
+/**
+ * A meter that was read at some hours and told amounts of others, and the ways that lead through
+ * it.
+ */
 class MixedMeter
 {
 public:
@@ -371,7 +373,7 @@ private:
                 continue;
             }
             isNew = std::max(isNew - 1, 0);
-            meter.addReading(hour * Hour, offset + truth[hour]);
+            meter.addReading(hour * oneHour, offset + truth[hour]);
             if (last >= 0) {
                 all.add(last, hour);
                 readings.add(last, hour);
@@ -385,7 +387,7 @@ private:
         for (int hour = 0; hour < count;) {
             const int length = 1 + below(3);
             if (hour + length < count && below(10) < 8) {
-                meter.addAmount({hour * Hour, (hour + length) * Hour},
+                meter.addAmount({hour * oneHour, (hour + length) * oneHour},
                                 truth[hour + length] - truth[hour]);
                 all.add(hour, hour + length);
             }
@@ -405,11 +407,12 @@ void tst_MeterHistories::readingsAndAmountsTogetherKnowWhatAPathTells()
         const MixedMeter mixed(random, 40 + 50 * (round % 2));
         for (int from = 0; from < MixedMeter::count; ++from) {
             for (int to = from + 1; to < MixedMeter::count; ++to) {
-                const std::optional<double> answer = mixed.meter.amount(from * Hour, to * Hour);
+                const std::optional<double> answer =
+                    mixed.meter.amount(from * oneHour, to * oneHour);
                 QCOMPARE(answer.has_value(), mixed.all.lead(from, to));
                 if (answer) {
                     QCOMPARE(*answer, mixed.truth[to] - mixed.truth[from]);
-                    QCOMPARE(mixed.meter.total(from * Hour, to * Hour), *answer);
+                    QCOMPARE(mixed.meter.total(from * oneHour, to * oneHour), *answer);
                     ++known;
                     seams += mixed.readings.lead(from, to) ? 0 : 1;
                 }

@@ -114,7 +114,7 @@ void tst_ReadingsFile::ownFormatTellsTariffs()
     QCOMPARE(household.metersOf(Quantity::GridImport).size(), std::size_t(2));
     QVERIFY(household.metersOf(Quantity::Gas).empty());
     QCOMPARE(household.total(Quantity::Gas), 0.0);
-    QCOMPARE(household.amount(Quantity::Gas, {0, Hour}), Amount());
+    QCOMPARE(household.amount(Quantity::Gas, {0, oneHour}), Amount());
 }
 
 void tst_ReadingsFile::germanCountersAreReadAtTheStamp()
@@ -158,11 +158,11 @@ void tst_ReadingsFile::minuteP1CountersAreReadAtTheEndOfTheMinute()
                       "2024-02-19 00:01:00,10.25,20,30,40,9,9,D,0.25,0.75\n");
     QCOMPARE(household.problems, QStringList());
     const qint64 start = utc("2024-02-18T23:01:00");
-    QCOMPARE(household.meters.at(importLow).amount(start, start + Minute), Amount(0.25));
-    QCOMPARE(household.amount(Quantity::GridExport, {start, start + Minute}), Amount(0.0));
+    QCOMPARE(household.meters.at(importLow).amount(start, start + oneMinute), Amount(0.25));
+    QCOMPARE(household.amount(Quantity::GridExport, {start, start + oneMinute}), Amount(0.0));
     QCOMPARE(household.meters.size(), std::size_t(4));
     QCOMPARE(household.latestPower()->watts, -500.0);
-    QCOMPARE(household.latestPower()->instant, start + Minute);
+    QCOMPARE(household.latestPower()->instant, start + oneMinute);
 }
 
 void tst_ReadingsFile::portalAmountsEndAtTheStamp()
@@ -172,13 +172,13 @@ void tst_ReadingsFile::portalAmountsEndAtTheStamp()
                                               "01-01-2023 00:30:00 +0100;0,25;;0,00;;7,90\n");
     QCOMPARE(household.problems, QStringList());
     const qint64 start = utc("2022-12-31T23:00:00");
-    const Interval both {start, start + 30 * Minute};
+    const Interval both {start, start + 30 * oneMinute};
     QCOMPARE(household.meters.at(importLow).amount(both), Amount(0.11));
     QCOMPARE(household.meters.at(importNormal).amount(both), Amount(0.25));
     QCOMPARE(household.amount(Quantity::GridImport, both), Amount(0.36));
     QCOMPARE(household.amount(Quantity::GridExport, both), Amount(0.0));
     QCOMPARE(household.meters.at(importLow).kind(), Meter::Kind::Amounts);
-    QCOMPARE(household.meters.at(importNormal).amount(start, start + 15 * Minute), Amount(0.0));
+    QCOMPARE(household.meters.at(importNormal).amount(start, start + 15 * oneMinute), Amount(0.0));
 }
 
 void tst_ReadingsFile::portalGasAmountsEndAtTheStamp()
@@ -216,11 +216,11 @@ void tst_ReadingsFile::emptyCellIsAGapOfItsMeterOnly()
     QCOMPARE(household.problems, QStringList());
     const qint64 start = utc("2024-05-01T10:00:00");
     for (int hour = 0; hour < 3; ++hour) {
-        const Interval slot {start + hour * Hour, start + (hour + 1) * Hour};
+        const Interval slot {start + hour * oneHour, start + (hour + 1) * oneHour};
         QCOMPARE(household.amount(Quantity::Gas, slot), Amount());
         QCOMPARE(household.amount(Quantity::Water, slot), Amount(1.0));
     }
-    QCOMPARE(household.amount(Quantity::Gas, {start, start + 3 * Hour}), Amount(3.0));
+    QCOMPARE(household.amount(Quantity::Gas, {start, start + 3 * oneHour}), Amount(3.0));
 }
 
 void tst_ReadingsFile::emptyTariffIsZeroOnlyBesideTheOtherOne()
@@ -233,7 +233,7 @@ void tst_ReadingsFile::emptyTariffIsZeroOnlyBesideTheOtherOne()
     const qint64 start = utc("2022-12-31T23:00:00");
     const auto quarter = [&](const Register &meterRegister, int index) {
         return household.meters.at(meterRegister)
-            .amount(start + index * 15 * Minute, start + (index + 1) * 15 * Minute);
+            .amount(start + index * 15 * oneMinute, start + (index + 1) * 15 * oneMinute);
     };
     QCOMPARE(quarter(importNormal, 0), Amount(0.0));
     QCOMPARE(quarter(importLow, 0), Amount(0.11));
@@ -319,7 +319,7 @@ void tst_ReadingsFile::singleTimeBeforeTheClockIsPutBackIsSummerTime()
     const qint64 start = utc("2016-10-30T00:00:00");
     const QVector<int> minutes {0, 15, 30, 60, 90, 105};
     for (int i = 0; i < minutes.size(); ++i) {
-        QCOMPARE(meter.readingAt(start + minutes.at(i) * Minute), Amount(i + 1.0));
+        QCOMPARE(meter.readingAt(start + minutes.at(i) * oneMinute), Amount(i + 1.0));
     }
 }
 
@@ -441,9 +441,9 @@ void tst_ReadingsFile::brokenRows()
     QCOMPARE(household.problems,
              QStringList(QStringLiteral("FILE:3: ") + what + QStringLiteral("; row left out")));
     const qint64 start = utc("2024-05-01T00:00:00");
-    QCOMPARE(household.meters.at(gas).readingAt(start + Hour), Amount());
-    QCOMPARE(household.amount(Quantity::Gas, {start, start + 2 * Hour}), Amount(2.0));
-    QCOMPARE(household.amount(Quantity::Water, {start, start + 2 * Hour}), Amount(2.0));
+    QCOMPARE(household.meters.at(gas).readingAt(start + oneHour), Amount());
+    QCOMPARE(household.amount(Quantity::Gas, {start, start + 2 * oneHour}), Amount(2.0));
+    QCOMPARE(household.amount(Quantity::Water, {start, start + 2 * oneHour}), Amount(2.0));
 }
 
 void tst_ReadingsFile::everythingElseOfABrokenFileIsRead()
@@ -470,13 +470,13 @@ void tst_ReadingsFile::thousandsOfBrokenRowsAreSummedUp()
     }
     content += "2024-05-01T01:00Z,11\n";
     const Household household = folder.load(content);
-    QCOMPARE(household.problems.size(), ProblemList::ToldPerKind + 1);
-    for (int i = 0; i < ProblemList::ToldPerKind; ++i) {
+    QCOMPARE(household.problems.size(), ProblemList::toldPerKind + 1);
+    for (int i = 0; i < ProblemList::toldPerKind; ++i) {
         QVERIFY(household.problems.at(i).startsWith(QStringLiteral("FILE:%1: ").arg(i + 3)));
     }
     QCOMPARE(
         household.problems.last(),
-        QStringLiteral("FILE: %1 more broken rows, left out").arg(3000 - ProblemList::ToldPerKind));
+        QStringLiteral("FILE: %1 more broken rows, left out").arg(3000 - ProblemList::toldPerKind));
     QCOMPARE(household.total(Quantity::Gas), 1.0);
 }
 
@@ -567,7 +567,7 @@ void tst_ReadingsFile::formsOfTextDoNotMatter()
     const Household household = folder.load(content);
     QCOMPARE(household.problems, QStringList());
     const qint64 start = utc("2024-05-01T00:00:00");
-    QCOMPARE(household.amount(Quantity::Gas, {start, start + Hour}), Amount(1.0));
+    QCOMPARE(household.amount(Quantity::Gas, {start, start + oneHour}), Amount(1.0));
 }
 
 QTEST_GUILESS_MAIN(tst_ReadingsFile)

@@ -79,7 +79,7 @@ void tst_RealP1Readings::p1StepsBackAreGaps()
     for (const Register &meterRegister : {importLow, exportLow}) {
         const auto hours =
             calendar.hoursOfDay({&household.meters.at(meterRegister)}, QDate(2024, 2, 25));
-        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
             QCOMPARE(hours[static_cast<std::size_t>(hour)].has_value(), hour >= 12);
         }
     }
@@ -100,7 +100,7 @@ void tst_RealP1Readings::p1MissingRowsAreGaps()
     const auto meters = household.metersOf(Quantity::GridImport);
     const auto first = calendar.hoursOfDay(meters, QDate(2023, 8, 12));
     const auto second = calendar.hoursOfDay(meters, QDate(2023, 8, 13));
-    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+    for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
         QCOMPARE(first[static_cast<std::size_t>(hour)].has_value(), hour <= 12);
         QCOMPARE(second[static_cast<std::size_t>(hour)].has_value(), hour >= 16);
     }
@@ -140,7 +140,7 @@ void tst_RealP1Readings::p1MinutesAgreeWithHours()
         const Meter &hourly = hours.meters.at(meterRegister);
         const Meter &fine = minutes.meters.at(meterRegister);
         for (QDate date(2024, 2, 19); date <= QDate(2024, 2, 23); date = date.addDays(1)) {
-            for (int hour = 1; hour < Calendar::HoursPerDay; ++hour) {
+            for (int hour = 1; hour < Calendar::hoursPerDay; ++hour) {
                 const Interval slot = calendar.hour(date, hour);
                 const std::optional<double> expected = hourly.amount(slot);
                 const std::optional<double> found = fine.amount(slot);

@@ -61,11 +61,11 @@ void tst_RealReadings::germanYearTotals()
     const Calendar calendar(household.timeZone);
     const Interval year = yearOf(calendar, 2016);
     // 2598.150 in binary is a little less than it, hence the hair.
-    constexpr double Hair = 1e-9;
+    constexpr double hair = 1e-9;
     const auto wanted = static_cast<Quantity>(quantity);
-    QCOMPARE(rounded(household.total(wanted) + Hair, 1), total);
-    QCOMPARE(rounded(household.total(wanted, year) + Hair, 1), total);
-    QCOMPARE(rounded(*household.amount(wanted, year) + Hair, 1), total);
+    QCOMPARE(rounded(household.total(wanted) + hair, 1), total);
+    QCOMPARE(rounded(household.total(wanted, year) + hair, 1), total);
+    QCOMPARE(rounded(*household.amount(wanted, year) + hair, 1), total);
     QCOMPARE(household.firstInstant(), std::optional<qint64>(year.from));
     QCOMPARE(household.lastInstant(), std::optional<qint64>(year.to));
 }
@@ -134,7 +134,7 @@ void tst_RealReadings::germanGaps()
     const Calendar calendar(household.timeZone);
     const auto meters = household.metersOf(static_cast<Quantity>(quantity));
     const Calendar::Amounts hours = calendar.hoursOfDay(meters, date);
-    for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+    for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
         // A missing reading is the end of an hour and the start of the next.
         const bool gap = hour >= firstMissing - 1 && hour < firstMissing + missing;
         QCOMPARE(hours[static_cast<std::size_t>(hour)].has_value(), !gap);
@@ -162,7 +162,7 @@ void tst_RealReadings::germanConsumptionIsNegativeInElevenHours()
     int negative = 0;
     double lowest = 0.0;
     for (QDate date(2016, 1, 1); date.year() == 2016; date = date.addDays(1)) {
-        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
             const std::optional<double> used = household.consumption(calendar.hour(date, hour));
             known += used ? 1 : 0;
             negative += used.value_or(0.0) < 0.0 ? 1 : 0;

@@ -53,7 +53,7 @@ ChartValues dayValues(const Calendar &calendar, const Calendar::Meters &meters,
 {
     Slots slots(meters);
     for (QDate date = range.first; date <= range.last; date = date.addDays(1)) {
-        for (int hour = 0; hour < Calendar::HoursPerDay; ++hour) {
+        for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
             slots.add(calendar.hour(date, hour));
         }
     }
@@ -65,7 +65,7 @@ ChartValues weekValues(const Calendar &calendar, const Calendar::Meters &meters,
 {
     Slots slots(meters);
     const QDate newest = Calendar::mondayOf(range.last);
-    const QDate end = newest.addDays(Calendar::DaysPerWeek);
+    const QDate end = newest.addDays(Calendar::daysPerWeek);
     for (QDate date = Calendar::mondayOf(range.first); date < end; date = date.addDays(1)) {
         slots.add(calendar.day(date));
     }
@@ -79,10 +79,10 @@ ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters
     const int weeksInView = int(slotsOf(Period::Month));
     const QDate newestWeek = Calendar::mondayOf(range.last);
     const int weeks =
-        int(Calendar::mondayOf(range.first).daysTo(newestWeek)) / Calendar::DaysPerWeek + 1;
+        int(Calendar::mondayOf(range.first).daysTo(newestWeek)) / Calendar::daysPerWeek + 1;
     const int windows = (weeks + weeksInView - 1) / weeksInView;
     const auto weeksBack = [&](int count) {
-        return newestWeek.addDays(-Calendar::DaysPerWeek * qint64(count));
+        return newestWeek.addDays(-Calendar::daysPerWeek * qint64(count));
     };
 
     Slots slots(meters);

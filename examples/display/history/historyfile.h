@@ -38,7 +38,7 @@ struct KeptAmount
  *
  * A reading is there once for a register and an instant, and an amount once for a register and an
  * interval: the one that was written first holds.
- * Values are whole numbers of Wh, dm³ or MJ. The table `register` names the registers as the
+ * Values are whole numbers of Wh, dm³ or MJ. The table "register" names the registers as the
  * columns of the program's own CSV format are called. Writing is safe against power cuts: when
  * write() returns, a transaction is on the disk, or not there at all.
  *
@@ -55,7 +55,7 @@ public:
         Unusable, ///< it can be neither made, read nor written: rights, space, a device that fails
     };
 
-    /** The version of the tables that this program writes, `user_version` of the file. */
+    /** The version of the tables that this program writes, "user_version" of the file. */
     static constexpr int version = 2;
 
     HistoryFile();

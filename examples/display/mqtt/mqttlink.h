@@ -33,7 +33,7 @@ struct MqttConnection
  *
  * It works in a thread of its own, since looking up a name and shaking hands may take long. All it
  * tells comes through the mailbox, of which the thread of the link takes no more than
- * `eventsPerTurn` in a turn of its event loop, so that a screen that is served by the same thread
+ * @p eventsPerTurn in a turn of its event loop, so that a screen that is served by the same thread
  * is not kept waiting by a flood.
  */
 class MqttLink : public QObject

@@ -16,7 +16,7 @@ struct MqttEvent
 {
     enum class Kind {
         Connected,
-        Lost, ///< or not even made; the reason is in `reason`
+        Lost, ///< or not even made; the reason is in @p reason
         Message,
     };
 

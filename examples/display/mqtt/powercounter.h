@@ -11,7 +11,7 @@
  * Adds up power, so that a publisher that has no counters gives readings of one all the same.
  *
  * A power holds until the next one. Where none came for too long, or where it was unknown, nothing
- * is made up: the counter then goes on at the next full `segment`, which is a leap that every
+ * is made up: the counter then goes on at the next full @p segment, which is a leap that every
  * reader of a counter takes for a meter that was replaced, and so the stretch stays a gap.
  */
 class PowerCounter

@@ -19,7 +19,7 @@ class Household;
  * Enters a smart meter's telegrams into the history of a household.
  *
  * A meter tells its counters every second, and a year of that is more than a small device can hold.
- * So only the readings that are asked for are entered: at each full hour, and every `step` between
+ * So only the readings that are asked for are entered: at each full hour, and every @p step between
  * them so that the running hour is known, the last one heard at or before that instant. The first
  * reading of all and those around a silence are entered at their own instants.
  *

@@ -112,7 +112,7 @@ void readPower(Content &content, const P1Line &line, std::optional<double> &powe
     content.powerDigits = line.values.front().find('.');
 }
 
-/** `(time)(value*unit)`; an empty channel has a value without a unit, and a time long ago. */
+/** "(time)(value*unit)"; an empty channel has a value without a unit, and a time long ago. */
 void readChannel(Content &content, Channel &channel, const P1Line &line)
 {
     if (line.values.size() != 2) {
@@ -129,7 +129,7 @@ void readChannel(Content &content, Channel &channel, const P1Line &line)
     channel.unit = QByteArray(value.unit.data(), int(value.unit.size()));
 }
 
-/** `(time)(status)(minutes)(count)(code)(unit)`, and `(value)` on the next line. */
+/** "(time)(status)(minutes)(count)(code)(unit)", and "(value)" on the next line. */
 void readOldChannel(Content &content, Channel &channel, const P1Line &line)
 {
     constexpr std::size_t unit = 5;

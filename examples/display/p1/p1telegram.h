@@ -29,7 +29,7 @@ struct P1Reading
 /**
  * What a smart meter tells about once in one to ten seconds.
  *
- * Either `problem` says why the telegram cannot be used, and then nothing else is in it but its
+ * Either @p problem says why the telegram cannot be used, and then nothing else is in it but its
  * identification and checksum, or everything in it is to be trusted.
  */
 struct P1Telegram

@@ -13,7 +13,7 @@
 QTimeZone p1TimeZone();
 
 /**
- * Reads a meter's time stamp, `YYMMDDhhmmss` with an `S` behind it in summer and a `W` in winter:
+ * Reads a meter's time stamp, "YYMMDDhhmmss" with an "S" behind it in summer and a "W" in winter:
  * seconds since 1970-01-01 UTC. Without a letter, as old meters write the time of gas, the clock is
  * that of p1TimeZone(), and of an hour that comes twice it is the first.
  *

@@ -11,7 +11,7 @@ namespace Readings {
 
 namespace {
 
-constexpr qint64 SecondsPerHour = 3600;
+constexpr qint64 secondsPerHour = 3600;
 
 bool overlap(const Interval &left, const Interval &right)
 {
@@ -153,8 +153,8 @@ std::vector<Fault> AmountHistory::faults() const
 
 bool AmountHistory::isPlausible(const IntervalAmount &amount) const
 {
-    const qint64 elapsed = std::max(amount.interval.seconds(), SecondsPerHour);
-    return amount.amount <= mostPerHour * static_cast<double>(elapsed) / SecondsPerHour;
+    const qint64 elapsed = std::max(amount.interval.seconds(), secondsPerHour);
+    return amount.amount <= mostPerHour * static_cast<double>(elapsed) / secondsPerHour;
 }
 
 void AmountHistory::append(const IntervalAmount &amount) const

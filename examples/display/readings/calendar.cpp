@@ -12,7 +12,7 @@ namespace Readings {
 
 namespace {
 
-constexpr int SecondsPerHour = 3600;
+constexpr int secondsPerHour = 3600;
 
 } // namespace
 
@@ -20,7 +20,7 @@ Calendar::Calendar(const QTimeZone &zone) : clock(zone) { }
 
 Interval Calendar::hour(const QDate &date, int hour) const
 {
-    if (!date.isValid() || hour < 0 || hour >= HoursPerDay) {
+    if (!date.isValid() || hour < 0 || hour >= hoursPerDay) {
         return {};
     }
     return {border(date, hour), border(date, hour + 1)};
@@ -31,7 +31,7 @@ Interval Calendar::day(const QDate &date) const
     if (!date.isValid()) {
         return {};
     }
-    return {border(date, 0), border(date, HoursPerDay)};
+    return {border(date, 0), border(date, hoursPerDay)};
 }
 
 Interval Calendar::week(const QDate &date) const
@@ -40,7 +40,7 @@ Interval Calendar::week(const QDate &date) const
         return {};
     }
     const QDate monday = mondayOf(date);
-    return {border(monday, 0), border(monday.addDays(DaysPerWeek), 0)};
+    return {border(monday, 0), border(monday.addDays(daysPerWeek), 0)};
 }
 
 Interval Calendar::month(const QDate &date) const
@@ -86,8 +86,8 @@ std::optional<Measured> Calendar::measured(const Meters &meters, const Interval 
 Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) const
 {
     Amounts amounts;
-    amounts.reserve(HoursPerDay);
-    for (int slot = 0; slot < HoursPerDay; ++slot) {
+    amounts.reserve(hoursPerDay);
+    for (int slot = 0; slot < hoursPerDay; ++slot) {
         amounts.push_back(amountIn(meters, hour(date, slot)));
     }
     return amounts;
@@ -95,7 +95,7 @@ Calendar::Amounts Calendar::hoursOfDay(const Meters &meters, const QDate &date) 
 
 Calendar::Amounts Calendar::daysOfWeek(const Meters &meters, const QDate &date) const
 {
-    return days(meters, mondayOf(date), DaysPerWeek);
+    return days(meters, mondayOf(date), daysPerWeek);
 }
 
 Calendar::Amounts Calendar::days(const Meters &meters, const QDate &first, int count) const
@@ -111,7 +111,7 @@ Calendar::Amounts Calendar::weeks(const Meters &meters, const QDate &date, int c
 {
     Amounts amounts;
     for (int slot = 0; slot < count; ++slot) {
-        amounts.push_back(amountIn(meters, week(date.addDays(qint64(slot) * DaysPerWeek))));
+        amounts.push_back(amountIn(meters, week(date.addDays(qint64(slot) * daysPerWeek))));
     }
     return amounts;
 }
@@ -119,8 +119,8 @@ Calendar::Amounts Calendar::weeks(const Meters &meters, const QDate &date, int c
 Calendar::Amounts Calendar::monthsOfYear(const Meters &meters, int year) const
 {
     Amounts amounts;
-    amounts.reserve(MonthsPerYear);
-    for (int slot = 1; slot <= MonthsPerYear; ++slot) {
+    amounts.reserve(monthsPerYear);
+    for (int slot = 1; slot <= monthsPerYear; ++slot) {
         amounts.push_back(amountIn(meters, month(QDate(year, slot, 1))));
     }
     return amounts;
@@ -141,7 +141,7 @@ std::optional<double> Calendar::amountIn(const Meters &meters, const Interval &s
 // The first of two: so that the slot that begins with a doubled hour holds both of them.
 qint64 Calendar::border(const QDate &date, int hour) const
 {
-    return clock.moment(WallClock::wallSeconds(date, hour * SecondsPerHour)).earlier;
+    return clock.moment(WallClock::wallSeconds(date, hour * secondsPerHour)).earlier;
 }
 
 } // namespace Readings

@@ -36,9 +36,9 @@ public:
     using Meters = std::vector<const Meter *>;
     using Amounts = std::vector<std::optional<double>>;
 
-    static constexpr int HoursPerDay = 24;
-    static constexpr int DaysPerWeek = 7;
-    static constexpr int MonthsPerYear = 12;
+    static constexpr int hoursPerDay = 24;
+    static constexpr int daysPerWeek = 7;
+    static constexpr int monthsPerYear = 12;
 
     /** An invalid zone counts as UTC. */
     explicit Calendar(const QTimeZone &zone);
@@ -73,9 +73,9 @@ public:
     Amounts hoursOfDay(const Meters &meters, const QDate &date) const;
     /** 7 amounts, of the days of the week in which the date lies, from Monday on. */
     Amounts daysOfWeek(const Meters &meters, const QDate &date) const;
-    /** `count` amounts, of the days from `first` on. */
+    /** @p count amounts, of the days from @p first on. */
     Amounts days(const Meters &meters, const QDate &first, int count) const;
-    /** `count` amounts, of the weeks from the one on in which the date lies. */
+    /** @p count amounts, of the weeks from the one on in which the date lies. */
     Amounts weeks(const Meters &meters, const QDate &date, int count) const;
     /** 12 amounts, of the months of a year. */
     Amounts monthsOfYear(const Meters &meters, int year) const;

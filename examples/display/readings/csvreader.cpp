@@ -12,8 +12,8 @@ namespace Readings {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::size_t LongestNumber = 64;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::size_t longestNumber = 64;
 
 } // namespace
 
@@ -45,7 +45,7 @@ bool CsvReader::nextLine()
     }
     ++number;
     text = std::string_view(buffer.data(), static_cast<std::size_t>(length));
-    tooLong = length == LongestLine && text.back() != '\n';
+    tooLong = length == longestLine && text.back() != '\n';
     if (tooLong) {
         return true;
     }
@@ -55,8 +55,8 @@ bool CsvReader::nextLine()
     if (!text.empty() && text.back() == '\r') {
         text.remove_suffix(1);
     }
-    if (number == 1 && text.substr(0, ByteOrderMark.size()) == ByteOrderMark) {
-        text.remove_prefix(ByteOrderMark.size());
+    if (number == 1 && text.substr(0, byteOrderMark.size()) == byteOrderMark) {
+        text.remove_prefix(byteOrderMark.size());
     }
     return true;
 }
@@ -95,7 +95,7 @@ bool CsvReader::split(std::string_view line, char separator, std::vector<std::st
 // Not before the next line is asked for: a device may have lines without end.
 void CsvReader::skipRestOfLine()
 {
-    std::array<char, LongestLine + 1> rest {};
+    std::array<char, longestLine + 1> rest {};
     for (;;) {
         const qint64 length = file.readLine(rest.data(), rest.size());
         if (length <= 0 || rest[static_cast<std::size_t>(length) - 1] == '\n') {
@@ -107,7 +107,7 @@ void CsvReader::skipRestOfLine()
 std::optional<double> parseNumber(std::string_view text, char decimalSign)
 {
     static constexpr std::string_view letters = "0123456789+-eE";
-    std::array<char, LongestNumber> plain {};
+    std::array<char, longestNumber> plain {};
     if (text.size() > plain.size()) {
         return std::nullopt;
     }

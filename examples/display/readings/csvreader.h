@@ -33,7 +33,7 @@ public:
     std::string_view line() const { return text; }
     /** The number of the line, from 1 on. */
     int lineNumber() const { return number; }
-    /** The line is longer than any row of readings, and `line()` is only its beginning. */
+    /** The line is longer than any row of readings, and line() is only its beginning. */
     bool isTooLong() const { return tooLong; }
     /** Why reading ended before the end of the file, or an empty text. */
     QString readError() const;
@@ -45,20 +45,20 @@ public:
     static bool split(std::string_view line, char separator, std::vector<std::string_view> &fields);
 
 private:
-    static constexpr int LongestLine = 16384;
+    static constexpr int longestLine = 16384;
 
     void skipRestOfLine();
 
     QString path;
     QFile file;
-    std::array<char, LongestLine + 1> buffer {};
+    std::array<char, longestLine + 1> buffer {};
     std::string_view text;
     int number = 0;
     bool tooLong = false;
 };
 
 /**
- * Reads a decimal number, with `decimalSign` between whole and fraction. Empty unless the whole
+ * Reads a decimal number, with @p decimalSign between whole and fraction. Empty unless the whole
  * text is a number that a double can hold: digits with an optional sign, fraction and exponent.
  */
 std::optional<double> parseNumber(std::string_view text, char decimalSign);

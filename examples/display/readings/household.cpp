@@ -10,8 +10,8 @@ namespace Readings {
 
 namespace {
 
-constexpr double WattsPerKilowatt = 1000.0;
-constexpr double SecondsPerHour = 3600.0;
+constexpr double wattsPerKilowatt = 1000.0;
+constexpr double secondsPerHour = 3600.0;
 
 bool hasTariffs(const Register &meterRegister)
 {
@@ -224,8 +224,8 @@ std::optional<GridPower> Household::latestPower() const
         const std::optional<double> exported =
             exporters.empty() ? std::optional<double>(0.0) : sumOfAmounts(exporters, *step);
         if (imported && exported) {
-            const double hours = static_cast<double>(step->seconds()) / SecondsPerHour;
-            return GridPower {(*imported - *exported) / hours * WattsPerKilowatt, step->to};
+            const double hours = static_cast<double>(step->seconds()) / secondsPerHour;
+            return GridPower {(*imported - *exported) / hours * wattsPerKilowatt, step->to};
         }
         last = step->from;
     }

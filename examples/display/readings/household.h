@@ -68,7 +68,7 @@ public:
 
     /**
      * The meters of all registers of a quantity, the tariffs of electricity for instance; none if
-     * the household does not measure it. They live as long as `meters` is not changed.
+     * the household does not measure it. They live as long as @p meters is not changed.
      */
     std::vector<const Meter *> metersOf(Quantity quantity) const;
 

@@ -9,7 +9,7 @@
 namespace Readings {
 
 /**
- * A stretch of real time: from `from` on, up to but without `to`, both in seconds since
+ * A stretch of real time: from @p from on, up to but without @p to, both in seconds since
  * 1970-01-01 UTC. An interval whose end is not after its start is empty; the hour that the clock
  * skips in spring is such a one.
  */

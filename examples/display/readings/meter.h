@@ -26,7 +26,7 @@ struct Measured
  * The history of one register of a household meter, and the answer to "how much was used from then
  * to then".
  *
- * A meter is fed with readings of its counter (`Kind::Counter`) or with the amounts of intervals,
+ * A meter is fed with readings of its counter (Kind::Counter) or with the amounts of intervals,
  * from files, from a smart meter's telegrams or from a simulation. A counter may be fed with
  * amounts as well, of a time in which nobody read it: they fill what its readings do not know, and
  * the two may meet anywhere at an instant of which both tell. Where both know the same, the
@@ -53,7 +53,7 @@ public:
     enum class Kind { Counter, Amounts };
 
     /**
-     * `mostPerHour` is the most that can be used in an hour, see QuantityInfo. The same is granted
+     * @p mostPerHour is the most that can be used in an hour, see QuantityInfo. The same is granted
      * for any shorter time.
      */
     Meter(Kind kind, double mostPerHour);
@@ -64,7 +64,7 @@ public:
     void takeReadings();
 
     /**
-     * Adds a reading of the counter. `tag` is any number of the caller's that comes back in
+     * Adds a reading of the counter. @p tag is any number of the caller's that comes back in
      * faults(). Returns false and changes nothing if the meter takes no readings, or if the value
      * is negative or not finite.
      *
@@ -128,7 +128,7 @@ public:
     std::optional<qint64> lastInstant() const;
 
     /**
-     * The shortest interval known that ends last, but not after `instant`: from one reading to the
+     * The shortest interval known that ends last, but not after @p instant: from one reading to the
      * next, or a row of amounts. There may be a break in it.
      */
     std::optional<Interval> lastStepUntil(qint64 instant) const;

@@ -16,7 +16,7 @@ namespace Readings {
 
 namespace {
 
-constexpr int Decimals = 3;
+constexpr int decimals = 3;
 
 const Profile &ownProfile()
 {
@@ -148,7 +148,7 @@ QByteArray Table::textOf(const Key &key, const std::map<int, double> &cells) con
         line += ',';
         const auto cell = cells.find(column);
         if (cell != cells.end()) {
-            line += QByteArray::number(cell->second, 'f', Decimals);
+            line += QByteArray::number(cell->second, 'f', decimals);
         }
     }
     line += ',';

@@ -10,8 +10,8 @@ namespace Readings {
 
 namespace {
 
-constexpr int LongestQuotation = 60;
-constexpr int AfterLastLine = std::numeric_limits<int>::max();
+constexpr int longestQuotation = 60;
+constexpr int afterLastLine = std::numeric_limits<int>::max();
 
 QString moreOf(ProblemList::Kind kind)
 {
@@ -41,7 +41,7 @@ int ProblemList::addFile(const QString &path)
 void ProblemList::add(int file, int line, Kind kind, const QString &what)
 {
     const int count = ++counts[{file, kind}];
-    if (kind == Kind::File || count <= ToldPerKind) {
+    if (kind == Kind::File || count <= toldPerKind) {
         problems.push_back({file, line, what});
     }
 }
@@ -50,10 +50,10 @@ QStringList ProblemList::lines() const
 {
     std::vector<Problem> all = problems;
     for (const auto &entry : counts) {
-        const int untold = entry.second - ToldPerKind;
+        const int untold = entry.second - toldPerKind;
         if (entry.first.second != Kind::File && untold > 0) {
             all.push_back(
-                {entry.first.first, AfterLastLine, moreOf(entry.first.second).arg(untold)});
+                {entry.first.first, afterLastLine, moreOf(entry.first.second).arg(untold)});
         }
     }
     std::stable_sort(all.begin(), all.end(), [](const Problem &left, const Problem &right) {
@@ -63,7 +63,7 @@ QStringList ProblemList::lines() const
     QStringList texts;
     for (const Problem &problem : all) {
         QString text = files.at(problem.file) + QLatin1Char(':');
-        if (problem.line > 0 && problem.line != AfterLastLine) {
+        if (problem.line > 0 && problem.line != afterLastLine) {
             text += QString::number(problem.line) + QLatin1Char(':');
         }
         texts.append(text + QLatin1Char(' ') + problem.what);
@@ -74,16 +74,16 @@ QStringList ProblemList::lines() const
 QString quoted(std::string_view text)
 {
     // More bytes than these cannot be seen in the message.
-    constexpr std::size_t MostBytes = std::size_t(4) * (LongestQuotation + 1);
-    const std::string_view start = text.substr(0, MostBytes);
+    constexpr std::size_t mostBytes = std::size_t(4) * (longestQuotation + 1);
+    const std::string_view start = text.substr(0, mostBytes);
     QString shown = QString::fromUtf8(start.data(), static_cast<int>(start.size()));
     for (QChar &letter : shown) {
         if (!letter.isPrint() && !letter.isSurrogate()) {
             letter = QLatin1Char('?');
         }
     }
-    if (shown.size() > LongestQuotation) {
-        shown = shown.left(LongestQuotation) + QStringLiteral("...");
+    if (shown.size() > longestQuotation) {
+        shown = shown.left(longestQuotation) + QStringLiteral("...");
     }
     return QLatin1Char('"') + shown + QLatin1Char('"');
 }

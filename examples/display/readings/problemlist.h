@@ -34,12 +34,12 @@ public:
     };
 
     /** So many problems of one kind are told for each file. */
-    static constexpr int ToldPerKind = 5;
+    static constexpr int toldPerKind = 5;
 
-    /** Begins the problems of a file that is called `path`; returns its number. */
+    /** Begins the problems of a file that is called @p path; returns its number. */
     int addFile(const QString &path);
 
-    /** Adds a problem of a line, or of the file as a whole where `line` is 0. */
+    /** Adds a problem of a line, or of the file as a whole where @p line is 0. */
     void add(int file, int line, Kind kind, const QString &what);
 
     /** The lines: in the order of the files, and in a file in the order of its lines. */

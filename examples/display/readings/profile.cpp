@@ -18,12 +18,12 @@ using Recognition = Profile::Recognition;
 using Stamp = Profile::Stamp;
 using Fields = std::vector<std::string_view>;
 
-constexpr qint64 Minute = 60;
-constexpr qint64 QuarterHour = 15 * Minute;
-constexpr qint64 Hour = 60 * Minute;
+constexpr qint64 oneMinute = 60;
+constexpr qint64 quarterHour = 15 * oneMinute;
+constexpr qint64 oneHour = 60 * oneMinute;
 
-constexpr double CubicMetresPerLitre = 0.001;
-constexpr double WattsPerKilowatt = 1000.0;
+constexpr double cubicMetresPerLitre = 0.001;
+constexpr double wattsPerKilowatt = 1000.0;
 
 constexpr Register importSingle {Quantity::GridImport, Tariff::Single};
 constexpr Register importLow {Quantity::GridImport, Tariff::Low};
@@ -50,7 +50,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::IsoWithOffset,
          "",
          Stamp::IntervalEnd,
-         Hour,
+         oneHour,
          {{"electricity_import_kwh", Role::Counter, importSingle},
           {"electricity_import_low_kwh", Role::Counter, importLow},
           {"electricity_import_normal_kwh", Role::Counter, importNormal},
@@ -87,7 +87,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::IsoWallClock,
          "Europe/Berlin",
          Stamp::IntervalEnd,
-         Hour,
+         oneHour,
          {{"grid_import_kwh", Role::Counter, importSingle},
           {"grid_export_kwh", Role::Counter, exportSingle},
           {"pv_kwh", Role::Counter, solar},
@@ -104,7 +104,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::WallClock,
          "Europe/Amsterdam",
          Stamp::IntervalStart,
-         Hour,
+         oneHour,
          {{"VERBR_KWH_181", Role::Counter, importLow},
           {"VERBR_KWH_182", Role::Counter, importNormal},
           {"GELVR_KWH_281", Role::Counter, exportLow},
@@ -120,13 +120,13 @@ std::vector<Profile> makeProfiles()
          TimeFormat::WallClock,
          "Europe/Amsterdam",
          Stamp::IntervalStart,
-         Minute,
+         oneMinute,
          {{"VERBR_KWH_181", Role::Counter, importLow},
           {"VERBR_KWH_182", Role::Counter, importNormal},
           {"GELVR_KWH_281", Role::Counter, exportLow},
           {"GELVR_KWH_282", Role::Counter, exportNormal},
-          {"ACT_VERBR_KW_170", Role::Power, importSingle, WattsPerKilowatt},
-          {"ACT_GELVR_KW_270", Role::Power, exportSingle, WattsPerKilowatt}}},
+          {"ACT_VERBR_KW_170", Role::Power, importSingle, wattsPerKilowatt},
+          {"ACT_GELVR_KW_270", Role::Power, exportSingle, wattsPerKilowatt}}},
 
         {QStringLiteral("Dutch meter portal, electricity"),
          Recognition::WholeHeader,
@@ -138,7 +138,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::DayFirstWithOffset,
          "Europe/Amsterdam",
          Stamp::IntervalEnd,
-         QuarterHour,
+         quarterHour,
          {{"levering_normaal", Role::Amount, importNormal, 1.0, EmptyCell::OtherTariffApplies},
           {"levering_laag", Role::Amount, importLow, 1.0, EmptyCell::OtherTariffApplies},
           {"teruglevering_normaal", Role::Amount, exportNormal, 1.0, EmptyCell::OtherTariffApplies},
@@ -153,7 +153,7 @@ std::vector<Profile> makeProfiles()
          TimeFormat::DayFirstWithOffset,
          "Europe/Amsterdam",
          Stamp::IntervalEnd,
-         Hour,
+         oneHour,
          {{"levering", Role::Amount, gas}}},
 
         {QStringLiteral("Canadian house, water and gas"),
@@ -165,9 +165,9 @@ std::vector<Profile> makeProfiles()
          TimeFormat::UnixSeconds,
          "America/Vancouver",
          Stamp::IntervalEnd,
-         QuarterHour,
-         {{"water_counter", Role::Counter, water, CubicMetresPerLitre},
-          {"furnace_gas_counter", Role::Counter, gas, CubicMetresPerLitre}}},
+         quarterHour,
+         {{"water_counter", Role::Counter, water, cubicMetresPerLitre},
+          {"furnace_gas_counter", Role::Counter, gas, cubicMetresPerLitre}}},
     };
 }
 

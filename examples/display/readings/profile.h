@@ -47,10 +47,10 @@ struct Column
 struct Profile
 {
     enum class Recognition {
-        /** The first line is `header` to the letter. */
+        /** The first line is @p header to the letter. */
         WholeHeader,
         /**
-         * The first column is `timeColumn`, and all others are named in `columns`, in any order
+         * The first column is @p timeColumn, and all others are named in @p columns, in any order
          * and
          * any choice.
          */
@@ -58,7 +58,7 @@ struct Profile
     };
     /**
      * The instant that a row's time stamp is: its interval's first, or its last. A counter is
-     * always read at the end of the interval; one that is read at the stamp has `IntervalEnd`.
+     * always read at the end of the interval; one that is read at the stamp has IntervalEnd.
      */
     enum class Stamp { IntervalStart, IntervalEnd };
 
@@ -75,7 +75,7 @@ struct Profile
     /** The length of a row's interval in seconds; 0 where nothing depends on it. */
     qint64 step;
     std::vector<Column> columns;
-    /** The column that tells the length of a row's interval in seconds, if it is not `step`. */
+    /** The column that tells the length of a row's interval in seconds, if it is not @p step. */
     QByteArray lengthColumn = {};
     /** The column whose first cell that is not empty tells the IANA id of the time zone. */
     QByteArray zoneColumn = {};
@@ -93,7 +93,7 @@ struct HeaderMatch
         const Column *column;
     };
 
-    /** Null if the file cannot be read; then `problem` says why in English. */
+    /** Null if the file cannot be read; then @p problem says why in English. */
     const Profile *profile = nullptr;
     QString problem;
     std::size_t fieldCount = 0;

@@ -11,12 +11,12 @@ namespace {
 
 // A house connection of three phases of 35 A gives 24 kW; a gas meter G6 10 m³/h; a water meter
 // QN 2.5 at most 5 m³/h; the largest house station of district heating about 100 kW.
-constexpr double MostElectricityPerHour = 25.0;
-constexpr double MostGasPerHour = 10.0;
-constexpr double MostWaterPerHour = 5.0;
-constexpr double MostHeatPerHour = 0.4;
+constexpr double mostElectricityPerHour = 25.0;
+constexpr double mostGasPerHour = 10.0;
+constexpr double mostWaterPerHour = 5.0;
+constexpr double mostHeatPerHour = 0.4;
 
-constexpr int QuantityCount = 8;
+constexpr int quantityCount = 8;
 
 } // namespace
 
@@ -25,16 +25,16 @@ const QuantityInfo &quantityInfo(Quantity quantity)
     static const QString kWh = QStringLiteral("kWh");
     static const QString cubicMetre = QString::fromUtf8("m³");
     static const QString gigajoule = QStringLiteral("GJ");
-    static const std::array<QuantityInfo, QuantityCount> table = {{
-        {Quantity::GridImport, QStringLiteral("electricity import"), kWh, MostElectricityPerHour},
-        {Quantity::GridExport, QStringLiteral("electricity export"), kWh, MostElectricityPerHour},
+    static const std::array<QuantityInfo, quantityCount> table = {{
+        {Quantity::GridImport, QStringLiteral("electricity import"), kWh, mostElectricityPerHour},
+        {Quantity::GridExport, QStringLiteral("electricity export"), kWh, mostElectricityPerHour},
         {Quantity::SolarProduction, QStringLiteral("solar production"), kWh,
-         MostElectricityPerHour},
-        {Quantity::Gas, QStringLiteral("gas"), cubicMetre, MostGasPerHour},
-        {Quantity::Water, QStringLiteral("water"), cubicMetre, MostWaterPerHour},
-        {Quantity::Heating, QStringLiteral("heating"), gigajoule, MostHeatPerHour},
-        {Quantity::HeatPump, QStringLiteral("heat pump"), kWh, MostElectricityPerHour},
-        {Quantity::ElectricCar, QStringLiteral("electric car"), kWh, MostElectricityPerHour},
+         mostElectricityPerHour},
+        {Quantity::Gas, QStringLiteral("gas"), cubicMetre, mostGasPerHour},
+        {Quantity::Water, QStringLiteral("water"), cubicMetre, mostWaterPerHour},
+        {Quantity::Heating, QStringLiteral("heating"), gigajoule, mostHeatPerHour},
+        {Quantity::HeatPump, QStringLiteral("heat pump"), kWh, mostElectricityPerHour},
+        {Quantity::ElectricCar, QStringLiteral("electric car"), kWh, mostElectricityPerHour},
     }};
     return table.at(static_cast<std::size_t>(quantity));
 }

@@ -22,7 +22,7 @@ enum class Quantity {
 
 /**
  * The registers of a meter with two tariffs count one after the other, never at the same time;
- * their sum is what was used. `Single` is the register of a meter that knows no tariffs.
+ * their sum is what was used. Single is the register of a meter that knows no tariffs.
  */
 enum class Tariff { Single, Low, Normal };
 
@@ -53,7 +53,7 @@ struct QuantityInfo
     /** The unit of every amount of this quantity: "kWh", "m³" or "GJ". */
     QString unit;
     /**
-     * The most that a household takes or gives in an hour, in `unit`. More than that is not
+     * The most that a household takes or gives in an hour, in @p unit. More than that is not
      * consumption but a wrong reading or another meter.
      */
     double mostPerHour;

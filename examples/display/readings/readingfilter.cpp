@@ -11,7 +11,7 @@ namespace Readings {
 
 namespace {
 
-constexpr qint64 SecondsPerHour = 3600;
+constexpr qint64 secondsPerHour = 3600;
 
 } // namespace
 
@@ -73,8 +73,8 @@ double ReadingFilter::counted(std::size_t index) const
 
 bool ReadingFilter::follows(const Reading &earlier, const Reading &later) const
 {
-    const qint64 elapsed = std::max(later.instant - earlier.instant, SecondsPerHour);
-    const double most = mostPerHour * static_cast<double>(elapsed) / SecondsPerHour;
+    const qint64 elapsed = std::max(later.instant - earlier.instant, secondsPerHour);
+    const double most = mostPerHour * static_cast<double>(elapsed) / secondsPerHour;
     return later.value >= earlier.value && later.value - earlier.value <= most;
 }
 

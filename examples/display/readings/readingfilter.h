@@ -38,7 +38,7 @@ class ReadingFilter
 {
 public:
     /**
-     * `mostPerHour` is the most that the counter can rise in an hour. The same rise is granted for
+     * @p mostPerHour is the most that the counter can rise in an hour. The same rise is granted for
      * any shorter time: many meters hand on their count only once an hour, and a logger that stood
      * still for some minutes catches up in one step.
      */

@@ -21,23 +21,23 @@ using Kind = ProblemList::Kind;
 
 // No meter has so many digits; and sums of such numbers stay far from the end of what a double
 // holds.
-constexpr double MostOnAMeter = 1e12;
-constexpr double Empty = std::numeric_limits<double>::quiet_NaN();
-constexpr int LineBits = 32;
+constexpr double mostOnAMeter = 1e12;
+constexpr double empty = std::numeric_limits<double>::quiet_NaN();
+constexpr int lineBits = 32;
 
 qint64 tagOf(int file, int line)
 {
-    return (static_cast<qint64>(file) << LineBits) + line;
+    return (static_cast<qint64>(file) << lineBits) + line;
 }
 
 int fileOf(qint64 tag)
 {
-    return static_cast<int>(tag >> LineBits);
+    return static_cast<int>(tag >> lineBits);
 }
 
 int lineOf(qint64 tag)
 {
-    return static_cast<int>(tag & ((qint64(1) << LineBits) - 1));
+    return static_cast<int>(tag & ((qint64(1) << lineBits) - 1));
 }
 
 std::string_view trimmed(std::string_view text)
@@ -245,11 +245,11 @@ bool FileLoader::readValues()
     for (const HeaderMatch::UsedColumn &used : header.columns) {
         const std::string_view text = trimmed(fields[used.field]);
         if (text.empty()) {
-            rowValues.push_back(Empty);
+            rowValues.push_back(empty);
             continue;
         }
         const std::optional<double> number = parseNumber(text, header.profile->decimalSign);
-        if (!number || *number < 0.0 || *number > MostOnAMeter) {
+        if (!number || *number < 0.0 || *number > mostOnAMeter) {
             broken(QStringLiteral("bad number %1 in column \"%2\"")
                        .arg(quoted(text), QString::fromUtf8(used.column->name)));
             return false;
@@ -284,7 +284,7 @@ void FileLoader::fillOtherTariffs()
 
 void FileLoader::resolveWallClock()
 {
-    constexpr qint64 HalfDay = 43200;
+    constexpr qint64 halfDay = 43200;
     const WallClock clock(zone);
     // One list for each night in which the clock is put back, so that a file may hold many years.
     std::map<qint64, std::vector<std::size_t>> doubledTimes;
@@ -292,7 +292,7 @@ void FileLoader::resolveWallClock()
         Row &row = rows[index];
         const WallClock::Moment moment = clock.moment(row.time);
         if (moment.occurrences == 2) {
-            doubledTimes[(row.time + HalfDay) / (2 * HalfDay)].push_back(index);
+            doubledTimes[(row.time + halfDay) / (2 * halfDay)].push_back(index);
             continue;
         }
         if (moment.occurrences == 0) {

@@ -9,11 +9,11 @@ namespace Readings {
 
 namespace {
 
-constexpr int SecondsPerMinute = 60;
-constexpr int SecondsPerHour = 3600;
-constexpr int HoursPerDay = 24;
-constexpr int MinutesPerHour = 60;
-constexpr qint64 LastUnixSecond = 253402300799; // the end of the year 9999
+constexpr int secondsPerMinute = 60;
+constexpr int secondsPerHour = 3600;
+constexpr int hoursPerDay = 24;
+constexpr int minutesPerHour = 60;
+constexpr qint64 lastUnixSecond = 253402300799; // the end of the year 9999
 
 /** Walks through a text of fixed form; once something does not fit, it stays failed. */
 class Cursor
@@ -76,10 +76,10 @@ int timeOfDay(Cursor &cursor, bool secondsMayLack)
         cursor.skip(':');
         second = cursor.number(2);
     }
-    if (hour >= HoursPerDay || minute >= MinutesPerHour || second >= SecondsPerMinute) {
+    if (hour >= hoursPerDay || minute >= minutesPerHour || second >= secondsPerMinute) {
         return -1;
     }
-    return hour * SecondsPerHour + minute * SecondsPerMinute + second;
+    return hour * secondsPerHour + minute * secondsPerMinute + second;
 }
 
 int offset(Cursor &cursor)
@@ -91,10 +91,10 @@ int offset(Cursor &cursor)
         cursor.skip(':');
     }
     const int minutes = cursor.number(2);
-    if (hours >= HoursPerDay || minutes >= MinutesPerHour) {
+    if (hours >= hoursPerDay || minutes >= minutesPerHour) {
         cursor.skip('\0');
     }
-    return sign * (hours * SecondsPerHour + minutes * SecondsPerMinute);
+    return sign * (hours * secondsPerHour + minutes * secondsPerMinute);
 }
 
 std::optional<qint64> parseYearFirst(std::string_view text, char between, bool withOffset)
@@ -152,7 +152,7 @@ std::optional<qint64> parseUnixSeconds(std::string_view text)
             return std::nullopt;
         }
         seconds = seconds * 10 + (letter - '0');
-        if (seconds > LastUnixSecond) {
+        if (seconds > lastUnixSecond) {
             return std::nullopt;
         }
     }

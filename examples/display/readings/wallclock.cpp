@@ -10,13 +10,13 @@ namespace Readings {
 
 namespace {
 
-constexpr qint64 SecondsPerDay = 86400;
-constexpr qint64 NoDay = std::numeric_limits<qint64>::min();
+constexpr qint64 secondsPerDay = 86400;
+constexpr qint64 noDay = std::numeric_limits<qint64>::min();
 
 qint64 dayOf(qint64 wallSeconds)
 {
-    const qint64 day = wallSeconds / SecondsPerDay;
-    return wallSeconds % SecondsPerDay < 0 ? day - 1 : day;
+    const qint64 day = wallSeconds / secondsPerDay;
+    return wallSeconds % secondsPerDay < 0 ? day - 1 : day;
 }
 
 QDateTime utc(qint64 seconds)
@@ -27,7 +27,7 @@ QDateTime utc(qint64 seconds)
 } // namespace
 
 WallClock::WallClock(const QTimeZone &timeZone)
-    : zone(timeZone.isValid() ? timeZone : QTimeZone::utc()), knownDay(NoDay)
+    : zone(timeZone.isValid() ? timeZone : QTimeZone::utc()), knownDay(noDay)
 {
 }
 
@@ -66,14 +66,14 @@ WallClock::Moment WallClock::moment(qint64 wallSeconds) const
 qint64 WallClock::wallSeconds(const QDate &date, int secondsOfDay)
 {
     static const qint64 epoch = QDate(1970, 1, 1).toJulianDay();
-    return (date.toJulianDay() - epoch) * SecondsPerDay + secondsOfDay;
+    return (date.toJulianDay() - epoch) * secondsPerDay + secondsOfDay;
 }
 
 // No place on earth is more than 14 hours off UTC: a day on either side holds all that can matter.
 void WallClock::lookUpDay(qint64 day) const
 {
-    const qint64 from = (day - 1) * SecondsPerDay;
-    const qint64 to = (day + 2) * SecondsPerDay;
+    const qint64 from = (day - 1) * secondsPerDay;
+    const qint64 to = (day + 2) * secondsPerDay;
     stretches.assign(1, {from, to, zone.offsetFromUtc(utc(from))});
     const QTimeZone::OffsetDataList transitions = zone.transitions(utc(from), utc(to));
     for (const QTimeZone::OffsetData &transition : transitions) {
