@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "pagetable.h"
+
+#include "pages.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// clang-format off
+const QVector<GalleryPage> table {
+    {"zem", Subsystem::Foundation, {"ZEM"}, "the tabs of a chart page, by name", &Pages::zem},
+    {"zembrush", Subsystem::Foundation, {"ZEMBrush"}, "striped bars, such as those of last year", &Pages::zembrush},
+    {"zempixmapcache", Subsystem::Foundation, {"ZEMPixmapCache"}, "one copy of a picture for many widgets", &Pages::zempixmapcache},
+    {"zemstyle", Subsystem::Foundation, {"ZEMStyle"}, "the 32 colours of the library", &Pages::zemstyle},
+    {"zemutils", Subsystem::Foundation, {"ZEMUtils"}, "texts and speeds of powers", &Pages::zemutils},
+};
+// clang-format on
+
+/** How many letters have to be changed, added or taken away to make one word of the other. */
+int distance(const QString &one, const QString &other)
+{
+    std::vector<int> line(std::size_t(other.size()) + 1);
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        line[i] = int(i);
+    }
+    for (const QChar letter : one) {
+        int diagonal = line[0]++;
+        for (std::size_t i = 1; i < line.size(); ++i) {
+            const int change = diagonal + (letter == other.at(int(i) - 1) ? 0 : 1);
+            diagonal = line[i];
+            line[i] = std::min({change, line[i] + 1, line[i - 1] + 1});
+        }
+    }
+    return line.back();
+}
+
+template <typename Accept>
+QStringList classesThat(const Accept &accept)
+{
+    QStringList classes;
+    for (const GalleryPage &page : allPages()) {
+        if (accept(page)) {
+            classes += page.classes;
+        }
+    }
+    classes.sort();
+    return classes;
+}
+
+} // namespace
+
+QString nameOf(Subsystem subsystem)
+{
+    switch (subsystem) {
+    case Subsystem::Foundation:
+        return QStringLiteral("foundation");
+    case Subsystem::Widgets:
+        return QStringLiteral("widgets");
+    case Subsystem::Keyboard:
+        return QStringLiteral("keyboard");
+    case Subsystem::Lists:
+        return QStringLiteral("lists");
+    case Subsystem::Charts:
+        return QStringLiteral("charts");
+    case Subsystem::Dashboard:
+        return QStringLiteral("dashboard");
+    case Subsystem::PlotTools:
+        break;
+    }
+    return QStringLiteral("plot tools");
+}
+
+const QVector<Subsystem> &allSubsystems()
+{
+    static const QVector<Subsystem> all {
+        Subsystem::Foundation, Subsystem::Widgets,   Subsystem::Keyboard, Subsystem::Lists,
+        Subsystem::Charts,     Subsystem::Dashboard, Subsystem::PlotTools};
+    return all;
+}
+
+const QVector<GalleryPage> &allPages()
+{
+    return table;
+}
+
+QStringList allClasses()
+{
+    return classesThat([](const GalleryPage &) { return true; });
+}
+
+QStringList classesOf(Subsystem subsystem)
+{
+    return classesThat([=](const GalleryPage &page) { return page.subsystem == subsystem; });
+}
+
+const GalleryPage *pageOf(const QString &name)
+{
+    for (const GalleryPage &page : allPages()) {
+        if (page.classes.contains(name, Qt::CaseInsensitive)) {
+            return &page;
+        }
+    }
+    return nullptr;
+}
+
+QString nearestClass(const QString &name)
+{
+    const QStringList classes = allClasses();
+    const QString wanted = name.toLower();
+    return *std::min_element(
+        classes.cbegin(), classes.cend(), [&](const QString &one, const QString &other) {
+            return distance(wanted, one.toLower()) < distance(wanted, other.toLower());
+        });
+}
+
+QString sourceOf(const GalleryPage &page)
+{
+    return QStringLiteral(":/gallery/pages/%1.cpp").arg(page.file);
+}
