@@ -14,6 +14,27 @@ void zembrush(Stage &stage);
 void zempixmapcache(Stage &stage);
 void zemstyle(Stage &stage);
 void zemutils(Stage &stage);
+void zembarindicator(Stage &stage);
+void zembutton(Stage &stage);
+void zemdialogpopup(Stage &stage);
+void zemlabel(Stage &stage);
+void zemlabeledbutton(Stage &stage);
+void zemlineedit(Stage &stage);
+void zemlineeditbutton(Stage &stage);
+void zemmenuoverlay(Stage &stage);
+void zemnotificationbutton(Stage &stage);
+void zemnotificationicon(Stage &stage);
+void zempagebackground(Stage &stage);
+void zempageheader(Stage &stage);
+void zempageheaderbutton(Stage &stage);
+void zempageindicator(Stage &stage);
+void zempixmap(Stage &stage);
+void zemprofilebutton(Stage &stage);
+void zemradiobutton(Stage &stage);
+void zemtextlabel(Stage &stage);
+void zemthreestars(Stage &stage);
+void zemthrobber(Stage &stage);
+void zemwidgetlabel(Stage &stage);
 
 } // namespace Pages
 
