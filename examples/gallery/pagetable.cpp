@@ -38,6 +38,17 @@ const QVector<GalleryPage> table {
     {"zemthreestars", Subsystem::Widgets, {"ZEMThreeStars"}, "a rating of up to three stars", &Pages::zemthreestars},
     {"zemthrobber", Subsystem::Widgets, {"ZEMThrobber"}, "a spinner: the display is busy", &Pages::zemthrobber},
     {"zemwidgetlabel", Subsystem::Widgets, {"ZEMWidgetLabel"}, "the title strip of a widget", &Pages::zemwidgetlabel},
+    {"keyboardfactorydefault", Subsystem::Keyboard, {"KeyboardFactoryDefault", "ZEMVirtualKeyboardFactoryIntf"}, "makes keyboards from files", &Pages::keyboardfactorydefault},
+    {"zemdialogshowtext", Subsystem::Keyboard, {"ZEMDialogShowText"}, "a long text, page by page", &Pages::zemdialogshowtext},
+    {"zemkeyboardinputhandler", Subsystem::Keyboard, {"ZEMKeyboardInputHandler"}, "how callers of one dialog hear of it", &Pages::zemkeyboardinputhandler},
+    {"zemlineeditdialog", Subsystem::Keyboard, {"ZEMLineEditDialog"}, "asks for a line of text", &Pages::zemlineeditdialog},
+    {"zemlineeditsearchdialog", Subsystem::Keyboard, {"ZEMLineEditSearchDialog"}, "asks for a search term", &Pages::zemlineeditsearchdialog},
+    {"zemmultilinedialog", Subsystem::Keyboard, {"ZEMMultiLineDialog"}, "asks for several lines", &Pages::zemmultilinedialog},
+    {"zemnumerickeypad", Subsystem::Keyboard, {"ZEMNumericKeypad"}, "asks for a number", &Pages::zemnumerickeypad},
+    {"zempassworddialog", Subsystem::Keyboard, {"ZEMPasswordDialog"}, "asks for a secret", &Pages::zempassworddialog},
+    {"zemvirtualkey", Subsystem::Keyboard, {"ZEMVirtualKey"}, "one key, in all its types", &Pages::zemvirtualkey},
+    {"zemvirtualkeyboard", Subsystem::Keyboard, {"ZEMVirtualKeyboard"}, "every keyboard file", &Pages::zemvirtualkeyboard},
+    {"zemvirtualkeyfactoryintf", Subsystem::Keyboard, {"ZEMVirtualKeyFactoryIntf"}, "a keyboard with keys of one's own", &Pages::zemvirtualkeyfactoryintf},
 };
 // clang-format on
 

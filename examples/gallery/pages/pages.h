@@ -35,6 +35,17 @@ void zemtextlabel(Stage &stage);
 void zemthreestars(Stage &stage);
 void zemthrobber(Stage &stage);
 void zemwidgetlabel(Stage &stage);
+void keyboardfactorydefault(Stage &stage);
+void zemdialogshowtext(Stage &stage);
+void zemkeyboardinputhandler(Stage &stage);
+void zemlineeditdialog(Stage &stage);
+void zemlineeditsearchdialog(Stage &stage);
+void zemmultilinedialog(Stage &stage);
+void zemnumerickeypad(Stage &stage);
+void zempassworddialog(Stage &stage);
+void zemvirtualkey(Stage &stage);
+void zemvirtualkeyboard(Stage &stage);
+void zemvirtualkeyfactoryintf(Stage &stage);
 
 } // namespace Pages
 
