@@ -49,6 +49,11 @@ const QVector<GalleryPage> table {
     {"zemvirtualkey", Subsystem::Keyboard, {"ZEMVirtualKey"}, "one key, in all its types", &Pages::zemvirtualkey},
     {"zemvirtualkeyboard", Subsystem::Keyboard, {"ZEMVirtualKeyboard"}, "every keyboard file", &Pages::zemvirtualkeyboard},
     {"zemvirtualkeyfactoryintf", Subsystem::Keyboard, {"ZEMVirtualKeyFactoryIntf"}, "a keyboard with keys of one's own", &Pages::zemvirtualkeyfactoryintf},
+    {"zemactionlistmodel", Subsystem::Lists, {"ZEMActionListModel"}, "actions as a menu", &Pages::zemactionlistmodel},
+    {"zemlistview", Subsystem::Lists, {"ZEMListView", "ZEMListViewInterface"}, "one of many texts, page by page", &Pages::zemlistview},
+    {"zemlistviewlogic", Subsystem::Lists, {"ZEMListViewLogic"}, "pages for a list of one's own", &Pages::zemlistviewlogic},
+    {"zemsimplelistview", Subsystem::Lists, {"ZEMSimpleListView"}, "one of a few pictures", &Pages::zemsimplelistview},
+    {"zemtableviewlogic", Subsystem::Lists, {"ZEMTableViewLogic", "ZEMTableViewInterface"}, "pages for a table", &Pages::zemtableviewlogic},
 };
 // clang-format on
 

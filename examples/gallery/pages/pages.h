@@ -46,6 +46,11 @@ void zempassworddialog(Stage &stage);
 void zemvirtualkey(Stage &stage);
 void zemvirtualkeyboard(Stage &stage);
 void zemvirtualkeyfactoryintf(Stage &stage);
+void zemactionlistmodel(Stage &stage);
+void zemlistview(Stage &stage);
+void zemlistviewlogic(Stage &stage);
+void zemsimplelistview(Stage &stage);
+void zemtableviewlogic(Stage &stage);
 
 } // namespace Pages
 
