@@ -51,6 +51,25 @@ void zemlistview(Stage &stage);
 void zemlistviewlogic(Stage &stage);
 void zemsimplelistview(Stage &stage);
 void zemtableviewlogic(Stage &stage);
+void qwtlegenditem(Stage &stage);
+void qwtpannerbase(Stage &stage);
+void qwtplotmover(Stage &stage);
+void zemcolumnsymbol(Stage &stage);
+void zemhistogram(Stage &stage);
+void zemhistogrambutton(Stage &stage);
+void zemhistogramdata(Stage &stage);
+void zemhistogramlegend(Stage &stage);
+void zemhistogramlegenditem(Stage &stage);
+void zemhistogramseries(Stage &stage);
+void zemhistogramwidget(Stage &stage);
+void zemminidayhistogram(Stage &stage);
+void zemscaledraw(Stage &stage);
+void zemscaleengine(Stage &stage);
+void zemsmartdayhistogram(Stage &stage);
+void zemsmarthistogram(Stage &stage);
+void zemsmartmonthhistogram(Stage &stage);
+void zemsmartweekhistogram(Stage &stage);
+void zemweekhistogram(Stage &stage);
 
 } // namespace Pages
 
