@@ -73,6 +73,14 @@ const QVector<GalleryPage> table {
     {"zemsmartmonthhistogram", Subsystem::Charts, {"ZEMSmartMonthHistogram"}, "the weeks of a month", &Pages::zemsmartmonthhistogram},
     {"zemsmartweekhistogram", Subsystem::Charts, {"ZEMSmartWeekHistogram"}, "the days of a week", &Pages::zemsmartweekhistogram},
     {"zemweekhistogram", Subsystem::Charts, {"ZEMWeekHistogram"}, "a plain chart of a week", &Pages::zemweekhistogram},
+    {"zemanimatedarrows", Subsystem::Dashboard, {"ZEMAnimatedArrows"}, "a flow of energy", &Pages::zemanimatedarrows},
+    {"zemcurrentstatusdetails", Subsystem::Dashboard, {"ZEMCurrentStatusDetails"}, "what makes up the power of now", &Pages::zemcurrentstatusdetails},
+    {"zemcurrentstatusdetailsitem", Subsystem::Dashboard, {"ZEMCurrentStatusDetailsItem"}, "one device or source", &Pages::zemcurrentstatusdetailsitem},
+    {"zemcurrentstatuswidget", Subsystem::Dashboard, {"ZEMCurrentStatusWidget"}, "sun, house and grid now", &Pages::zemcurrentstatuswidget},
+    {"zemenergyicon", Subsystem::Dashboard, {"ZEMEnergyIcon"}, "the badge of an energy", &Pages::zemenergyicon},
+    {"zemenergytab", Subsystem::Dashboard, {"ZEMEnergyTab"}, "a tab for an energy", &Pages::zemenergytab},
+    {"zemenergytabwidget", Subsystem::Dashboard, {"ZEMEnergyTabWidget"}, "a row of energy tabs", &Pages::zemenergytabwidget},
+    {"zemtotalstodaywidget", Subsystem::Dashboard, {"ZEMTotalsTodayWidget"}, "two small charts of today", &Pages::zemtotalstodaywidget},
 };
 // clang-format on
 

@@ -70,6 +70,14 @@ void zemsmarthistogram(Stage &stage);
 void zemsmartmonthhistogram(Stage &stage);
 void zemsmartweekhistogram(Stage &stage);
 void zemweekhistogram(Stage &stage);
+void zemanimatedarrows(Stage &stage);
+void zemcurrentstatusdetails(Stage &stage);
+void zemcurrentstatusdetailsitem(Stage &stage);
+void zemcurrentstatuswidget(Stage &stage);
+void zemenergyicon(Stage &stage);
+void zemenergytab(Stage &stage);
+void zemenergytabwidget(Stage &stage);
+void zemtotalstodaywidget(Stage &stage);
 
 } // namespace Pages
 
