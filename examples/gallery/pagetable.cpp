@@ -81,6 +81,16 @@ const QVector<GalleryPage> table {
     {"zemenergytab", Subsystem::Dashboard, {"ZEMEnergyTab"}, "a tab for an energy", &Pages::zemenergytab},
     {"zemenergytabwidget", Subsystem::Dashboard, {"ZEMEnergyTabWidget"}, "a row of energy tabs", &Pages::zemenergytabwidget},
     {"zemtotalstodaywidget", Subsystem::Dashboard, {"ZEMTotalsTodayWidget"}, "two small charts of today", &Pages::zemtotalstodaywidget},
+    {"zemplot", Subsystem::PlotTools, {"ZEMPlot"}, "curves to zoom and pan", &Pages::zemplot},
+    {"zemplotstyler", Subsystem::PlotTools, {"ZEMPlotStyler"}, "the looks of a plot, by day and night", &Pages::zemplotstyler},
+    {"zemplottouchguard", Subsystem::PlotTools, {"ZEMPlotTouchGuard"}, "a plot fit for a finger", &Pages::zemplottouchguard},
+    {"zemplotzoomer", Subsystem::PlotTools, {"ZEMPlotZoomer", "ZEMQwtPickerDraw"}, "zooming by dragging a rectangle", &Pages::zemplotzoomer},
+    {"zemplotzoomeradvanced", Subsystem::PlotTools, {"ZEMPlotZoomerAdvanced", "ZEMQwtPickerDrawAdvanced"}, "zooming one axis or both", &Pages::zemplotzoomeradvanced},
+    {"zemqwtplotcurvepointgetter", Subsystem::PlotTools, {"ZEMQwtPlotCurvePointGetter"}, "the sample at a position", &Pages::zemqwtplotcurvepointgetter},
+    {"zemqwtplothistogram", Subsystem::PlotTools, {"ZEMQwtPlotHistogram"}, "a curve drawn as bars", &Pages::zemqwtplothistogram},
+    {"zemqwtplotmarker", Subsystem::PlotTools, {"ZEMQwtPlotMarker"}, "a marker that writes its place", &Pages::zemqwtplotmarker},
+    {"zemqwtplotpointpicker", Subsystem::PlotTools, {"ZEMQwtPlotPointPicker", "ZEMTrackerPickerMachine"}, "picks the point that is tapped", &Pages::zemqwtplotpointpicker},
+    {"zemqwtplottracker", Subsystem::PlotTools, {"ZEMQwtPlotTracker"}, "follows the finger", &Pages::zemqwtplottracker},
 };
 // clang-format on
 

@@ -78,6 +78,16 @@ void zemenergyicon(Stage &stage);
 void zemenergytab(Stage &stage);
 void zemenergytabwidget(Stage &stage);
 void zemtotalstodaywidget(Stage &stage);
+void zemplot(Stage &stage);
+void zemplotstyler(Stage &stage);
+void zemplottouchguard(Stage &stage);
+void zemplotzoomer(Stage &stage);
+void zemplotzoomeradvanced(Stage &stage);
+void zemqwtplotcurvepointgetter(Stage &stage);
+void zemqwtplothistogram(Stage &stage);
+void zemqwtplotmarker(Stage &stage);
+void zemqwtplotpointpicker(Stage &stage);
+void zemqwtplottracker(Stage &stage);
 
 } // namespace Pages
 
