@@ -8,6 +8,9 @@
 
 #include <QFile>
 #include <QLayout>
+#include <QPointer>
+#include <QTimer>
+#include <ZEMDialogPopup>
 #include <ZEMTextLabel>
 
 using namespace GalleryTest;
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void wholeScreenComesAndGoes();
     void pageMayBeLeftAtOnce_data() { addPages(); }
     void pageMayBeLeftAtOnce();
+    void pageMayBeLeftWhileADialogWaits();
 };
 
 static int colorsOf(const QImage &image)
@@ -152,6 +156,32 @@ void tst_GalleryPages::pageMayBeLeftAtOnce()
     window.openClass(name);
     window.openIndex();
     QCoreApplication::processEvents();
+    QVERIFY(!shown<ClassPage>(window));
+}
+
+void tst_GalleryPages::pageMayBeLeftWhileADialogWaits()
+{
+    GalleryWindow window(QStringLiteral(KEYBOARD_DIR));
+    window.openClass(QStringLiteral("ZEMDialogPopup"));
+    window.show();
+    QCoreApplication::processEvents();
+    tap(button(&window, "thumbnail"));
+    QPointer<ZEMDialogPopup> dialog = window.findChild<ZEMDialogPopup *>();
+    dialog->hide();
+    bool waits = false;
+    QTimer::singleShot(0, dialog, [&] {
+        waits = dialog->isVisible();
+        tap(button(&window, "btnWayBack"));
+        tap(button(&window, "btnBack"));
+    });
+    for (ZEMButton *each : dialog->parentWidget()->findChildren<ZEMButton *>()) {
+        if (each->text() == QLatin1String("exec()")) {
+            tap(each); // comes back when the question is answered or gone
+            break;
+        }
+    }
+    QVERIFY(waits);
+    ZEM_TRY_VERIFY(!dialog);
     QVERIFY(!shown<ClassPage>(window));
 }
 
