@@ -55,15 +55,16 @@ void tst_Headlines::slotsAreTruncatedTowardsZero()
 void tst_Headlines::viewPastAnyIntIsHarmless()
 {
     const QDateTime t = midnight(2016, 3, 7);
-    const double most = std::numeric_limits<int>::max();
+    const qint64 most = std::numeric_limits<int>::max();
+    const qint64 least = std::numeric_limits<int>::min();
     const double endless = std::numeric_limits<double>::infinity();
     for (const double limit : {1e12, endless}) {
         const QwtInterval view(-limit, limit);
-        QCOMPARE(rangeOfDays(t, view).start, t.addDays(-qint64(most)));
-        QCOMPARE(rangeOfDays(t, view).end, t.addDays(qint64(most)));
-        QCOMPARE(rangeOfWeeks(t, view).end, t.addDays(qint64(most)));
-        QCOMPARE(rangeOfHours(t, view).start, t.addSecs(-qint64(most)));
-        QCOMPARE(rangeOfHours(t, view).end, t.addSecs(qint64(most)));
+        QCOMPARE(rangeOfDays(t, view).start, t.addDays(least));
+        QCOMPARE(rangeOfDays(t, view).end, t.addDays(most));
+        QCOMPARE(rangeOfWeeks(t, view).end, t.addDays(most));
+        QCOMPARE(rangeOfHours(t, view).start, t.addSecs(least));
+        QCOMPARE(rangeOfHours(t, view).end, t.addSecs(most));
     }
     const double nothing = std::numeric_limits<double>::quiet_NaN();
     QCOMPARE(rangeOfHours(t, QwtInterval(nothing, nothing)).start, t);
