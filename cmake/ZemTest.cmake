@@ -88,12 +88,25 @@ function(zem_add_memcheck test)
     zem_set_test_environment(memcheck_${test})
 endfunction()
 
-# zem_add_test(<name> SUBSYSTEM <label> [LIFETIME] [SOURCES <file>...] [LIBRARIES <target>...])
-#   One QTest program from <name>.cpp, linked with the library and the test support. A warning that
-#   the test does not expect makes it fail. LIFETIME: objects end in it at unusual moments, so it is
-#   one of those that run under memcheck.
+# zem_add_run(<test> <program> <labels>)
+#   One run of a QTest program. A warning that the program does not expect makes it fail.
+function(zem_add_run test program labels)
+    add_test(NAME ${test} COMMAND ${program})
+    set_tests_properties(${test} PROPERTIES
+        LABELS "${labels}"
+        TIMEOUT ${ZEM_TEST_TIMEOUT}
+        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
+    zem_set_test_environment(${test})
+endfunction()
+
+# zem_add_test(<name> SUBSYSTEM <label> [LIFETIME] [SHARES <count>] [SOURCES <file>...]
+#              [LIBRARIES <target>...])
+#   One QTest program from <name>.cpp, linked with the library and the test support. LIFETIME:
+#   objects end in it at unusual moments, so it is one of those that run under memcheck. SHARES: the
+#   program takes minutes and runs so many times side by side, each time with its share of the cases:
+#   ZEM_TEST_SHARE is 0/4 in the first of four.
 function(zem_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "LIFETIME" "SUBSYSTEM" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "LIFETIME" "SUBSYSTEM;SHARES" "SOURCES;LIBRARIES")
     set(labels "${arg_SUBSYSTEM}")
     if(arg_LIFETIME)
         list(APPEND labels lifetime)
@@ -109,12 +122,16 @@ function(zem_add_test name)
     if(NOT arg_LIBRARIES)
         zem_precompile_headers(${name} ${name}.cpp ${arg_SOURCES})
     endif()
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        LABELS "${labels}"
-        TIMEOUT ${ZEM_TEST_TIMEOUT}
-        FAIL_REGULAR_EXPRESSION "${ZEM_UNEXPECTED_WARNING}")
-    zem_set_test_environment(${name})
+    if(arg_SHARES)
+        math(EXPR last "${arg_SHARES} - 1")
+        foreach(share RANGE ${last})
+            zem_add_run(${name}_${share} ${name} "${labels}")
+            set_property(TEST ${name}_${share} APPEND PROPERTY
+                ENVIRONMENT ZEM_TEST_SHARE=${share}/${arg_SHARES})
+        endforeach()
+    else()
+        zem_add_run(${name} ${name} "${labels}")
+    endif()
     if(arg_LIFETIME)
         zem_add_memcheck(${name})
     endif()
