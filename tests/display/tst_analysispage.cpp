@@ -90,7 +90,7 @@ void tst_AnalysisPage::show(const EnergySource &source)
     page = std::make_unique<AnalysisPage>(source);
     page->resize(640, 480);
     page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(page.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(page.get(), ZemTest::hangs));
 }
 
 /** Two days: consumption of 400 W or, from noon on, 1000 W, and production of 2000 W. */

@@ -5,6 +5,7 @@
 #define ANYDIALOG_H
 
 #include "inputdialogtest.h"
+#include "zemtest.h"
 
 #include <ZEMLineEditDialog>
 #include <ZEMLineEditSearchDialog>
@@ -176,7 +177,7 @@ protected:
         if (isPageShown) {
             page.show();
             page.activateWindow();
-            isReady = QTest::qWaitForWindowActive(&page);
+            isReady = QTest::qWaitForWindowActive(&page, ZemTest::hangs);
         }
         dialog = kind.make(keyboards.make(), &page);
     }

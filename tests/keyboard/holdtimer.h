@@ -4,6 +4,8 @@
 #ifndef HOLDTIMER_H
 #define HOLDTIMER_H
 
+#include "zemtest.h"
+
 #include <QTest>
 #include <QTimer>
 
@@ -15,7 +17,7 @@ inline bool letHoldPass(QTimer *timer)
     }
     const int interval = timer->interval();
     timer->setInterval(1);
-    const bool ranOut = QTest::qWaitFor([timer] { return !timer->isActive(); });
+    const bool ranOut = QTest::qWaitFor([timer] { return !timer->isActive(); }, ZemTest::hangs);
     timer->setInterval(interval);
     return ranOut;
 }

@@ -107,7 +107,7 @@ public:
         page.resize(640, 480);
         page.show();
         page.activateWindow();
-        isReady = QTest::qWaitForWindowActive(&page);
+        isReady = QTest::qWaitForWindowActive(&page, ZemTest::hangs);
         dialog = new Dialog(keyboards.make(), &page);
         dialog->resize(page.size());
     }

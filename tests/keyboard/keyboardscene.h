@@ -6,6 +6,7 @@
 
 #include "inputdialogtest.h"
 #include "lifetime.h"
+#include "zemtest.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -108,7 +109,7 @@ inline void holdOn(const ScenePtr &scene)
         qFatal("no hold is timed");
     }
     timer->setInterval(1);
-    if (!QTest::qWaitFor([timer] { return !timer->isActive(); })) {
+    if (!QTest::qWaitFor([timer] { return !timer->isActive(); }, ZemTest::hangs)) {
         qFatal("a hold does not end");
     }
     timer->setInterval(KeyboardTest::longHold);

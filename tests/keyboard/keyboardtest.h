@@ -235,10 +235,10 @@ public:
     bool show()
     {
         host.show();
-        const bool exposed = QTest::qWaitForWindowExposed(&host);
+        const bool exposed = QTest::qWaitForWindowExposed(&host, ZemTest::hangs);
         bool isDrawn = false;
         QTimer::singleShot(60, &host, [&] { isDrawn = true; });
-        const bool settled = QTest::qWaitFor([&] { return isDrawn; }, 60000);
+        const bool settled = QTest::qWaitFor([&] { return isDrawn; }, ZemTest::hangs);
         factory.looks.clear();
         return loaded && exposed && settled && keyboard->isVisible();
     }

@@ -5,6 +5,7 @@
 #include "../widgets/widgettest.h"
 #include "keyboardtest.h"
 #include "sizehash_p.h"
+#include "zemtest.h"
 
 #include <KeyboardFactoryDefault>
 
@@ -395,7 +396,7 @@ void tst_KeyboardFactoryDefault::keyboardOfTheLanguage()
     keyboard->setPopupParent(&host);
     keyboard->setGeometry(0, 100, 200, keyboard->sizeHint().height());
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
     call(keyboard, "buttonPressed", 0);
     const auto *preview = host.findChild<ZEMVirtualKey *>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(preview->isVisible());
@@ -499,7 +500,7 @@ void tst_KeyboardFactoryDefault::endsTheProcess()
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   {QStringLiteral("--create"), which, folder.path()});
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(ZemTest::hangs));
     const QByteArray output = process.readAllStandardError();
     if (message.isEmpty()) {
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
@@ -528,7 +529,7 @@ void tst_KeyboardFactoryDefault::keyboardOutlivesTheFactory()
         keyboard->setFocusWidget(&target);
     }
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
     keyboard->resize(250, 100);
     for (const int key : {1, 0, 0}) {
         call(keyboard, "buttonPressed", key);

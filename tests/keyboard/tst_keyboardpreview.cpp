@@ -309,7 +309,7 @@ void tst_KeyboardPreview::windowFollowsArrowKeys()
 {
     PreviewWindow window(threePictures());
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, ZemTest::hangs));
     QTest::keyClick(&window, Qt::Key_Right);
     QTRY_COMPARE(window.current(), 1);
     QTest::keyClick(&window, Qt::Key_Left);

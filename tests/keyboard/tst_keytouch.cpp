@@ -3,6 +3,7 @@
 
 #include "../widgets/widgettest.h"
 #include "keyboardtest.h"
+#include "zemtest.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -168,7 +169,7 @@ void tst_KeyTouch::keysThatDrawTheirOwnLook()
     QVERIFY(keyboard->load(files.write(keyboardFile(row, "popup='0'"))));
     keyboard->resize(keyboard->sizeHint());
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
     settle();
 
     auto *key = keyboard->findChild<QStackedWidget *>()->findChild<ZEMVirtualKey *>();
@@ -201,7 +202,7 @@ void tst_KeyTouch::touchThatAFilterTakes()
     keyboard->setFactory(&factory);
     QVERIFY(keyboard->load(files.write(keyboardFile(row))));
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
 
     auto *key = keyboard->findChild<QStackedWidget *>()->findChild<ZEMVirtualKey *>();
     ZemTest::press(key, {5, 5});

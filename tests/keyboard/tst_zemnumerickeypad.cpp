@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "inputdialogtest.h"
+#include "zemtest.h"
 
 #include <ZEMButton>
 #include <ZEMNumericKeypad>
@@ -50,7 +51,7 @@ void tst_ZEMNumericKeypad::cleanup()
 void tst_ZEMNumericKeypad::popupsStandOnTheDialog()
 {
     dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get(), ZemTest::hangs));
     KeyboardTest::call(keyboard, "buttonPressed", indexOf(*keyboard, "a"));
     const ZEMVirtualKey *preview = keyboards.factory.preview;
     QVERIFY(preview->isVisible());

@@ -45,7 +45,7 @@ public:
     bool show()
     {
         host.show();
-        return QTest::qWaitForWindowExposed(&host);
+        return QTest::qWaitForWindowExposed(&host, ZemTest::hangs);
     }
 
     QList<ZEMVirtualKey *> keys(int page) const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "pagingwalk.h"
+#include "zemtest.h"
 
 #include <ZEMListViewLogic>
 #include <ZEMTableViewLogic>
@@ -70,7 +71,7 @@ int questionsOfSteps(int rows)
     auto *logic = new Logic(&view);
     logic->setModel(&model);
     view.show();
-    if (!QTest::qWaitForWindowExposed(&view)) {
+    if (!QTest::qWaitForWindowExposed(&view, ZemTest::hangs)) {
         return -1;
     }
     logic->setIndex(0);

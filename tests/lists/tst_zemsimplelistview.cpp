@@ -4,6 +4,7 @@
 #include "../widgets/widgettest.h"
 #include "listpagefixture.h"
 #include "ownmethods.h"
+#include "zemtest.h"
 
 #include <ZEMActionListModel>
 #include <ZEMTextLabel>
@@ -292,7 +293,7 @@ void tst_ZEMSimpleListView::pressIsNotPassedOn()
     host.resize(640, 480);
     auto *page = new ZEMSimpleListView(&host);
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
     const QSignalSpy cancelled(page, &ZEMSimpleListView::sigCancel);
     ZemTest::press(page, QPoint(3, 3));
     QCOMPARE(cancelled.count(), 1);
@@ -412,7 +413,7 @@ void tst_ZEMSimpleListView::pageCanGoWhenPicked()
     page->setModel(&model);
     page->fitContents(6);
     host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QVERIFY(QTest::qWaitForWindowExposed(&host, ZemTest::hangs));
     connect(page.data(), &ZEMSimpleListView::sigSelect, page.data(), &QObject::deleteLater);
     auto *list = part<QListView>(*page, "listView");
     const QPoint item = list->visualRect(model.index(1, 0)).center();

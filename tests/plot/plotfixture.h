@@ -120,7 +120,7 @@ public:
     bool show()
     {
         plot->show();
-        return QTest::qWaitForWindowExposed(plot.get());
+        return QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs);
     }
 
     QwtPlotCurve *addCurve(const QVector<QPointF> &samples, const QString &title = QString())

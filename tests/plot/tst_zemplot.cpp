@@ -6,6 +6,7 @@
 
 #include "countingplot.h"
 #include "plotfixture.h"
+#include "zemtest.h"
 
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -244,7 +245,7 @@ void tst_ZEMPlot::curveIsNotSeenBeforeTheNextReplot()
     arrange(plot.get());
     plot->setCanvasBackground(Qt::black);
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     const auto inkOf = [this] {
         return ZemTest::inkRect(plot->canvas()->grab().toImage(), Qt::black);
     };
@@ -517,7 +518,7 @@ void tst_ZEMPlot::rightButtonPans()
     arrange(plot.get());
     plot->init();
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     drag(plot->canvas(), QPoint(200, 150), QPoint(250, 170), Qt::RightButton);
     plot->updateAxes();
     QCOMPARE(plot->axisScaleDiv(QwtPlot::xBottom).lowerBound(), leftScale - 50.0);

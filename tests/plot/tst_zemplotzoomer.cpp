@@ -6,6 +6,7 @@
 
 #include "countingplot.h"
 #include "plotfixture.h"
+#include "zemtest.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -257,7 +258,7 @@ void tst_ZEMPlotZoomer::dragInAnyDirectionZooms()
     QFETCH(QPoint, start);
     QFETCH(QPoint, end);
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     drag(plot->canvas(), pixelOf(start.x(), start.y()), pixelOf(end.x(), end.y()));
     QCOMPARE(zoomer->log, QStringList({QStringLiteral("rect")}));
     QTEST(zoomer->lastRect, "view");
@@ -268,7 +269,7 @@ void tst_ZEMPlotZoomer::dragInAnyDirectionZooms()
 void tst_ZEMPlotZoomer::dragToTheUpperLeftGoesBackToTheBase()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     const QRectF base = shown();
     drag(plot->canvas(), QPoint(50, 50), QPoint(300, 250));
     drag(plot->canvas(), QPoint(50, 50), QPoint(300, 250));
@@ -316,7 +317,7 @@ void tst_ZEMPlotZoomer::zoomedIsEmittedOnce()
 void tst_ZEMPlotZoomer::tapDoesNothing()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     ZemTest::press(plot->canvas(), QPoint(100, 100));
     ZemTest::release(plot->canvas(), QPoint(100, 100));
     QVERIFY(zoomer->log.isEmpty());
@@ -326,7 +327,7 @@ void tst_ZEMPlotZoomer::tapDoesNothing()
 void tst_ZEMPlotZoomer::rightAndMiddleButtonDoNotZoom()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     drag(plot->canvas(), QPoint(50, 50), QPoint(300, 250));
     zoomer->log.clear();
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
@@ -342,7 +343,7 @@ void tst_ZEMPlotZoomer::rightAndMiddleButtonDoNotZoom()
 void tst_ZEMPlotZoomer::keysDoNotZoom()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     drag(plot->canvas(), QPoint(50, 50), QPoint(300, 250));
     zoomer->log.clear();
     for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Escape, Qt::Key_Return}) {
@@ -466,7 +467,7 @@ void tst_ZEMPlotZoomer::otherRubberBandIsQwts()
 void tst_ZEMPlotZoomer::rubberBandIsSeenDuringTheDrag()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     QWidget *const canvas = plot->canvas();
     ZemTest::press(canvas, QPoint(100, 100));
     ZemTest::moveTo(canvas, QPoint(150, 120));
@@ -483,7 +484,7 @@ void tst_ZEMPlotZoomer::rubberBandIsSeenDuringTheDrag()
 void tst_ZEMPlotZoomer::crossIsSeenOnTheWayBack()
 {
     plot->show();
-    QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs));
     QWidget *const canvas = plot->canvas();
     ZemTest::press(canvas, QPoint(200, 200));
     ZemTest::moveTo(canvas, QPoint(120, 120));

@@ -6,6 +6,7 @@
 
 #include "plotfixture.h"
 #include "recordingdevice.h"
+#include "zemtest.h"
 
 #include <QPainter>
 #include <QSignalSpy>
@@ -105,7 +106,7 @@ QRectF tst_ZEMPlotZoomerAdvanced::shown() const
 bool tst_ZEMPlotZoomerAdvanced::show()
 {
     plot->show();
-    return QTest::qWaitForWindowExposed(plot.get());
+    return QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs);
 }
 
 void tst_ZEMPlotZoomerAdvanced::hasNoMetaObjectOfItsOwn()

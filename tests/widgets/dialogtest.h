@@ -46,7 +46,7 @@ public:
     {
         resize(640, 480);
         show();
-        isReady = QTest::qWaitForWindowExposed(this);
+        isReady = QTest::qWaitForWindowExposed(this, ZemTest::hangs);
     }
 
     bool isReady = false;

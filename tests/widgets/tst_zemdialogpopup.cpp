@@ -107,7 +107,7 @@ void tst_ZEMDialogPopup::staysHiddenWhenItsPageIsShown()
     auto *inALayout = new ZEMDialogPopup;
     (new QVBoxLayout(&page))->addWidget(inALayout);
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(QTest::qWaitForWindowExposed(&page, ZemTest::hangs));
     QCoreApplication::processEvents();
     QVERIFY(!onThePage->isVisible());
     QVERIFY(!inALayout->isVisible());

@@ -134,7 +134,7 @@ void tst_ZEMPageHeader::sizeHoldsInsideAParent()
     page.resize(640, 480);
     auto *header = new ZEMPageHeader(&page);
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(QTest::qWaitForWindowExposed(&page, ZemTest::hangs));
     QCOMPARE(header->geometry(), QRect(0, 0, 640, 74));
 }
 

@@ -5,6 +5,7 @@
 #define WIDGETTEST_H
 
 #include "paintcounter.h"
+#include "zemtest.h"
 
 #include <QCoreApplication>
 #include <QMetaProperty>
@@ -47,7 +48,7 @@ public:
         actor->setParent(&window);
         window.show();
         actor->show();
-        exposed = QTest::qWaitForWindowExposed(&window);
+        exposed = QTest::qWaitForWindowExposed(&window, ZemTest::hangs);
     }
     ~Stage() { actor->setParent(nullptr); }
     Q_DISABLE_COPY(Stage)

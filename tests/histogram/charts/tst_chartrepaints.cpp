@@ -3,6 +3,7 @@
 
 #include "../quick/quickpathsfixture.h"
 #include "paintcounter.h"
+#include "zemtest.h"
 
 #include <QLocale>
 #include <QTest>
@@ -44,7 +45,7 @@ public:
             }
         }
         window.show();
-        isReady = QTest::qWaitForWindowExposed(&window);
+        isReady = QTest::qWaitForWindowExposed(&window, ZemTest::hangs);
         chart->replot();
         // A drag, after which the quick paths know what there is.
         drag(20);

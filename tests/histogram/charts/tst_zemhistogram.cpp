@@ -323,7 +323,7 @@ void tst_ZEMHistogram::heightOfThePlot()
 
     chart.resize(493, 400);
     chart.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    QVERIFY(QTest::qWaitForWindowExposed(&chart, ZemTest::hangs));
     QVERIFY2(qAbs(chart.plot->canvas()->height() - 216) <= 6,
              qPrintable(QString::number(chart.plot->canvas()->height())));
 }

@@ -31,7 +31,7 @@ public:
         chart.resize(500, 340);
         chart.setDataChangedTimestamp(firstWeek);
         chart.show();
-        isReady = QTest::qWaitForWindowExposed(&chart);
+        isReady = QTest::qWaitForWindowExposed(&chart, ZemTest::hangs);
         axis = chart.findChild<QwtPlot *>()->axisWidget(QwtPlot::xBottom);
     }
 
@@ -221,7 +221,7 @@ static void showForDragging(Chart *chart)
     initForPaging(chart);
     chart->resize(493, 400);
     chart->show();
-    QVERIFY(QTest::qWaitForWindowExposed(chart));
+    QVERIFY(QTest::qWaitForWindowExposed(chart, ZemTest::hangs));
 }
 
 void tst_ZEMHistogramViews::dragByMouseMovesTheView()

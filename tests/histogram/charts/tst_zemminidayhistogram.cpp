@@ -278,7 +278,7 @@ void tst_ZEMMiniDayHistogram::pressAndDragPassOn()
     layout->addWidget(chart);
     button.resize(200, 100);
     button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QVERIFY(QTest::qWaitForWindowExposed(&button, ZemTest::hangs));
 
     QSignalSpy clicked(&button, &ZEMButton::clicked);
     ZemTest::press(chart->canvas(), QPoint(20, 10));
@@ -297,7 +297,7 @@ void tst_ZEMMiniDayHistogram::barsFillTheWidth()
     addBars(&chart, 10.0);
     chart.resize(136, 40);
     chart.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    QVERIFY(QTest::qWaitForWindowExposed(&chart, ZemTest::hangs));
     const QImage image = render(chart.canvas());
     QVERIFY2(image.width() >= 134, qPrintable(QString::number(image.width())));
     for (int x = 1; x < image.width() - 1; ++x) {
@@ -318,7 +318,7 @@ void tst_ZEMMiniDayHistogram::groundShowsThrough()
     addBars(chart, 5.0);
     chart->resize(136, 40);
     ground.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&ground));
+    QVERIFY(QTest::qWaitForWindowExposed(&ground, ZemTest::hangs));
     const QImage image = ground.grab().toImage();
     QCOMPARE(image.pixelColor(68, 3), QColor(Qt::green));
     QCOMPARE(image.pixelColor(68, 28), QColor(Qt::red));
@@ -330,7 +330,7 @@ void tst_ZEMMiniDayHistogram::ticksArePainted()
     chart.init();
     chart.resize(136, 40);
     chart.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    QVERIFY(QTest::qWaitForWindowExposed(&chart, ZemTest::hangs));
     auto *scale = chart.plot->axisWidget(QwtPlot::xBottom);
     const QImage image = render(scale);
     QVector<int> columns;

@@ -4,6 +4,7 @@
 #include <QwtPannerBase>
 
 #include "pannerfixture.h"
+#include "zemtest.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -122,7 +123,7 @@ void tst_QwtPannerBase::defaults()
 void tst_QwtPannerBase::isNeverShown()
 {
     window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(window.get(), ZemTest::hangs));
     QVERIFY(ground->isVisible());
     QVERIFY(!panner->isVisible());
     press(ground.get(), QPoint(10, 10));

@@ -155,7 +155,7 @@ void tst_QwtPannerGestures::realDragStartsAbovePixelThreshold()
     QwtPlot plot;
     plot.resize(400, 300);
     plot.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plot));
+    QVERIFY(QTest::qWaitForWindowExposed(&plot, ZemTest::hangs));
     Panner onCanvas(plot.canvas());
     onCanvas.setDxSignalThreshold(5);
 
@@ -171,7 +171,7 @@ void tst_QwtPannerGestures::realDragTellsWayInPieces()
     QwtPlot plot;
     plot.resize(400, 300);
     plot.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plot));
+    QVERIFY(QTest::qWaitForWindowExposed(&plot, ZemTest::hangs));
     Panner onCanvas(plot.canvas());
     onCanvas.setDxSignalThreshold(5);
     onCanvas.setOrientations(Qt::Horizontal);
@@ -192,7 +192,7 @@ void tst_QwtPannerGestures::realReleaseOutsideIsSilent()
     QwtPlot plot;
     plot.resize(400, 300);
     plot.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plot));
+    QVERIFY(QTest::qWaitForWindowExposed(&plot, ZemTest::hangs));
     Panner onCanvas(plot.canvas());
 
     const QPoint start = plot.canvas()->rect().center();
@@ -248,7 +248,7 @@ void tst_QwtPannerGestures::moveNeedsNoButton()
     tracked.resize(parentSize);
     Panner hovered(&tracked);
     top.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&top));
+    QVERIFY(QTest::qWaitForWindowExposed(&top, ZemTest::hangs));
     ZemTest::press(&tracked, QPoint(50, 50));
     ZemTest::release(&tracked, QPoint(50, 50));
     hovered.take();
@@ -402,7 +402,7 @@ void tst_QwtPannerGestures::touchOfNormalLengthIsClick()
     // The upper end leaves room for a machine that is busy with something else.
     panner->setClickDetectInterval(100, 60000);
     ground->show();
-    QVERIFY(QTest::qWaitForWindowExposed(ground.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(ground.get(), ZemTest::hangs));
     ZemTest::press(ground.get(), QPoint(50, 50));
     QTest::qSleep(150);
     ZemTest::release(ground.get(), QPoint(50, 50));
@@ -413,7 +413,7 @@ void tst_QwtPannerGestures::quickTapIsNothing()
 {
     panner->setClickDetectInterval(30000, 60000);
     ground->show();
-    QVERIFY(QTest::qWaitForWindowExposed(ground.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(ground.get(), ZemTest::hangs));
     ZemTest::press(ground.get(), QPoint(50, 50));
     ZemTest::release(ground.get(), QPoint(50, 50));
     QCOMPARE(panner->take(), Log());

@@ -86,7 +86,7 @@ void tst_QwtPlotMover::cleanup()
 bool tst_QwtPlotMover::showPlot()
 {
     plot->show();
-    return QTest::qWaitForWindowExposed(plot.get());
+    return QTest::qWaitForWindowExposed(plot.get(), ZemTest::hangs);
 }
 
 void tst_QwtPlotMover::limitToTenDays()

@@ -137,7 +137,7 @@ void tst_QwtLegendItem::identifierUpdatesTheItem()
     QwtLegendItem item;
     item.resize(60, 21);
     item.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&item));
+    QVERIFY(QTest::qWaitForWindowExposed(&item, ZemTest::hangs));
     QCoreApplication::processEvents();
     const ZemTest::PaintCounter counter(&item);
     const QPixmap identifier = ZemTest::flatPixmap(QSize(9, 9), Qt::green);
