@@ -11,6 +11,7 @@
 #include <ZEMLineEditButton>
 #include <ZEMStyle>
 #include <ZEMTextLabel>
+#include <ZEMUtils>
 
 namespace PageLook {
 
@@ -75,6 +76,11 @@ ZEMLineEditButton *makeField()
     field->setLayoutRight(fieldMargin);
     field->setFont(textFont(14));
     return field;
+}
+
+QString powerText(const std::optional<double> &watts)
+{
+    return watts ? ZEMUtils::wattToStringAutoScale(*watts) : QStringLiteral("–");
 }
 
 void makeTransparent(QAbstractItemView *view)

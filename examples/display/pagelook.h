@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <optional>
 
 class QAbstractItemView;
 class QWidget;
@@ -38,6 +39,9 @@ ZEMButton *makeIconButton(const QString &icon);
 
 /** A field to touch, which shows what was entered, 233 by 50 pixels. */
 ZEMLineEditButton *makeField();
+
+/** A power as the tiles of the library word it, and "–" if it is not known. */
+QString powerText(const std::optional<double> &watts);
 
 /** Lets the ground of the page shine through a list or a table, and makes its texts white. */
 void makeTransparent(QAbstractItemView *view);

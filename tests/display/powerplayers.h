@@ -67,7 +67,10 @@ public:
     }
 
     const Readings::Household &household() const override { return readings; }
-    std::optional<PowerReport> power() const override { return PowerReport {850.0, 2310.0, {}}; }
+    std::optional<PowerReport> power() const override
+    {
+        return PowerReport {-1460.0, 850.0, 2310.0};
+    }
     double mostProduction() const override { return 3600.0; }
     QDateTime now() const override { return QDateTime(lastDate, QTime(12, 0), dutchZone); }
     PowerDay powerDay(const QDate &date) const override { return ::powerDay(house, date, until); }

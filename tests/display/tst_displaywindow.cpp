@@ -70,6 +70,8 @@ private Q_SLOTS:
     void stoppedFlowsPaintNothing();
     void idleDisplaySleeps();
     void lostMeterShowsAQuestionMark();
+    void powerThatNoMeterTellsIsADash_data();
+    void powerThatNoMeterTellsIsADash();
 
 private:
     std::unique_ptr<PlayedSource> source;
@@ -84,7 +86,7 @@ void tst_DisplayWindow::initTestCase()
 void tst_DisplayWindow::init()
 {
     source = std::make_unique<PlayedSource>();
-    source->report = PowerReport {1200.0, 3000.0, {{Device::Car, 800.0, 7400.0}}};
+    source->report = PowerReport {-1800.0, 1200.0, 3000.0, {{Device::Car, 800.0, 7400.0}}};
 }
 
 void tst_DisplayWindow::tapsLeadToThePagesAndBack_data()
@@ -322,7 +324,7 @@ void tst_DisplayWindow::hiddenArrowsPaintNothing()
 
 void tst_DisplayWindow::stoppedFlowsPaintNothing()
 {
-    source->report = PowerReport {0.0, 0.0, {}};
+    source->report = PowerReport {0.0, 0.0, 0.0};
     PlayedDisplay display(*source);
     DisplayWindow &window = display.window;
     QVERIFY(display.show());
@@ -336,7 +338,7 @@ void tst_DisplayWindow::stoppedFlowsPaintNothing()
 
 void tst_DisplayWindow::idleDisplaySleeps()
 {
-    source->report = PowerReport {0.0, 0.0, {}};
+    source->report = PowerReport {0.0, 0.0, 0.0};
     source->count(Quantity::GridImport, 3);
     PlayedDisplay display(*source);
     QVERIFY(display.show());
@@ -375,6 +377,57 @@ void tst_DisplayWindow::lostMeterShowsAQuestionMark()
     source->metering = true;
     Q_EMIT source->meteringChanged(true);
     QCOMPARE(questionMarks(), 0);
+}
+
+void tst_DisplayWindow::powerThatNoMeterTellsIsADash_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("production");
+    QTest::addColumn<QString>("consumption");
+    QTest::addColumn<QString>("grid");
+
+    QTest::newRow("the tile") << "overview"
+                              << "lblProduction"
+                              << "lblConsumption"
+                              << "lblPowerGrid";
+    QTest::newRow("the panel") << "devices"
+                               << "lblProductionValue"
+                               << "lblConsumptionValue"
+                               << "lblPowerGridValue";
+}
+
+void tst_DisplayWindow::powerThatNoMeterTellsIsADash()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, production);
+    QFETCH(QString, consumption);
+    QFETCH(QString, grid);
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    display.window.openPage(page);
+    const auto texts = [&] {
+        QStringList read;
+        for (const QString &label : {production, consumption, grid}) {
+            read << display.onPage(qPrintable(label))->property("text").toString();
+        }
+        return read.join(QLatin1Char('|'));
+    };
+    QCOMPARE(texts(), QStringLiteral("3,0 kW|1,2 kW|1,8 kW"));
+
+    source->report = PowerReport {-1800.0};
+    Q_EMIT source->powerChanged();
+    QCOMPARE(texts(), QStringLiteral("–|–|1,8 kW"));
+    source->report = PowerReport {340.0, 340.0};
+    Q_EMIT source->powerChanged();
+    QCOMPARE(texts(), QStringLiteral("–|340 W|340 W"));
+    source->report.reset();
+    Q_EMIT source->powerChanged();
+    QCOMPARE(texts(), QStringLiteral("–|?|?"));
+
+    // A battery gives as well: the grid is what the meter told.
+    source->report = PowerReport {100.0, 900.0, 500.0, {}, 300.0};
+    Q_EMIT source->powerChanged();
+    QCOMPARE(texts(), QStringLiteral("500 W|900 W|100 W"));
 }
 
 QTEST_MAIN(tst_DisplayWindow)

@@ -31,11 +31,15 @@ public:
     HousePower housePower() const override { return house; }
     void start() override { }
 
-    void tell(std::optional<int> watts, const HousePower &beside = {})
+    void tell(std::optional<int> watts, const HousePower &beside = {},
+              std::optional<double> given = {})
     {
         P1Telegram told;
         told.instant = ten;
         told.power = watts;
+        if (given) {
+            told.readings = {{{Quantity::GridExport, Tariff::Normal}, *given, {}}};
+        }
         house = beside;
         Q_EMIT telegram(told);
     }
@@ -59,6 +63,7 @@ private Q_SLOTS:
     void withoutADirectoryNothingIsKept();
     void troubleIsAProblemOfTheHousehold();
     void panelsWithAMeterMakeConsumptionExact();
+    void panelsWithoutAMeterHideTheConsumption();
     void powerThatIsNotToldIsNotKnown();
 
 private:
@@ -166,9 +171,6 @@ void tst_MeterSource::panelsWithAMeterMakeConsumptionExact()
     MeterSource source(std::move(told), QString());
     source.start();
 
-    meter->tell(-1500);
-    QCOMPARE(source.power()->consumption, 0.0);
-    QCOMPARE(source.power()->production, 1500.0);
     HousePower house;
     house.production = 2000.0;
     meter->tell(-1500, house);
@@ -181,9 +183,29 @@ void tst_MeterSource::panelsWithAMeterMakeConsumptionExact()
     house.car = 300.0;
     meter->tell(-500, house);
     QCOMPARE(source.power()->consumption, 500.0);
-    QCOMPARE(source.power()->grid(), -500.0);
+    QCOMPARE(source.power()->grid, -500.0);
     QCOMPARE(source.power()->devices.size(), 1);
     QCOMPARE(source.power()->devices.constFirst().watts, 300.0);
+}
+
+void tst_MeterSource::panelsWithoutAMeterHideTheConsumption()
+{
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    MeterSource source(std::move(told), QString());
+
+    meter->tell(250);
+    QVERIFY(!source.power()->production);
+    QCOMPARE(source.power()->consumption, std::optional<double>(250.0));
+    meter->tell(-1500);
+    QCOMPARE(source.power()->grid, -1500.0);
+    QVERIFY(!source.power()->production);
+    QVERIFY(!source.power()->consumption);
+    QCOMPARE(source.mostProduction(), 1500.0);
+
+    // The counter tells of panels by night, too.
+    meter->tell(250, {}, 1234.567);
+    QVERIFY(!source.power()->consumption);
 }
 
 void tst_MeterSource::powerThatIsNotToldIsNotKnown()

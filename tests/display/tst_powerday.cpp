@@ -130,8 +130,17 @@ void tst_PowerDay::metersDecideWhichCurvesThereAre()
     QVERIFY(kindsOf(powerDay(house, winterDay)) == Kinds {PowerKind::Consumption});
 
     // An export meter that never counted is one of a house without panels.
+    Household without = house;
+    const Interval whole = Calendar(dutchZone).day(winterDay);
+    for (const qint64 t : {whole.from, whole.to}) {
+        counterOf(&without, Quantity::GridExport, Tariff::Low).addReading(t, 0.0);
+    }
+    QVERIFY(kindsOf(powerDay(without, winterDay)) == Kinds {PowerKind::Consumption});
+
+    // One that counted before has panels, though they gave nothing on that day.
     readDay(&counterOf(&house, Quantity::GridExport, Tariff::Low), winterDay, hour, 0.0);
-    QVERIFY(kindsOf(powerDay(house, winterDay)) == Kinds {PowerKind::Consumption});
+    QVERIFY((kindsOf(powerDay(house, winterDay))
+             == Kinds {PowerKind::GridImport, PowerKind::GridExport}));
 
     readDay(&counterOf(&house, Quantity::GridExport, Tariff::Normal), winterDay, hour, 200.0);
     QVERIFY((kindsOf(powerDay(house, winterDay))

@@ -212,7 +212,7 @@ PowerDay powerDay(const Household &household, const QDate &date)
     const Meters imports = household.metersOf(Quantity::GridImport);
     const Meters exports = household.metersOf(Quantity::GridExport);
     const Meters panels = household.metersOf(Quantity::SolarProduction);
-    const bool gives = household.total(Quantity::GridExport) > 0.0;
+    const bool gives = household.delivers();
 
     PowerDay day = emptyDay(household.timeZone, date);
     const auto addCurve = [&](PowerKind kind, const std::vector<Term> &terms) {

@@ -4,11 +4,14 @@
 #include "devicespage.h"
 
 #include "deviceicons.h"
+#include "pagelook.h"
 
+#include <QLabel>
 #include <QVBoxLayout>
 #include <ZEMAnimatedArrows>
 #include <ZEMCurrentStatusDetails>
 #include <ZEMCurrentStatusDetailsItem>
+#include <cmath>
 
 DevicesPage::DevicesPage(const EnergySource &source, QWidget *parent)
     : DisplayPage(tr("Apparaten"), source, parent), details(new ZEMCurrentStatusDetails)
@@ -39,23 +42,31 @@ ZEMCurrentStatusDetailsItem *DevicesPage::itemOf(const DevicePower &device)
 
 void DevicesPage::showPower()
 {
-    const std::optional<PowerReport> report = energySource().power();
-    details->setMeteringStatus(report.has_value() && energySource().isMetering());
-    details->setTotalConsumptionValue(report ? report->consumption : 0.0);
-    details->setTotalProductionValue(report ? report->production : 0.0);
-    if (!report) {
-        return;
+    const PowerReport report = energySource().power().value_or(PowerReport());
+    const bool isMetering = energySource().power() && energySource().isMetering();
+    details->setMeteringStatus(isMetering);
+    // The panel takes consumption minus production for the grid.
+    details->setTotalProductionValue(report.leastProduction());
+    details->setTotalConsumptionValue(report.grid + report.leastProduction());
+    // The panel knows every power, or none.
+    const auto show = [this](const char *label, const std::optional<double> &watts) {
+        details->findChild<QLabel *>(QLatin1String(label))->setText(PageLook::powerText(watts));
+    };
+    show("lblProductionValue", report.production);
+    if (isMetering) {
+        show("lblConsumptionValue", report.consumption);
+        show("lblPowerGridValue", std::fabs(report.grid));
     }
-    for (const DevicePower &device : report->devices) {
+    for (const DevicePower &device : report.devices) {
         itemOf(device)->setValue(device.watts);
     }
-    showProduction(report->production);
+    showProduction(report.production);
 }
 
-void DevicesPage::showProduction(double watts)
+void DevicesPage::showProduction(const std::optional<double> &watts)
 {
     const double most = energySource().mostProduction();
-    if (!solar && most > 0.0) {
+    if (!solar && watts && most > 0.0) {
         solar = new ZEMCurrentStatusDetailsItem;
         solar->setIcon(DeviceIcons::solar());
         details->addProductionItem(solar);
@@ -63,6 +74,7 @@ void DevicesPage::showProduction(double watts)
     }
     if (solar) {
         solar->setMaxValue(most);
-        solar->setValue(watts);
+        solar->setValue(watts.value_or(0.0));
+        solar->setValid(watts.has_value());
     }
 }

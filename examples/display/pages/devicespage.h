@@ -8,6 +8,7 @@
 #include "energysource.h"
 
 #include <QMap>
+#include <optional>
 
 class ZEMCurrentStatusDetails;
 class ZEMCurrentStatusDetailsItem;
@@ -26,7 +27,7 @@ protected:
 private:
     ZEMCurrentStatusDetailsItem *itemOf(const DevicePower &device);
     void showPower();
-    void showProduction(double watts);
+    void showProduction(const std::optional<double> &watts);
 
     ZEMCurrentStatusDetails *details = nullptr;
     QMap<Device, ZEMCurrentStatusDetailsItem *> items;

@@ -159,6 +159,6 @@ void DisplayPage::showGridPower()
         return;
     }
     // The texts of power have no sign; the caption tells the direction.
-    powerCaption->setText(report->grid() < 0.0 ? tr("naar het net") : tr("van het net"));
-    power->setText(ZEMUtils::wattToStringAutoScale(std::fabs(report->grid())));
+    powerCaption->setText(report->grid < 0.0 ? tr("naar het net") : tr("van het net"));
+    power->setText(ZEMUtils::wattToStringAutoScale(std::fabs(report->grid)));
 }

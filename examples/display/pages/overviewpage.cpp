@@ -15,10 +15,12 @@
 #include <ZEMButton>
 #include <ZEMCurrentStatusWidget>
 #include <ZEMHistogramButton>
+#include <ZEMLabel>
 #include <ZEMMiniDayHistogram>
 #include <ZEMSmartWeekHistogram>
 #include <ZEMTotalsTodayWidget>
 #include <algorithm>
+#include <cmath>
 
 using Readings::Quantity;
 
@@ -140,10 +142,21 @@ void OverviewPage::showPower()
     if (!isVisible()) {
         return;
     }
-    const std::optional<PowerReport> report = energySource().power();
-    status->setMeteringStatus(report.has_value() && energySource().isMetering());
-    status->setConsumption(report ? report->consumption : 0.0);
-    status->setProduction(report ? report->production : 0.0);
+    const PowerReport report = energySource().power().value_or(PowerReport());
+    const bool isMetering = energySource().power() && energySource().isMetering();
+    status->setMeteringStatus(isMetering);
+    // The tile takes consumption minus production for the grid.
+    status->setProduction(report.leastProduction());
+    status->setConsumption(report.grid + report.leastProduction());
+    // The tile knows every power, or none.
+    const auto show = [this](const char *label, const std::optional<double> &watts) {
+        status->findChild<ZEMLabel *>(QLatin1String(label))->setText(PageLook::powerText(watts));
+    };
+    show("lblProduction", report.production);
+    if (isMetering) {
+        show("lblConsumption", report.consumption);
+        show("lblPowerGrid", std::fabs(report.grid));
+    }
 }
 
 void OverviewPage::handleHistory()

@@ -12,6 +12,8 @@ namespace {
 
 constexpr double wattsPerKilowatt = 1000.0;
 constexpr double secondsPerHour = 3600.0;
+/** A meter that never gave may have been tested up to here before it was built in, in kWh. */
+constexpr double testedCounter = 1.0;
 
 bool hasTariffs(const Register &meterRegister)
 {
@@ -157,6 +159,16 @@ double Household::total(Quantity quantity) const
         sum += meter->total();
     }
     return sum;
+}
+
+bool Household::delivers() const
+{
+    const auto given = metersOf(Quantity::GridExport);
+    return std::any_of(given.begin(), given.end(), [](const Meter *meter) {
+        const std::optional<qint64> last = meter->lastInstant();
+        return last
+            && (meter->total() > 0.0 || meter->readingAt(*last).value_or(0.0) >= testedCounter);
+    });
 }
 
 std::optional<double> Household::consumption(const Interval &interval) const

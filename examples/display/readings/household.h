@@ -79,6 +79,9 @@ public:
     /** All that was ever counted of a quantity. */
     double total(Quantity quantity) const;
 
+    /** Whether the house gave electricity to the grid, ever. */
+    bool delivers() const;
+
     /**
      * The electricity that the house itself used, in kWh: import - export + solar production. It
      * can come out a little below 0, since the meters are not read at the same moment. A gap if

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QString>
 #include <QVector>
+#include <algorithm>
+#include <optional>
 
 /** What power goes into. The panel of devices has room for these four. */
 enum class Device { HeatPump, Car, Kitchen, Rest };
@@ -22,16 +24,29 @@ struct DevicePower
     double most = 0.0; ///< at which the device is fully on
 };
 
-/** The power that flows now, in watts; none of it is negative but that of a battery. */
+/**
+ * The power that flows now, in watts. Consumption and production are never negative, and empty
+ * where no meter tells them: what the panels of a house without a meter for them make, and what it
+ * uses behind them.
+ */
 struct PowerReport
 {
-    double consumption = 0.0;
-    double production = 0.0;
-    QVector<DevicePower> devices; ///< parts of the consumption
+    double grid = 0.0; ///< taken from the grid; negative while the house delivers
+    std::optional<double> consumption = {};
+    std::optional<double> production = {};
+    QVector<DevicePower> devices = {}; ///< parts of the consumption
     double battery = 0.0; ///< what it gives; negative while it is charged
 
-    /** Taken from the grid; negative while the house delivers. */
-    double grid() const { return consumption - production - battery; }
+    /** The least that the panels make. */
+    double leastProduction() const { return production.value_or(std::max(-grid - battery, 0.0)); }
+
+    /** Works out the consumption, if it can be told of a house that @p delivers, or never did. */
+    void tellConsumption(bool delivers)
+    {
+        if (production || (!delivers && grid + battery >= 0.0)) {
+            consumption = std::max(grid + production.value_or(0.0) + battery, 0.0);
+        }
+    }
 };
 
 /** Where the display has its numbers from: files, a smart meter or a simulated house. */

@@ -50,6 +50,7 @@ std::optional<PowerReport> HouseSource::power() const
 {
     const PowerNow flow = house.powerAt(instant);
     PowerReport report;
+    report.grid = flow.grid();
     report.consumption = flow.consumption();
     report.production = flow.production;
     report.devices = {{Device::HeatPump, double(flow.heatPump), 2000.0},

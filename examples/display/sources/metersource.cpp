@@ -70,13 +70,12 @@ std::optional<PowerReport> MeterSource::power() const
     if (!readings.measuredPower) {
         return std::nullopt;
     }
-    const double grid = readings.measuredPower->watts;
     const HousePower house = meter->housePower();
     PowerReport report;
+    report.grid = readings.measuredPower->watts;
     report.battery = house.battery.value_or(0.0);
-    // A meter that knows the grid alone: what is delivered is the least that the panels make.
-    report.production = house.production.value_or(std::max(-grid - report.battery, 0.0));
-    report.consumption = std::max(grid + report.production + report.battery, 0.0);
+    report.production = house.production;
+    report.tellConsumption(readings.delivers());
     if (house.car) {
         report.devices = {{Device::Car, *house.car, mostOfCar}};
     }
@@ -104,7 +103,7 @@ void MeterSource::take(const P1Telegram &telegram)
         readings.measuredPower.reset();
     }
     if (const std::optional<PowerReport> report = power()) {
-        mostProduced = std::max(mostProduced, report->production);
+        mostProduced = std::max(mostProduced, report->leastProduction());
     }
     Q_EMIT powerChanged();
 

@@ -54,11 +54,10 @@ std::optional<PowerReport> ReadingsSource::power() const
     if (!grid) {
         return std::nullopt;
     }
-    // Where the panels have no meter, what is delivered is the least that they make.
     PowerReport report;
-    report.production =
-        lastPower(readings, Quantity::SolarProduction).value_or(std::max(-grid->watts, 0.0));
-    report.consumption = std::max(grid->watts + report.production, 0.0);
+    report.grid = grid->watts;
+    report.production = lastPower(readings, Quantity::SolarProduction);
+    report.tellConsumption(readings.delivers());
     addDevice(&report, readings, Quantity::HeatPump, Device::HeatPump, 3000.0);
     addDevice(&report, readings, Quantity::ElectricCar, Device::Car, 11000.0);
     return report;
