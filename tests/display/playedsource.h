@@ -30,14 +30,14 @@ public:
     bool isSimulated() const override { return simulated; }
 
     /** Counters that are read each hour of so many days from 7 March 2016 on. */
-    void count(Readings::Quantity quantity, int days)
+    void count(Readings::Quantity quantity, int days, double perHour = 0.5)
     {
         Readings::Meter &meter =
             readings.meter({quantity, Readings::Tariff::Single}, Readings::Meter::Kind::Counter);
         const qint64 midnight =
             QDateTime(QDate(2016, 3, 7), QTime(0, 0), readings.timeZone).toSecsSinceEpoch();
         for (int hour = 0; hour <= 24 * days; ++hour) {
-            meter.addReading(midnight + hour * 3600, 100.0 + 0.5 * hour);
+            meter.addReading(midnight + hour * 3600, 100.0 + perHour * hour);
         }
     }
 

@@ -4,6 +4,7 @@
 #include "energy.h"
 
 #include "household.h"
+#include "quantitylook.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -20,11 +21,11 @@ QString tr(const char *text)
 }
 
 /** Adds a series unless nothing was ever counted, as by the export meter of a house without sun. */
-void addSeries(std::vector<EnergySeries> &series, const QString &name, ZEMStyle::ZEMColor color,
-               const Household &household, Quantity quantity)
+void addSeries(std::vector<EnergySeries> &series, const QString &name, const Household &household,
+               Quantity quantity)
 {
     if (household.total(quantity) > 0.0) {
-        series.push_back({name, color, household.metersOf(quantity)});
+        series.push_back({name, lookOf(quantity).color, household.metersOf(quantity)});
     }
 }
 
@@ -34,8 +35,8 @@ void addImport(std::vector<EnergySeries> &series, const Household &household, bo
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
     const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
-    addSeries(series, twoTariffs ? tr("Normaal tarief") : tr("Verbruik"), ZEMStyle::Amber,
-              household, Quantity::GridImport);
+    addSeries(series, twoTariffs ? tr("Normaal tarief") : tr("Verbruik"), household,
+              Quantity::GridImport);
     if (twoTariffs) {
         series.push_back({tr("Laag tarief"), ZEMStyle::SkyBlue, {&low->second}});
     }
@@ -46,18 +47,17 @@ Energy electricity(const Household &household, bool showTariffs)
     Energy energy {
         QStringLiteral("electricity"), ZEM::TabElectricity, QStringLiteral("kWh"), {}, {}};
     addImport(energy.consumption, household, showTariffs);
-    addSeries(energy.yield, tr("Opwekking"), ZEMStyle::Yellow, household,
-              Quantity::SolarProduction);
-    addSeries(energy.yield, tr("Teruglevering"), ZEMStyle::Green, household, Quantity::GridExport);
+    addSeries(energy.yield, tr("Opwekking"), household, Quantity::SolarProduction);
+    addSeries(energy.yield, tr("Teruglevering"), household, Quantity::GridExport);
     return energy;
 }
 
 /** An energy of one series. */
-Energy single(const QString &key, ZEM::ZEMTab tab, const QString &unit, const QString &name,
-              ZEMStyle::ZEMColor color, const Household &household, Quantity quantity)
+Energy single(const QString &key, ZEM::ZEMTab tab, const QString &name, const Household &household,
+              Quantity quantity)
 {
-    Energy energy {key, tab, unit, {}, {}};
-    addSeries(energy.consumption, name, color, household, quantity);
+    Energy energy {key, tab, Readings::quantityInfo(quantity).unit, {}, {}};
+    addSeries(energy.consumption, name, household, quantity);
     return energy;
 }
 
@@ -65,17 +65,14 @@ Energy single(const QString &key, ZEM::ZEMTab tab, const QString &unit, const QS
 
 std::vector<Energy> energiesOf(const Household &household, bool showTariffs)
 {
-    const QString cubicMetres = QStringLiteral("m³");
     std::vector<Energy> all {
         electricity(household, showTariffs),
-        single(QStringLiteral("gas"), ZEM::TabGas, cubicMetres, tr("Gas"), ZEMStyle::Orange,
-               household, Quantity::Gas),
-        single(QStringLiteral("heating"), ZEM::TabHeating, QStringLiteral("GJ"), tr("Warmte"),
-               ZEMStyle::SoftRed, household, Quantity::Heating),
-        single(QStringLiteral("water"), ZEM::TabWater, cubicMetres, tr("Water"), ZEMStyle::SkyBlue,
-               household, Quantity::Water),
-        single(QStringLiteral("solar"), ZEM::TabSolar, QStringLiteral("kWh"), tr("Opwekking"),
-               ZEMStyle::Yellow, household, Quantity::SolarProduction)};
+        single(QStringLiteral("gas"), ZEM::TabGas, tr("Gas"), household, Quantity::Gas),
+        single(QStringLiteral("heating"), ZEM::TabHeating, tr("Warmte"), household,
+               Quantity::Heating),
+        single(QStringLiteral("water"), ZEM::TabWater, tr("Water"), household, Quantity::Water),
+        single(QStringLiteral("solar"), ZEM::TabSolar, tr("Opwekking"), household,
+               Quantity::SolarProduction)};
     const auto isEmpty = [](const Energy &energy) {
         return energy.consumption.empty() && energy.yield.empty();
     };

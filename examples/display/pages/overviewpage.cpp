@@ -4,10 +4,11 @@
 #include "overviewpage.h"
 
 #include "amountseries.h"
-#include "chartvalues.h"
+#include "daterange.h"
 #include "energysource.h"
 #include "fittedhistogram.h"
 #include "pagelook.h"
+#include "quantitylook.h"
 
 #include <QBrush>
 #include <QGridLayout>
@@ -27,6 +28,7 @@ using Readings::Quantity;
 namespace {
 
 constexpr int weekPlotHeight = 132; // pixels, of the 152 of the button
+constexpr double leastLimit = 0.1; // of the value axis, in the unit of the quantity
 
 /** The dates of the newest window of a chart. */
 DateRange newestOnly(Period period, const QDate &last)
@@ -67,18 +69,13 @@ void OverviewPage::showEvent(QShowEvent *event)
 
 QWidget *OverviewPage::makeTotals()
 {
-    auto *totals = new ZEMTotalsTodayWidget;
-    totals->setBottomEnergyType(ZEMEnergyIcon::SolarProduction);
+    totals = new ZEMTotalsTodayWidget;
     connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, this,
             &OverviewPage::chartsClicked);
     connect(totals, &ZEMTotalsTodayWidget::btn_bottom_histogram_clicked, this,
             &OverviewPage::chartsClicked);
-
-    addSmallChart(totals->getTopHistogram(), {Quantity::GridImport, Quantity::Gas}, Period::Day,
-                  ZEMStyle::Amber);
-    addSmallChart(totals->getBottomHistogram(),
-                  {Quantity::SolarProduction, Quantity::GridExport, Quantity::Water}, Period::Day,
-                  ZEMStyle::Yellow);
+    upperDay = makeSmallChart(totals->getTopHistogram(), Period::Day);
+    lowerDay = makeSmallChart(totals->getBottomHistogram(), Period::Day);
     return totals;
 }
 
@@ -89,14 +86,13 @@ QWidget *OverviewPage::makeWeekButton()
     chart->init();
     chart->setScalePeriod(slotsOf(Period::Week));
     chart->setTouchable(false);
-    addSmallChart(chart, {Quantity::GridImport, Quantity::Gas}, Period::Week, ZEMStyle::Amber);
+    week = makeSmallChart(chart, Period::Week);
+    weekPlot = chart->thePlot();
 
-    auto *button = new ZEMHistogramButton;
-    weekButton = button;
-    button->setTitle(tr("deze week"));
-    button->setHistogram(chart);
-    connect(button, &ZEMHistogramButton::clicked, this, &OverviewPage::chartsClicked);
-    return button;
+    weekButton = new ZEMHistogramButton;
+    weekButton->setHistogram(chart);
+    connect(weekButton, &ZEMHistogramButton::clicked, this, &OverviewPage::chartsClicked);
+    return weekButton;
 }
 
 QWidget *OverviewPage::makePageButtons()
@@ -117,23 +113,29 @@ QWidget *OverviewPage::makePageButtons()
     return buttons;
 }
 
-void OverviewPage::addSmallChart(ZEMHistogram *chart, const QVector<Readings::Quantity> &quantities,
-                                 Period period, ZEMStyle::ZEMColor color)
+OverviewPage::SmallChart OverviewPage::makeSmallChart(ZEMHistogram *chart, Period period)
 {
-    auto *series = new AmountSeries(QString(), QBrush(ZEMStyle(nullptr).color(color)), false);
+    auto *series = new AmountSeries(QString(), false);
     chart->addSeries(series);
-    smallCharts.push_back({chart, series, quantities, period});
+    return {chart, series, period};
 }
 
-Readings::Calendar::Meters OverviewPage::metersOf(const SmallChart &small) const
+std::optional<Quantity> OverviewPage::firstMeasured(Quantities quantities,
+                                                    std::optional<Quantity> butNot) const
 {
-    for (const Quantity quantity : small.quantities) {
-        const auto meters = energySource().household().metersOf(quantity);
-        if (!meters.empty()) {
-            return meters;
+    const Readings::Household &household = energySource().household();
+    std::optional<Quantity> silent;
+    for (const Quantity each : quantities) {
+        if (each == butNot || household.metersOf(each).empty()) {
+            continue;
         }
+        // The export meter of a house without panels is there, but never counts.
+        if (household.total(each) > 0.0) {
+            return each;
+        }
+        silent = silent.value_or(each);
     }
-    return {};
+    return silent;
 }
 
 void OverviewPage::showPower()
@@ -173,19 +175,47 @@ void OverviewPage::feedCharts()
         return;
     }
     isFed = true;
+    // Until a meter is heard the page is one of electricity.
+    const Quantity upper =
+        firstMeasured({Quantity::GridImport, Quantity::Gas, Quantity::Heating, Quantity::Water,
+                       Quantity::SolarProduction, Quantity::GridExport},
+                      std::nullopt)
+            .value_or(Quantity::GridImport);
+    totals->setTopTitle(lookOf(upper).caption);
+    totals->setTopEnergyType(lookOf(upper).icon);
+    feed(upperDay, upper);
+    feedWeek(upper);
+
+    const std::optional<Quantity> lower =
+        firstMeasured({Quantity::SolarProduction, Quantity::GridExport, Quantity::Gas,
+                       Quantity::Heating, Quantity::Water},
+                      upper);
+    totals->findChild<QWidget *>(QStringLiteral("btnBottom"))->setVisible(lower.has_value());
+    if (lower) {
+        totals->setBottomTitle(lookOf(*lower).caption);
+        totals->setBottomEnergyType(lookOf(*lower).icon);
+        feed(lowerDay, *lower);
+    }
+}
+
+ChartValues OverviewPage::feed(const SmallChart &small, Quantity quantity)
+{
     const Readings::Household &household = energySource().household();
     const Readings::Calendar calendar(household.timeZone);
-    const QDate last = datesOf(household).last;
-    for (const SmallChart &small : smallCharts) {
-        const ChartValues values =
-            chartValues(calendar, metersOf(small), small.period, newestOnly(small.period, last));
-        small.series->setValues(values);
-        if (small.period == Period::Week) {
-            weekButton->setTitle(values.incomplete.empty() ? tr("deze week")
-                                                           : tr("deze week (onvolledig)"));
-        }
-        small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), 0.1)));
-        small.chart->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
-        small.chart->replot();
-    }
+    const ChartValues values = chartValues(calendar, household.metersOf(quantity), small.period,
+                                           newestOnly(small.period, datesOf(household).last));
+    small.series->setColor(ZEMStyle(nullptr).color(lookOf(quantity).color));
+    small.series->setValues(values);
+    small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), leastLimit)));
+    small.chart->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+    small.chart->replot();
+    return values;
+}
+
+void OverviewPage::feedWeek(Quantity quantity)
+{
+    weekPlot->setAxisTitle(QwtPlot::yLeft, Readings::quantityInfo(quantity).unit);
+    const ChartValues values = feed(week, quantity);
+    const QString title = tr("%1 deze week").arg(lookOf(quantity).caption);
+    weekButton->setTitle(values.incomplete.empty() ? title : tr("%1 (onvolledig)").arg(title));
 }

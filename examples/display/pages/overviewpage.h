@@ -4,21 +4,24 @@
 #ifndef OVERVIEWPAGE_H
 #define OVERVIEWPAGE_H
 
-#include "calendar.h"
+#include "chartvalues.h"
 #include "displaypage.h"
 #include "period.h"
 #include "quantity.h"
 
-#include <QVector>
-#include <ZEMStyle>
-#include <vector>
+#include <initializer_list>
+#include <optional>
 
+class QwtPlot;
 class ZEMCurrentStatusWidget;
 class ZEMHistogram;
 class ZEMHistogramButton;
+class ZEMTotalsTodayWidget;
 class AmountSeries;
 
-/** The start page: the power that flows now, the totals of today, and the way to the other pages.
+/**
+ * The start page: the power that flows now, the totals of today, and the way to the other pages.
+ * The totals are those of what the house measures, electricity first.
  */
 class OverviewPage : public DisplayPage
 {
@@ -40,25 +43,31 @@ private:
     /** A chart of one series that shows the newest period. */
     struct SmallChart
     {
-        ZEMHistogram *chart;
-        AmountSeries *series;
-        QVector<Readings::Quantity> quantities; ///< the first that is measured is shown
-        Period period;
+        ZEMHistogram *chart = nullptr;
+        AmountSeries *series = nullptr;
+        Period period = Period::Day;
     };
+    using Quantities = std::initializer_list<Readings::Quantity>;
 
     QWidget *makeTotals();
     QWidget *makeWeekButton();
     QWidget *makePageButtons();
-    void addSmallChart(ZEMHistogram *chart, const QVector<Readings::Quantity> &quantities,
-                       Period period, ZEMStyle::ZEMColor color);
-    Readings::Calendar::Meters metersOf(const SmallChart &small) const;
+    static SmallChart makeSmallChart(ZEMHistogram *chart, Period period);
+    std::optional<Readings::Quantity> firstMeasured(Quantities quantities,
+                                                    std::optional<Readings::Quantity> butNot) const;
     void showPower();
     void handleHistory();
     void feedCharts();
+    ChartValues feed(const SmallChart &small, Readings::Quantity quantity);
+    void feedWeek(Readings::Quantity quantity);
 
     ZEMCurrentStatusWidget *status = nullptr;
-    std::vector<SmallChart> smallCharts;
+    ZEMTotalsTodayWidget *totals = nullptr;
+    SmallChart upperDay;
+    SmallChart lowerDay;
+    SmallChart week;
     ZEMHistogramButton *weekButton = nullptr;
+    QwtPlot *weekPlot = nullptr;
     bool isFed = false;
 };
 
