@@ -28,6 +28,7 @@ public:
     QDateTime now() const override { return time; }
     bool isMetering() const override { return metering; }
     bool isSimulated() const override { return simulated; }
+    bool isLive() const override { return live; }
 
     /** Counters that are read each hour of so many days from 7 March 2016 on. */
     void count(Readings::Quantity quantity, int days, double perHour = 0.5)
@@ -45,6 +46,7 @@ public:
     std::optional<PowerReport> report;
     bool metering = true;
     bool simulated = false;
+    bool live = true;
     QDateTime time {QDate(2016, 3, 9), QTime(14, 5), QTimeZone("Europe/Amsterdam")};
 };
 

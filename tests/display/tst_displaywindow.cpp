@@ -63,6 +63,7 @@ private Q_SLOTS:
     void bellWarnsWhileTheMeterIsSilent();
     void headerTellsTimeAndPlace();
     void simulatedHouseSaysSoOnEveryPage();
+    void readingsThatDoNotGoOnSayOfWhenTheyAre();
     void nothingHidesBehindAScrollBar();
     void chartsAppearWithTheirMeters();
     void energyKeepsThePeriodThatWasChosen();
@@ -246,6 +247,19 @@ void tst_DisplayWindow::simulatedHouseSaysSoOnEveryPage()
                                : QStringLiteral("woensdag 28 september 2016, 20:48"));
             ZEM_TRY_VERIFY(subtitle->width() >= subtitle->sizeHint().width());
         }
+    }
+}
+
+void tst_DisplayWindow::readingsThatDoNotGoOnSayOfWhenTheyAre()
+{
+    source->live = false;
+    source->count(Quantity::GridImport, 2);
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    for (const QString &page : DisplayWindow::pageNames()) {
+        display.window.openPage(page);
+        QCOMPARE(display.onPage<ZEMPageHeader>("ZEMPageHeader")->getSubTitle(),
+                 QStringLiteral("stand van wo 9 mrt. 2016, 00:00"));
     }
 }
 

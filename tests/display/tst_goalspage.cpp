@@ -24,6 +24,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void barAndStars();
+    void oldReadingsAreNotOfToday();
     void profileIsChosenByATap();
     void yearGoalIsTyped();
     void yearGoalOfNothingIsRefused();
@@ -68,6 +69,23 @@ void tst_GoalsPage::barAndStars()
     QCOMPARE(stars->getStars(), 2);
     display->settings.setYearGoal(6000);
     QCOMPARE(stars->getStars(), 3);
+}
+
+void tst_GoalsPage::oldReadingsAreNotOfToday()
+{
+    const auto hasText = [this](const QString &text) {
+        const auto labels = display->window.currentWidget()->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](const QLabel *label) { return label->text() == text; });
+    };
+    QVERIFY(hasText(QStringLiteral("budget van vandaag")));
+    QVERIFY(hasText(QStringLiteral("gisteren")));
+    const QDateTime before = source.time;
+    source.time = before.addDays(1);
+    Q_EMIT source.historyChanged();
+    QVERIFY(hasText(QStringLiteral("budget van 9 mrt. 2016")));
+    QVERIFY(hasText(QStringLiteral("8 mrt. 2016")));
+    source.time = before;
 }
 
 void tst_GoalsPage::profileIsChosenByATap()

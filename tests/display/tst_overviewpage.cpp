@@ -26,6 +26,8 @@ private Q_SLOTS:
     void totalsAreOfWhatTheHouseMeasures();
     void meterThatIsHeardLaterTakesItsPlace();
     void meterThatNeverCountsComesLast();
+    void oldReadingsAreNotOfToday();
+    void anotherDayIsNotToday();
 };
 
 namespace {
@@ -150,6 +152,38 @@ void tst_OverviewPage::meterThatNeverCountsComesLast()
     PlayedDisplay display(source);
     QVERIFY(display.show());
     QCOMPARE(Totals(display).tile->getBottomTitle(), QStringLiteral("water"));
+}
+
+void tst_OverviewPage::oldReadingsAreNotOfToday()
+{
+    PlayedSource source;
+    source.count(Quantity::GridImport, 3); // until the end of Wednesday 9 March 2016
+    PlayedDisplay display(source);
+    QVERIFY(display.show());
+    const Totals totals(display);
+    QCOMPARE(totals.tile->getTitle(), QStringLiteral("totaal vandaag"));
+    QCOMPARE(totals.week->getTitle(), QStringLiteral("verbruik deze week"));
+
+    source.time = source.time.addDays(4); // the Sunday of that week
+    Q_EMIT source.historyChanged();
+    QCOMPARE(totals.tile->getTitle(), QStringLiteral("totaal 9 mrt. 2016"));
+    QCOMPARE(totals.week->getTitle(), QStringLiteral("verbruik deze week"));
+    source.time = source.time.addDays(1);
+    Q_EMIT source.historyChanged();
+    QCOMPARE(totals.week->getTitle(), QStringLiteral("verbruik, week van 7 mrt. 2016"));
+}
+
+void tst_OverviewPage::anotherDayIsNotToday()
+{
+    PlayedSource source;
+    source.count(Quantity::GridImport, 3);
+    PlayedDisplay display(source);
+    QVERIFY(display.show());
+    const Totals totals(display);
+    display.window.openPage(QStringLiteral("goals"));
+    source.time = source.time.addDays(1);
+    display.window.openPage(QStringLiteral("overview"));
+    QCOMPARE(totals.tile->getTitle(), QStringLiteral("totaal 9 mrt. 2016"));
 }
 
 QTEST_MAIN(tst_OverviewPage)

@@ -17,6 +17,7 @@
 #include <ZEMTextLabel>
 #include <ZEMUtils>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -132,16 +133,40 @@ QWidget *DisplayPage::makePowerTile()
     return tile;
 }
 
+QString DisplayPage::dayName(const QDate &date) const
+{
+    return date == shownSource.now().date()
+        ? tr("vandaag")
+        : QLocale().toString(date, QStringLiteral("d MMM yyyy"));
+}
+
 void DisplayPage::showNow()
 {
     const QDateTime now = shownSource.now();
-    // Beside the long names of days and months there is no room.
-    header->setSubtitle(
-        shownSource.isSimulated()
-            ? tr("simulatie, %1")
-                  .arg(QLocale().toString(now, QStringLiteral("ddd d MMM yyyy, HH:mm")))
-            : QLocale().toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")));
+    header->setSubtitle(timeText(now));
     minuteTimer.start((secondsPerMinute - now.time().second()) * millisecondsPerSecond);
+    const QDate before = std::exchange(shownDay, now.date());
+    if (before.isValid() && before != shownDay) {
+        handleNewDay();
+    }
+}
+
+QString DisplayPage::timeText(const QDateTime &now) const
+{
+    const QLocale locale;
+    // Beside the long names of days and months there is no room.
+    const QString inShort = QStringLiteral("ddd d MMM yyyy, HH:mm");
+    const std::optional<qint64> last =
+        shownSource.isLive() ? std::nullopt : shownSource.household().lastInstant();
+    if (last) {
+        const QDateTime then =
+            QDateTime::fromSecsSinceEpoch(*last, shownSource.household().timeZone);
+        return tr("stand van %1").arg(locale.toString(then, inShort));
+    }
+    if (shownSource.isSimulated()) {
+        return tr("simulatie, %1").arg(locale.toString(now, inShort));
+    }
+    return locale.toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm"));
 }
 
 void DisplayPage::showGridPower()

@@ -4,6 +4,7 @@
 #ifndef DISPLAYPAGE_H
 #define DISPLAYPAGE_H
 
+#include <QDate>
 #include <QString>
 #include <QTimer>
 #include <ZEMPageBackground>
@@ -17,8 +18,9 @@ class ZEMTextLabel;
 
 /**
  * The base of all pages of the display: the dark ground, and a header with the menu, a way back,
- * the title and place of the page, date and time (and that it is a simulation), the power of the
- * grid and the messages. A page is 640 by 480 pixels, of which the header takes 74.
+ * the title and place of the page, date and time (and that it is a simulation, or of when the
+ * readings are that do not go on), the power of the grid and the messages. A page is 640 by 480
+ * pixels, of which the header takes 74.
  */
 class DisplayPage : public ZEMPageBackground
 {
@@ -46,16 +48,23 @@ protected:
     /** The room beneath the header. */
     QVBoxLayout *content() const { return contentLayout; }
 
+    /** The day of @p date in few words: "vandaag", or the date. */
+    QString dayName(const QDate &date) const;
+    /** The page is in view, and the household came to another day since it told of one. */
+    virtual void handleNewDay() { }
+
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
     QWidget *makePowerTile();
     void showNow();
+    QString timeText(const QDateTime &now) const;
     void showGridPower();
 
     const EnergySource &shownSource;
     QTimer minuteTimer;
+    QDate shownDay;
     ZEMPageHeader *header;
     QVBoxLayout *contentLayout = nullptr;
     ZEMTextLabel *powerCaption = nullptr;

@@ -29,8 +29,8 @@ constexpr int barLine = 3;
 constexpr QSize starsSize(100, 84);
 constexpr double millisecondsPerDay = 24.0 * 60.0 * 60.0 * 1000.0;
 
-/** A dark card with a caption; its rows are added to @p rows. */
-QWidget *makeCard(const QString &caption, QVBoxLayout **rows)
+/** A dark card with a @p caption; its rows are added to @p rows. */
+QWidget *makeCard(ZEMTextLabel **caption, QVBoxLayout **rows)
 {
     auto *card = new QWidget;
     QPalette palette = card->palette();
@@ -41,7 +41,8 @@ QWidget *makeCard(const QString &caption, QVBoxLayout **rows)
     *rows = new QVBoxLayout(card);
     (*rows)->setContentsMargins(14, 10, 14, 12);
     (*rows)->setSpacing(8);
-    (*rows)->addWidget(PageLook::makeLabel(caption, 12));
+    *caption = PageLook::makeLabel(QString(), 12);
+    (*rows)->addWidget(*caption);
     return card;
 }
 
@@ -98,7 +99,7 @@ QWidget *GoalsPage::makeToday()
 {
     const ZEMStyle style(nullptr);
     QVBoxLayout *rows = nullptr;
-    QWidget *card = makeCard(tr("budget van vandaag"), &rows);
+    QWidget *card = makeCard(&todayCaption, &rows);
     todayText = PageLook::makeLabel(QString(), 20);
     rows->addWidget(todayText);
 
@@ -118,7 +119,7 @@ QWidget *GoalsPage::makeToday()
 QWidget *GoalsPage::makeYesterday()
 {
     QVBoxLayout *rows = nullptr;
-    QWidget *card = makeCard(tr("gisteren"), &rows);
+    QWidget *card = makeCard(&yesterdayCaption, &rows);
     yesterdayText = PageLook::makeLabel(QString(), 13);
     stars = new ZEMThreeStars;
     stars->setFixedSize(starsSize);
@@ -191,6 +192,7 @@ void GoalsPage::showToday()
 {
     const Readings::Household &household = energySource().household();
     const QDate today = datesOf(household).last;
+    todayCaption->setText(tr("budget van %1").arg(dayName(today)));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
     const std::optional<Readings::Measured> used = Budget::takenOn(household, today);
     const double amount = used ? used->amount : 0.0;
@@ -214,6 +216,8 @@ void GoalsPage::showToday()
 void GoalsPage::showYesterday()
 {
     const QDate yesterday = datesOf(energySource().household()).last.addDays(-1);
+    yesterdayCaption->setText(
+        yesterday.addDays(1) == energySource().now().date() ? tr("gisteren") : dayName(yesterday));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
     const std::optional<Readings::Measured> used =
         Budget::takenOn(energySource().household(), yesterday);

@@ -28,6 +28,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void handleNewDay() override { refresh(); }
 
 private:
     QWidget *makeToday();
@@ -41,9 +42,11 @@ private:
 
     DisplaySettings *settings;
     InputDialogs *dialogs;
+    ZEMTextLabel *todayCaption = nullptr;
     ZEMTextLabel *todayText = nullptr;
     ZEMTextLabel *todayCosts = nullptr;
     ZEMBarIndicator *budgetBar = nullptr;
+    ZEMTextLabel *yesterdayCaption = nullptr;
     ZEMTextLabel *yesterdayText = nullptr;
     ZEMThreeStars *stars = nullptr;
     ZEMLineEditButton *yearGoal = nullptr;

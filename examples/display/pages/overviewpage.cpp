@@ -181,6 +181,7 @@ void OverviewPage::feedCharts()
                        Quantity::SolarProduction, Quantity::GridExport},
                       std::nullopt)
             .value_or(Quantity::GridImport);
+    totals->setTitle(tr("totaal %1").arg(dayName(datesOf(energySource().household()).last)));
     totals->setTopTitle(lookOf(upper).caption);
     totals->setTopEnergyType(lookOf(upper).icon);
     feed(upperDay, upper);
@@ -216,6 +217,10 @@ void OverviewPage::feedWeek(Quantity quantity)
 {
     weekPlot->setAxisTitle(QwtPlot::yLeft, Readings::quantityInfo(quantity).unit);
     const ChartValues values = feed(week, quantity);
-    const QString title = tr("%1 deze week").arg(lookOf(quantity).caption);
+    const QString caption = lookOf(quantity).caption;
+    const QDate thisWeek = Readings::Calendar::mondayOf(energySource().now().date());
+    const QString title = values.newestWindow == thisWeek
+        ? tr("%1 deze week").arg(caption)
+        : tr("%1, week van %2").arg(caption, dayName(values.newestWindow));
     weekButton->setTitle(values.incomplete.empty() ? title : tr("%1 (onvolledig)").arg(title));
 }

@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void handleNewDay() override { handleHistory(); }
 
 private:
     /** A chart of one series that shows the newest period. */

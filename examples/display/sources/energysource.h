@@ -78,6 +78,8 @@ public:
     virtual std::optional<PowerReport> power() const = 0;
     /** The production at which the panels give all they can, in watts; 0 without panels. */
     virtual double mostProduction() const = 0;
+    /** Whether the readings go on; what does not is shown as the past, with its date. */
+    virtual bool isLive() const { return true; }
     /** Whether nobody lives in the house, which every page then says. */
     virtual bool isSimulated() const { return false; }
     /** Whether the meter is heard. */

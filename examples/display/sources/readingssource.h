@@ -17,6 +17,7 @@ public:
     const Readings::Household &household() const override { return readings; }
     std::optional<PowerReport> power() const override;
     double mostProduction() const override;
+    bool isLive() const override { return false; }
 
 private:
     const Readings::Household readings;
