@@ -29,6 +29,8 @@ private Q_SLOTS:
     void gapsAreNoBarsAndZerosAre();
     void chartDataOfWindows();
     void largestValueIgnoresGaps();
+    void slotsHaveTheirTimes_data();
+    void slotsHaveTheirTimes();
 
 private:
     /** A counter that is read each full hour and counts 1 kWh in each, over both dates. */
@@ -201,6 +203,30 @@ void tst_ChartValues::largestValueIgnoresGaps()
 {
     QCOMPARE(largestValue({Period::Day, {}, {}}), 0.0);
     QCOMPARE(largestValue({Period::Day, {}, {std::nullopt, 2.5, std::nullopt, 1.0}}), 2.5);
+}
+
+void tst_ChartValues::slotsHaveTheirTimes_data()
+{
+    QTest::addColumn<int>("period");
+    for (const Period period : allPeriods) {
+        QTest::newRow(infoOf(period).key) << int(period);
+    }
+}
+
+void tst_ChartValues::slotsHaveTheirTimes()
+{
+    QFETCH(int, period);
+    // Over the nights of summer and winter time, and the turn of a year.
+    const QDate first(2015, 12, 30);
+    const QDate last(2016, 11, 2);
+    readHourly(first, last);
+    const ChartValues chart = values(Period(period), first, last);
+    for (std::size_t i = 0; i < chart.values.size(); ++i) {
+        const Readings::Interval interval =
+            intervalOfSlot(calendar, Period(period), chart.newestWindow, chart.slotOf(i));
+        const auto measured = Calendar::measured({meter.get()}, interval);
+        QCOMPARE(measured ? measured->amount : -1.0, chart.values[i].value_or(-1.0));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ChartValues)

@@ -3,14 +3,19 @@
 
 #include "energychart.h"
 #include "household.h"
+#include "paintcounter.h"
+#include "zemtest.h"
 
+#include <QLocale>
 #include <QTest>
 #include <ZEMHistogram>
 #include <ZEMStyle>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
+#include <qwt_scale_widget.h>
 
 using namespace Readings;
+using namespace ZemTest;
 
 /** A chart of one energy on the screen. */
 class tst_EnergyChart : public QObject
@@ -18,8 +23,38 @@ class tst_EnergyChart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void incompleteBarIsPalerAndNamedInTheHeadline();
+    void initTestCase();
+    void init();
+    void cleanup();
+    void incompleteBarIsPalerAndMarkedInTheHeadline();
+    void headlineTellsTheTotalOfTheView();
+    void headlineTellsTheYearUnlessItIsThePresentOne();
+    void tappedBarTellsItsSlotUntilTheNextTouch();
+    void pickedBarIsPaintedOnTheScreen();
+
+private:
+    QWidget *canvas() const { return widget->findChild<QwtPlot *>()->canvas(); }
+    void tapBar(double slot) const;
+
+    Household household;
+    std::unique_ptr<EnergyChart> chart;
+    std::unique_ptr<QWidget> widget;
 };
+
+static const QDate firstDay(2024, 5, 1);
+
+void tst_EnergyChart::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+}
+
+void tst_EnergyChart::tapBar(double slot) const
+{
+    auto *plot = widget->findChild<QwtPlot *>();
+    const QPoint place(int(plot->transform(QwtPlot::xBottom, slot + 0.5)), canvas()->height() - 4);
+    press(canvas(), place);
+    release(canvas(), place);
+}
 
 static QColor barColour(const ZEMHistogram *chart, double slot)
 {
@@ -29,36 +64,102 @@ static QColor barColour(const ZEMHistogram *chart, double slot)
     return picture.pixelColor(x, picture.height() - 4);
 }
 
-void tst_EnergyChart::incompleteBarIsPalerAndNamedInTheHeadline()
+/** Gas from 11:43 on 1 May 2024 to 8:00 on the next day, 1 m³ in each hour. */
+static Household householdOfADay()
 {
-    const QTimeZone zone("Europe/Amsterdam");
-    const Calendar calendar(zone);
     Household household;
-    household.timeZone = zone;
-    const QDate date(2024, 5, 1);
-    Meter &meter = household.meter({Quantity::Gas}, Meter::Kind::Counter);
-    const qint64 noon = calendar.hour(date, 12).from;
-    meter.addReading(noon - 1000, 9.0);
+    household.timeZone = QTimeZone("Europe/Amsterdam");
+    const qint64 noon = Calendar(household.timeZone).hour(firstDay, 12).from;
+    Meter &gas = household.meter({Quantity::Gas}, Meter::Kind::Counter);
+    gas.addReading(noon - 1000, 9.0);
     for (int i = 0; i <= 20; ++i) {
-        meter.addReading(noon + i * 3600, 10.0 + i);
+        gas.addReading(noon + i * 3600, 10.0 + i);
     }
-    const std::vector<Energy> energies = energiesOf(household);
-    EnergyChart chart(energies.front(), Period::Day, {222, 156, 94});
-    const std::unique_ptr<QWidget> widget(chart.widget());
+    return household;
+}
+
+void tst_EnergyChart::init()
+{
+    household = householdOfADay();
+    chart = std::make_unique<EnergyChart>(energiesOf(household).front(), Period::Day,
+                                          PlotHeights {222, 156, 94});
+    widget.reset(chart->widget());
     widget->resize(600, 300);
     widget->show();
-    chart.feed(calendar, {date, date.addDays(1)});
-    // The newest day has no incomplete hour; the one before begins with one.
-    QVERIFY2(!chart.widget()->title().contains(QStringLiteral("(onvolledig)")),
-             qPrintable(chart.widget()->title()));
-    const QColor whole = barColour(chart.widget(), 3.0);
-    chart.widget()->showPrevPeriod();
-    QTRY_VERIFY(chart.widget()->title().endsWith(QStringLiteral("(onvolledig)")));
-    QTRY_VERIFY(!chart.widget()->title().contains(QStringLiteral("t/m")));
-    const QColor part = barColour(chart.widget(), -24.0 + 11.0);
-    QCOMPARE(barColour(chart.widget(), -24.0 + 13.0), whole);
-    QVERIFY2(part != whole && part != barColour(chart.widget(), -24.0 + 5.0),
+    chart->feed(Calendar(household.timeZone), {firstDay, firstDay.addDays(1)}, firstDay);
+}
+
+void tst_EnergyChart::cleanup()
+{
+    widget.reset();
+    chart.reset();
+}
+
+void tst_EnergyChart::incompleteBarIsPalerAndMarkedInTheHeadline()
+{
+    const QColor whole = barColour(chart->widget(), 3.0);
+    chart->widget()->showPrevPeriod();
+    QTRY_COMPARE(chart->widget()->title().section(QLatin1Char('\n'), 1),
+                 QStringLiteral("≥ 13,0 m³"));
+    const QColor part = barColour(chart->widget(), -24.0 + 11.0);
+    QCOMPARE(barColour(chart->widget(), -24.0 + 13.0), whole);
+    QVERIFY2(part != whole && part != barColour(chart->widget(), -24.0 + 5.0),
              qPrintable(part.name()));
+}
+
+void tst_EnergyChart::headlineTellsTheTotalOfTheView()
+{
+    QTRY_VERIFY2(chart->widget()->title().endsWith(QStringLiteral("\n8,00 m³")),
+                 qPrintable(chart->widget()->title()));
+    // Half a day back, by dragging: twelve hours of each day.
+    const QPoint middle = canvas()->rect().center();
+    press(canvas(), middle);
+    const QPoint end = middle + QPoint(int(0.49 * canvas()->width()), 0);
+    moveTo(canvas(), end);
+    QTRY_VERIFY2(chart->widget()->title().endsWith(QStringLiteral("\n20,0 m³")),
+                 qPrintable(chart->widget()->title()));
+    release(canvas(), end);
+}
+
+void tst_EnergyChart::headlineTellsTheYearUnlessItIsThePresentOne()
+{
+    QVERIFY(!chart->widget()->title().contains(QStringLiteral("2024")));
+    chart->feed(Calendar(household.timeZone), {firstDay, firstDay.addDays(1)},
+                firstDay.addYears(1));
+    QVERIFY2(chart->widget()->title().contains(QStringLiteral(" 2024\n")),
+             qPrintable(chart->widget()->title()));
+}
+
+void tst_EnergyChart::tappedBarTellsItsSlotUntilTheNextTouch()
+{
+    const QString plain = chart->widget()->title();
+    const QColor before = barColour(chart->widget(), 3.0);
+    tapBar(3.0);
+    QCOMPARE(chart->widget()->title(), QStringLiteral("do 2 mei 2024, 3 – 4 uur\n1,00 m³"));
+    QVERIFY(barColour(chart->widget(), 3.0) != before);
+    QCOMPARE(barColour(chart->widget(), 4.0), before);
+    // New readings leave it.
+    chart->feed(Calendar(household.timeZone), {firstDay, firstDay.addDays(1)}, firstDay);
+    QCOMPARE(chart->widget()->title(), QStringLiteral("do 2 mei 2024, 3 – 4 uur\n1,00 m³"));
+    tapBar(20.0); // of the evening that has not come yet
+    QCOMPARE(chart->widget()->title(), QStringLiteral("do 2 mei 2024, 20 – 21 uur\n–"));
+    QCOMPARE(barColour(chart->widget(), 3.0), before);
+    press(canvas(), canvas()->rect().center());
+    QCOMPARE(chart->widget()->title(), plain);
+    moveTo(canvas(), canvas()->rect().center() - QPoint(60, 0));
+    release(canvas(), canvas()->rect().center() - QPoint(60, 0));
+    QCOMPARE(chart->widget()->title(), plain);
+}
+
+void tst_EnergyChart::pickedBarIsPaintedOnTheScreen()
+{
+    PaintCounter paints;
+    paints.watch(canvas());
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get(), ZemTest::hangs));
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    tapBar(3.0);
+    ZEM_TRY_VERIFY(paints.count > 0);
 }
 
 QTEST_MAIN(tst_EnergyChart)

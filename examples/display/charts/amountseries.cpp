@@ -6,10 +6,13 @@
 #include <QPainter>
 #include <ZEMHistogramData>
 #include <cmath>
+#include <limits>
 
 namespace {
 
 constexpr double paleness = 0.45;
+constexpr QColor pickedShine(255, 255, 255, 110);
+constexpr int noSlot = std::numeric_limits<int>::max();
 
 } // namespace
 
@@ -23,9 +26,12 @@ void AmountSeries::drawColumn(QPainter *painter, const QwtColumnRect &rect,
                               const QwtIntervalSample &sample) const
 {
     const double middle = (sample.interval.minValue() + sample.interval.maxValue()) / 2.0;
-    const bool isPale = sample.interval.isValid() && incomplete.count(int(std::floor(middle))) > 0;
+    const int slot = sample.interval.isValid() ? int(std::floor(middle)) : noSlot;
     const double before = painter->opacity();
-    painter->setOpacity(isPale ? before * paleness : before);
+    painter->setOpacity(incomplete.count(slot) > 0 ? before * paleness : before);
     ZEMHistogramSeries::drawColumn(painter, rect, sample);
     painter->setOpacity(before);
+    if (slot == picked) {
+        painter->fillRect(rect.toRect(), pickedShine);
+    }
 }

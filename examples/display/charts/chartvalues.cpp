@@ -104,6 +104,12 @@ ChartValues yearValues(const Calendar &calendar, const Calendar::Meters &meters,
     return slots.chart(Period::Year, newest);
 }
 
+/** Rounds down, below 0 as well. */
+int quotient(int number, int divisor)
+{
+    return number / divisor - (number % divisor < 0 ? 1 : 0);
+}
+
 } // namespace
 
 ChartValues chartValues(const Calendar &calendar, const Calendar::Meters &meters, Period period,
@@ -120,6 +126,43 @@ ChartValues chartValues(const Calendar &calendar, const Calendar::Meters &meters
         break;
     }
     return yearValues(calendar, meters, range);
+}
+
+QDate dateOfSlot(Period period, const QDate &newestWindow, int slot)
+{
+    switch (period) {
+    case Period::Day:
+        return newestWindow.addDays(quotient(slot, Calendar::hoursPerDay));
+    case Period::Week:
+        return newestWindow.addDays(slot);
+    case Period::Month:
+        return newestWindow.addDays(qint64(slot) * Calendar::daysPerWeek);
+    case Period::Year:
+        break;
+    }
+    return newestWindow.addMonths(slot);
+}
+
+int hourOfSlot(int slot)
+{
+    return slot - quotient(slot, Calendar::hoursPerDay) * Calendar::hoursPerDay;
+}
+
+Readings::Interval intervalOfSlot(const Calendar &calendar, Period period,
+                                  const QDate &newestWindow, int slot)
+{
+    const QDate date = dateOfSlot(period, newestWindow, slot);
+    switch (period) {
+    case Period::Day:
+        return calendar.hour(date, hourOfSlot(slot));
+    case Period::Week:
+        return calendar.day(date);
+    case Period::Month:
+        return calendar.week(date);
+    case Period::Year:
+        break;
+    }
+    return calendar.month(date);
 }
 
 ZEMHistogramData *makeChartData(const ChartValues &values)

@@ -41,6 +41,14 @@ ChartValues chartValues(const Readings::Calendar &calendar,
                         const Readings::Calendar::Meters &meters, Period period,
                         const DateRange &range);
 
+/** The date on which a slot begins, told by its x, where @p newestWindow is the date of x = 0. */
+QDate dateOfSlot(Period period, const QDate &newestWindow, int slot);
+/** The time that a slot stands for; empty if it is an hour that the clock leaves out. */
+Readings::Interval intervalOfSlot(const Readings::Calendar &calendar, Period period,
+                                  const QDate &newestWindow, int slot);
+/** Hour of the day of a slot of the period Day. */
+int hourOfSlot(int slot);
+
 /** Makes chart data that shows @p values. A series takes ownership by setData(). */
 ZEMHistogramData *makeChartData(const ChartValues &values);
 

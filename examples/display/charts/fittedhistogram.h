@@ -6,13 +6,12 @@
 
 #include <ZEMHistogramLegend>
 
-#include <QCoreApplication>
 #include <QVBoxLayout>
 #include <QwtPlotMover>
-#include <cmath>
+#include <functional>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
-#include <set>
+#include <utility>
 
 /** One row of legend items, in pixels. */
 constexpr int legendHeight = 30;
@@ -35,10 +34,13 @@ public:
 
     QwtPlot *thePlot() const { return this->plot; }
 
-    /** The headline tells when one of these slots, told by their x, is in view. */
-    void setIncomplete(const std::set<int> &slots)
+    /** Makes the headline of a view from the one of the library. */
+    using Headline = std::function<QString(const QString &plain, const QwtInterval &view)>;
+    void setHeadline(Headline theHeadline) { headline = std::move(theHeadline); }
+
+    /** Words the headline of the view anew. */
+    void refreshTitle()
     {
-        incomplete = slots;
         if (shown.isValid()) {
             updateTitle(shown);
         }
@@ -48,10 +50,8 @@ public:
     {
         shown = interval;
         Base::updateTitle(interval);
-        const auto first = incomplete.lower_bound(int(std::floor(interval.minValue())));
-        if (first != incomplete.end() && double(*first) < interval.maxValue()) {
-            this->titleText = QCoreApplication::translate("FittedHistogram", "%1 (onvolledig)")
-                                  .arg(this->titleText);
+        if (headline) {
+            this->titleText = headline(this->titleText, interval);
             Q_EMIT this->changed(static_cast<ZEMHistogram *>(this));
         }
     }
@@ -87,7 +87,7 @@ protected:
 private:
     const Place place;
     const int height;
-    std::set<int> incomplete;
+    Headline headline;
     QwtInterval shown;
 };
 

@@ -46,6 +46,11 @@ ChartsPage::ChartsPage(const EnergySource &source, const DisplaySettings *theSet
     connect(settings, &DisplaySettings::changed, this, &ChartsPage::handleHistory);
 }
 
+ChartsPage::~ChartsPage()
+{
+    delete charts;
+}
+
 void ChartsPage::showChart(ZEM::ZEMTab energy, Period period)
 {
     // A press on the tab of the period is what the chart page remembers for the next energy.
@@ -72,8 +77,8 @@ std::vector<Energy> ChartsPage::measuredEnergies() const
 
 void ChartsPage::makeCharts()
 {
-    entries.clear();
     delete charts;
+    entries.clear();
     charts = new ZEMHistogramWidget;
     content()->addWidget(charts);
     ZEM::ZEMTabs tabs;
@@ -95,6 +100,9 @@ void ChartsPage::makeCharts()
 
 void ChartsPage::handleButton(ZEMHistogramWidget::ButtonType button)
 {
+    for (const Entry &entry : entries) {
+        entry.chart->unpick();
+    }
     switch (button) {
     case ZEMHistogramWidget::BtnDay:
         currentPeriod = Period::Day;
@@ -150,7 +158,8 @@ void ChartsPage::feedCurrentChart()
     Entry *entry = currentEntry();
     if (entry && !entry->isFed) {
         const Readings::Household &household = energySource().household();
-        entry->chart->feed(Readings::Calendar(household.timeZone), datesOf(household));
+        entry->chart->feed(Readings::Calendar(household.timeZone), datesOf(household),
+                           energySource().now().date());
         entry->isFed = true;
     }
 }

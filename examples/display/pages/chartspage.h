@@ -26,6 +26,7 @@ public:
     /** Both must outlive the page. */
     ChartsPage(const EnergySource &source, const DisplaySettings *settings,
                QWidget *parent = nullptr);
+    ~ChartsPage() override;
 
     /** The energies in the order of their tabs. */
     const std::vector<Energy> &allEnergies() const { return energies; }
@@ -36,6 +37,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void handleNewDay() override { handleHistory(); }
 
 private:
     struct Entry

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "viewtexts.h"
+
+#include "chartvalues.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTime>
+
+namespace {
+
+constexpr double manyDigits = 9.995; // from here on one decimal tells enough
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ViewTexts", text);
+}
+
+QString dayText(const QDate &date)
+{
+    return QLocale().toString(date, QStringLiteral("ddd d MMM yyyy"));
+}
+
+} // namespace
+
+namespace ViewTexts {
+
+QString slotName(Period period, const QDate &newestWindow, int slot)
+{
+    const QDate date = dateOfSlot(period, newestWindow, slot);
+    switch (period) {
+    case Period::Day: {
+        const int hour = hourOfSlot(slot);
+        return tr("%1, %2 – %3 uur").arg(dayText(date)).arg(hour).arg(hour + 1);
+    }
+    case Period::Week:
+        return dayText(date);
+    case Period::Month:
+        return tr("week van %1").arg(QLocale().toString(date, QStringLiteral("d MMM yyyy")));
+    case Period::Year:
+        break;
+    }
+    return QStringLiteral("%1 %2")
+        .arg(QLocale().standaloneMonthName(date.month()))
+        .arg(date.year());
+}
+
+QString amount(const std::optional<Readings::Measured> &measured, const QString &unit)
+{
+    if (!measured) {
+        return QStringLiteral("–");
+    }
+    // Heat comes in GJ, of which an hour has few.
+    const int decimals = unit == QLatin1String("GJ") ? 3 : measured->amount < manyDigits ? 2 : 1;
+    const QString text =
+        QStringLiteral("%1 %2").arg(QLocale().toString(measured->amount, 'f', decimals), unit);
+    return measured->isComplete ? text : QStringLiteral("≥ %1").arg(text);
+}
+
+} // namespace ViewTexts

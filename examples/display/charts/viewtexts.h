@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef VIEWTEXTS_H
+#define VIEWTEXTS_H
+
+#include "meter.h"
+#include "period.h"
+
+#include <QDate>
+#include <QString>
+#include <optional>
+
+/** What charts say in words, by the default QLocale. A slot is told by its x. */
+namespace ViewTexts {
+
+/** The slot by its date: "wo 9 mrt., 14:00 – 15:00", "week van 7 mrt. 2016", "maart 2016". */
+QString slotName(Period period, const QDate &newestWindow, int slot);
+
+/** "12,3 kWh", "≥ 12,3 kWh" of which a part is not known, "–" of nothing. */
+QString amount(const std::optional<Readings::Measured> &measured, const QString &unit);
+
+} // namespace ViewTexts
+
+#endif
