@@ -14,6 +14,7 @@
 #include "pageicons.h"
 #include "pagelook.h"
 #include "settingspage.h"
+#include "standbykeeper.h"
 #include "standbypage.h"
 
 #include <QAction>
@@ -48,7 +49,7 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
     setFixedSize(PageLook::pageSize);
     makePages(source);
     makePageGrid();
-    makeStandby();
+    makeStandby(source);
     makeMenu();
 
     for (const QString &problem : source.household().problems) {
@@ -97,6 +98,18 @@ void DisplayWindow::openMessages()
 void DisplayWindow::openStandby()
 {
     setCurrentWidget(standby);
+}
+
+void DisplayWindow::returnToStart()
+{
+    withdrawOverlays();
+    openPage(overviewName);
+}
+
+void DisplayWindow::withdrawOverlays()
+{
+    dialogs.withdraw();
+    menu->hide();
 }
 
 void DisplayWindow::addMessage(const QString &message)
@@ -178,10 +191,33 @@ void DisplayWindow::makeMenu()
     connect(menu, &ZEMMenuOverlay::button4_clicked, this, &DisplayWindow::openMessages);
 }
 
-void DisplayWindow::makeStandby()
+void DisplayWindow::makeStandby(const EnergySource &source)
 {
     auto *page = new StandbyPage;
     connect(page, &StandbyPage::touched, this, [this] { openPage(overviewName); });
     addWidget(page);
     standby = page;
+
+    keeper = new StandbyKeeper(source, *settings, this);
+    connect(keeper, &StandbyKeeper::startPageWanted, this, &DisplayWindow::returnToStart);
+    connect(keeper, &StandbyKeeper::standbyWanted, this, [this] {
+        withdrawOverlays();
+        openStandby();
+    });
+    connect(this, &QStackedWidget::currentChanged, this, &DisplayWindow::handlePageChange);
+}
+
+void DisplayWindow::handlePageChange()
+{
+    const bool isDarkNow = currentWidget() == standby;
+    if (isDarkNow == isDark) {
+        return;
+    }
+    isDark = isDarkNow;
+    if (isDark) {
+        keeper->stop();
+    } else {
+        keeper->start();
+    }
+    Q_EMIT standbyChanged(isDark);
 }

@@ -17,9 +17,13 @@ class DisplayPage;
 class DisplaySettings;
 class EnergySource;
 class OverviewPage;
+class StandbyKeeper;
 class ZEMMenuOverlay;
 
-/** The whole display: its pages, the ways between them, and the messages. */
+/**
+ * The whole display: its pages, the ways between them, and the messages. By itself it goes back to
+ * the start page after a while, and dark as the settings have it, until a touch.
+ */
 class DisplayWindow : public QStackedWidget
 {
     Q_OBJECT
@@ -43,7 +47,16 @@ public:
     void openMessages();
     void openStandby();
 
+    /** Opens the start page; what lies over a page goes away. */
+    void returnToStart();
+
     ChartsPage *chartsPage() const { return charts; }
+    /** Tells when the display is to rest. */
+    StandbyKeeper *standbyKeeper() const { return keeper; }
+
+Q_SIGNALS:
+    /** The screen went dark, or is lit again. */
+    void standbyChanged(bool isDark);
 
 public Q_SLOTS:
     void addMessage(const QString &message);
@@ -55,7 +68,9 @@ private:
     void addGridAction(const QString &text, const QPixmap &icon, const QString &page);
     void makePageGrid();
     void makeMenu();
-    void makeStandby();
+    void makeStandby(const EnergySource &source);
+    void withdrawOverlays();
+    void handlePageChange();
 
     DisplaySettings *settings;
     InputDialogs dialogs;
@@ -65,6 +80,8 @@ private:
     ChartsPage *charts = nullptr;
     ZEMMenuOverlay *menu = nullptr;
     QWidget *standby = nullptr;
+    StandbyKeeper *keeper = nullptr;
+    bool isDark = false;
 };
 
 #endif

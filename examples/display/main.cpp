@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "backlight.h"
 #include "busynotice.h"
 #include "displaysettings.h"
 #include "displaywindow.h"
@@ -197,6 +198,17 @@ int main(int argc, char *argv[])
     }
     DisplaySettings settings;
     DisplayWindow display(*source, &settings, keyboardDirectory());
+    Backlight backlight;
+    const auto light = [&](bool isDark) {
+        const QString problem = backlight.setLit(!isDark);
+        if (!problem.isEmpty()) {
+            printError(problem);
+            display.addMessage(problem);
+        }
+    };
+    // Whoever ended the display last may have left it dark.
+    light(false);
+    QObject::connect(&display, &DisplayWindow::standbyChanged, &display, light);
     display.openPage(options.page);
     display.show();
     source->start();

@@ -34,6 +34,8 @@ void tst_DisplaySettings::defaults()
     QCOMPARE(settings.keyboardLanguage(), QStringLiteral("nl"));
     QCOMPARE(settings.yearGoal(), 3500);
     QCOMPARE(settings.profile(), Profile::Home);
+    QCOMPARE(settings.standby().after, 0);
+    QVERIFY(!settings.standby().isNight(QTime(0, 0)));
 }
 
 void tst_DisplaySettings::valuesAreKept()
@@ -51,7 +53,8 @@ void tst_DisplaySettings::valuesAreKept()
         settings.setKeyboardLanguage(QStringLiteral("de"));
         settings.setYearGoal(1800);
         settings.setProfile(Profile::Holiday);
-        QCOMPARE(changes.count(), 8);
+        settings.setStandby({10, QTime(23, 30), QTime(6, 0)});
+        QCOMPARE(changes.count(), 9);
     }
     const DisplaySettings settings(path);
     QCOMPARE(settings.houseName(), QStringLiteral("Café \"De Zon\", 2e"));
@@ -62,6 +65,9 @@ void tst_DisplaySettings::valuesAreKept()
     QCOMPARE(settings.keyboardLanguage(), QStringLiteral("de"));
     QCOMPARE(settings.yearGoal(), 1800);
     QCOMPARE(settings.profile(), Profile::Holiday);
+    QCOMPARE(settings.standby().after, 10);
+    QCOMPARE(settings.standby().nightFrom, QTime(23, 30));
+    QCOMPARE(settings.standby().nightTo, QTime(6, 0));
 }
 
 void tst_DisplaySettings::passwordIsNotWritten()
@@ -107,6 +113,9 @@ void tst_DisplaySettings::strangeValuesAreDefaults_data()
     QTest::newRow("goal, above") << QByteArray("[energy]\nyearGoal=100000\n");
     QTest::newRow("profile, above") << QByteArray("[house]\nprofile=3\n");
     QTest::newRow("profile, below") << QByteArray("[house]\nprofile=-1\n");
+    QTest::newRow("standby, below") << QByteArray("[standby]\nafter=-1\n");
+    QTest::newRow("standby, above") << QByteArray("[standby]\nafter=1441\n");
+    QTest::newRow("night, no time") << QByteArray("[standby]\nnightFrom=25:00\nnightTo=x\n");
 }
 
 void tst_DisplaySettings::strangeValuesAreDefaults()
@@ -122,6 +131,8 @@ void tst_DisplaySettings::strangeValuesAreDefaults()
     QCOMPARE(settings.price(), 0.30);
     QCOMPARE(settings.yearGoal(), 3500);
     QCOMPARE(settings.profile(), Profile::Home);
+    QCOMPARE(settings.standby().after, 0);
+    QVERIFY(!settings.standby().isNight(QTime(0, 0)));
 }
 
 QTEST_GUILESS_MAIN(tst_DisplaySettings)

@@ -9,6 +9,7 @@ namespace {
 
 constexpr double usualPrice = 0.30;
 constexpr int usualYearGoal = 3500;
+constexpr int minutesPerDay = 24 * 60;
 
 const QString houseNameKey = QStringLiteral("house/name");
 const QString townKey = QStringLiteral("house/town");
@@ -17,6 +18,10 @@ const QString profileKey = QStringLiteral("house/profile");
 const QString priceKey = QStringLiteral("energy/price");
 const QString contractKey = QStringLiteral("energy/contract");
 const QString yearGoalKey = QStringLiteral("energy/yearGoal");
+const QString standbyAfterKey = QStringLiteral("standby/after");
+const QString nightFromKey = QStringLiteral("standby/nightFrom");
+const QString nightToKey = QStringLiteral("standby/nightTo");
+const QString timeFormat = QStringLiteral("HH:mm");
 const QString languageKey = QStringLiteral("keyboard/language");
 
 /** An enumerator of @p Enum, whose last one is @p last; the first one for all other numbers. */
@@ -118,6 +123,23 @@ int DisplaySettings::yearGoal() const
 void DisplaySettings::setYearGoal(int kilowattHours)
 {
     set(yearGoalKey, kilowattHours);
+}
+
+StandbyRule DisplaySettings::standby() const
+{
+    const auto time = [this](const QString &key) {
+        const QTime read = QTime::fromString(file.value(key).toString(), timeFormat);
+        return read.isValid() ? read : QTime(0, 0);
+    };
+    const int after = file.value(standbyAfterKey).toInt();
+    return {after > 0 && after <= minutesPerDay ? after : 0, time(nightFromKey), time(nightToKey)};
+}
+
+void DisplaySettings::setStandby(const StandbyRule &rule)
+{
+    file.setValue(standbyAfterKey, rule.after);
+    file.setValue(nightFromKey, rule.nightFrom.toString(timeFormat));
+    set(nightToKey, rule.nightTo.toString(timeFormat));
 }
 
 Profile DisplaySettings::profile() const

@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QString>
 
+#include "standbyrule.h"
+
 /** How the people of a house live now; it decides how much energy a day is meant to take. */
 enum class Profile { Home, Away, Holiday };
 
@@ -59,6 +61,10 @@ public:
     /** Electricity for a year in kWh, 1 to mostYearGoal; 3500 by default. */
     int yearGoal() const;
     void setYearGoal(int kilowattHours);
+
+    /** When the screen goes dark by itself; never by default. */
+    StandbyRule standby() const;
+    void setStandby(const StandbyRule &rule);
 
     Profile profile() const;
     void setProfile(Profile profile);

@@ -22,6 +22,7 @@
 #include <ZEMNumericKeypad>
 #include <ZEMPasswordDialog>
 #include <ZEMSimpleListView>
+#include <utility>
 
 namespace {
 
@@ -212,6 +213,7 @@ void InputDialogs::read(const QString &title, const QString &text)
     dialog.setTextFontSize(textSize);
     dialog.setText(text);
     dialog.raise();
+    covers.append(&dialog);
     dialog.exec();
 }
 
@@ -221,6 +223,7 @@ void InputDialogs::inform(const QString &text)
     dialog.clearText();
     dialog.setTextLine1(text);
     dialog.raise();
+    covers.append(&dialog);
     dialog.info();
 }
 
@@ -231,7 +234,27 @@ bool InputDialogs::confirm(const QString &question, const QString &explanation)
     dialog.setTextLine1(question);
     dialog.setTextLine2(explanation);
     dialog.raise();
+    covers.append(&dialog);
     return dialog.exec();
+}
+
+void InputDialogs::withdraw()
+{
+    const auto open = std::exchange(covers, {});
+    for (const QPointer<QWidget> &dialog : open) {
+        if (!dialog) {
+            continue;
+        }
+        // Those that wait for their answer are not deleted under it.
+        if (auto *text = qobject_cast<ZEMDialogShowText *>(dialog)) {
+            text->reset();
+        } else if (auto *popup = qobject_cast<ZEMDialogPopup *>(dialog)) {
+            popup->reset();
+        } else {
+            dialog->hide();
+            dialog->deleteLater();
+        }
+    }
 }
 
 KeyboardFactoryDefault &InputDialogs::keyboards()
@@ -262,6 +285,8 @@ void InputDialogs::run(Dialog *dialog, QString (Dialog::*text)() const, const An
 
 void InputDialogs::cover(QWidget *dialog)
 {
+    covers.removeAll(nullptr);
+    covers.append(dialog);
     dialog->setGeometry(window->rect());
     dialog->show();
     dialog->raise();

@@ -5,6 +5,7 @@
 #define INPUTDIALOGS_H
 
 #include <QAbstractItemModel>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -64,6 +65,9 @@ public:
     /** Whether @p question is answered with yes. Other widgets live on. */
     bool confirm(const QString &question, const QString &explanation);
 
+    /** Takes back all that is open, as if it had been cancelled. */
+    void withdraw();
+
 private:
     KeyboardFactoryDefault &keyboards();
     template <class Dialog>
@@ -73,6 +77,7 @@ private:
     const QString directory;
     const DisplaySettings *settings;
     QWidget *window;
+    QList<QPointer<QWidget>> covers; ///< the dialogs that are open, and some that were
     /** A keyboard may outlive a change of the language, and a factory its keyboards. */
     std::map<QString, std::unique_ptr<KeyboardFactoryDefault>> factories;
 };

@@ -15,6 +15,7 @@ class StandbyPage : public ZEMPageBackground
 public:
     explicit StandbyPage(QWidget *parent = nullptr) : ZEMPageBackground(parent)
     {
+        setObjectName(QStringLiteral("standby"));
         setBackgroundColor(QColor(Qt::black));
     }
 
