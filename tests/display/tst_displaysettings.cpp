@@ -15,7 +15,6 @@ class tst_DisplaySettings : public QObject
 private Q_SLOTS:
     void defaults();
     void valuesAreKept();
-    void passwordIsNotWritten();
     void clear();
     void strangeValuesAreDefaults_data();
     void strangeValuesAreDefaults();
@@ -27,9 +26,6 @@ void tst_DisplaySettings::defaults()
     const DisplaySettings settings(directory.filePath(QStringLiteral("new.ini")));
     QVERIFY(settings.houseName().isEmpty());
     QCOMPARE(settings.price(), 0.30);
-    QVERIFY(settings.wifiPassword().isEmpty());
-    QVERIFY(settings.town().isEmpty());
-    QVERIFY(settings.note().isEmpty());
     QCOMPARE(settings.contract(), ContractType::DayAndNight);
     QCOMPARE(settings.keyboardLanguage(), QStringLiteral("nl"));
     QCOMPARE(settings.yearGoal(), 3500);
@@ -47,20 +43,16 @@ void tst_DisplaySettings::valuesAreKept()
         QSignalSpy changes(&settings, &DisplaySettings::changed);
         settings.setHouseName(QStringLiteral("Café \"De Zon\", 2e"));
         settings.setPrice(0.4212);
-        settings.setTown(QStringLiteral("Sneek"));
-        settings.setNote(QStringLiteral("een\ntwee"));
         settings.setContract(ContractType::Single);
         settings.setKeyboardLanguage(QStringLiteral("de"));
         settings.setYearGoal(1800);
         settings.setProfile(Profile::Holiday);
         settings.setStandby({10, QTime(23, 30), QTime(6, 0)});
-        QCOMPARE(changes.count(), 9);
+        QCOMPARE(changes.count(), 7);
     }
     const DisplaySettings settings(path);
     QCOMPARE(settings.houseName(), QStringLiteral("Café \"De Zon\", 2e"));
     QCOMPARE(settings.price(), 0.4212);
-    QCOMPARE(settings.town(), QStringLiteral("Sneek"));
-    QCOMPARE(settings.note(), QStringLiteral("een\ntwee"));
     QCOMPARE(settings.contract(), ContractType::Single);
     QCOMPARE(settings.keyboardLanguage(), QStringLiteral("de"));
     QCOMPARE(settings.yearGoal(), 1800);
@@ -70,35 +62,16 @@ void tst_DisplaySettings::valuesAreKept()
     QCOMPARE(settings.standby().nightTo, QTime(6, 0));
 }
 
-void tst_DisplaySettings::passwordIsNotWritten()
-{
-    const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("display.ini"));
-    {
-        DisplaySettings settings(path);
-        settings.setHouseName(QStringLiteral("huis"));
-        settings.setWifiPassword(QStringLiteral("geheim"));
-        QCOMPARE(settings.wifiPassword(), QStringLiteral("geheim"));
-    }
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray written = file.readAll();
-    QVERIFY(written.contains("huis"));
-    QVERIFY(!written.contains("geheim"));
-}
-
 void tst_DisplaySettings::clear()
 {
     const QTemporaryDir directory;
     DisplaySettings settings(directory.filePath(QStringLiteral("display.ini")));
     settings.setHouseName(QStringLiteral("huis"));
-    settings.setWifiPassword(QStringLiteral("geheim"));
     settings.setYearGoal(1);
     const QSignalSpy changes(&settings, &DisplaySettings::changed);
     settings.clear();
     QCOMPARE(changes.count(), 1);
     QVERIFY(settings.houseName().isEmpty());
-    QVERIFY(settings.wifiPassword().isEmpty());
     QCOMPARE(settings.yearGoal(), 3500);
 }
 

@@ -13,11 +13,8 @@
 #include <ZEMDialogShowText>
 #include <ZEMLineEditButton>
 #include <ZEMLineEditDialog>
-#include <ZEMLineEditSearchDialog>
 #include <ZEMListView>
-#include <ZEMMultiLineDialog>
 #include <ZEMNumericKeypad>
-#include <ZEMPasswordDialog>
 
 class tst_SettingsPage : public QObject
 {
@@ -29,9 +26,6 @@ private Q_SLOTS:
     void houseNameIsTyped();
     void cancelChangesNothing();
     void priceIsANumber();
-    void passwordIsMasked();
-    void townIsFoundWhileTyping();
-    void noteHasLines();
     void contractIsChosen();
     void keyboardFollowsTheLanguage();
     void longTextIsRead();
@@ -134,50 +128,6 @@ void tst_SettingsPage::priceIsANumber()
     QCOMPARE(field("price")->text(), QStringLiteral("€ 0,2198"));
 }
 
-void tst_SettingsPage::passwordIsMasked()
-{
-    auto *dialog = open<ZEMPasswordDialog>("password");
-    QVERIFY(dialog);
-    type(dialog, QStringLiteral("geheim"));
-    QCOMPARE(dialog->text(), QStringLiteral("geheim"));
-    QCOMPARE(dialog->findChild<QLineEdit *>()->echoMode(), QLineEdit::Password);
-    tapButton(dialog, "btnOK");
-    QCOMPARE(display->settings.wifiPassword(), QStringLiteral("geheim"));
-    QCOMPARE(field("password")->text(), QStringLiteral("••••••"));
-}
-
-void tst_SettingsPage::townIsFoundWhileTyping()
-{
-    auto *dialog = open<ZEMLineEditSearchDialog>("town");
-    QVERIFY(dialog);
-    const auto *count = dialog->findChild<QLabel *>(QStringLiteral("lblSearchCount"));
-    const auto hits = [&] {
-        return count ? count->text()
-                     : dialog->findChild<ZEMButton *>(QStringLiteral("btnSearch"))->text();
-    };
-    QCOMPARE(hits(), QStringLiteral("70"));
-    type(dialog, QStringLiteral("den h"));
-    QCOMPARE(hits(), QStringLiteral("2")); // Den Haag, Den Helder
-    tapButton(dialog, "btnSearch");
-    QCOMPARE(display->overlay<ZEMListView>()->data(1).toString(), QStringLiteral("Den Helder"));
-    choose(1);
-    QCOMPARE(display->settings.town(), QStringLiteral("Den Helder"));
-    QVERIFY(!display->overlay<ZEMListView>());
-    QVERIFY(!display->overlay<ZEMLineEditSearchDialog>());
-}
-
-void tst_SettingsPage::noteHasLines()
-{
-    auto *dialog = open<ZEMMultiLineDialog>("note");
-    QVERIFY(dialog);
-    type(dialog, QStringLiteral("een"));
-    PlayedDisplay::tapKey(dialog, QStringLiteral("ENTER"));
-    type(dialog, QStringLiteral("twee"));
-    tapButton(dialog, "btnOK");
-    QCOMPARE(display->settings.note(), QStringLiteral("een\ntwee"));
-    QCOMPARE(field("note")->text(), QStringLiteral("een"));
-}
-
 void tst_SettingsPage::contractIsChosen()
 {
     source.count(Readings::Quantity::GridImport, 3);
@@ -253,7 +203,7 @@ void tst_SettingsPage::allIsForgottenAfterAQuestion()
 void tst_SettingsPage::dialogsCoverTheDisplay_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"houseName", "price", "password", "town", "note", "contract"}) {
+    for (const char *name : {"houseName", "price", "contract", "keyboard"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
     }
 }

@@ -6,7 +6,6 @@
 #include "displaysettings.h"
 #include "inputdialogs.h"
 #include "pagelook.h"
-#include "towns.h"
 
 #include <QDoubleValidator>
 #include <QGridLayout>
@@ -40,11 +39,10 @@ QString languageName(const QString &language)
     return name.isEmpty() ? language : name.at(0).toUpper() + name.mid(1);
 }
 
-/** The first line, cut to what fits a field. */
+/** What fits a field. */
 QString shortened(const QString &text)
 {
-    const QString line = text.section(QLatin1Char('\n'), 0, 0);
-    return line.size() > longestShown ? line.left(longestShown) + QStringLiteral("…") : line;
+    return text.size() > longestShown ? text.left(longestShown) + QStringLiteral("…") : text;
 }
 
 QString privacyText()
@@ -52,15 +50,19 @@ QString privacyText()
     return SettingsPage::tr(
         "<p>Dit scherm leest de meters in huis en bewaart wat het leest alleen in zijn eigen "
         "geheugen. Het stuurt niets naar buiten en heeft geen account nodig.</p>"
-        "<p>De naam van het huis, de plaats, de prijs, het doel en de notitie staan in een bestand "
-        "op dit scherm. Het wachtwoord van de wifi wordt niet opgeslagen; na het uitzetten van "
-        "het scherm moet het opnieuw worden ingevoerd.</p>"
-        "<p>Met <b>Alles wissen</b> op de pagina met instellingen verdwijnt alles wat hier is "
-        "ingevoerd. De standen van de meters blijven in de meters zelf staan: zij zijn van het "
-        "huis en niet van dit scherm.</p>"
-        "<p>Wie het scherm verkoopt of weggeeft, wist eerst alle gegevens en zet het daarna uit. "
-        "Een nieuwe bewoner begint dan met een leeg scherm, dat de meters vanaf dat moment "
-        "volgt.</p>");
+        "<p>De naam van het huis, de prijs, het tarief en het doel staan in een bestand op dit "
+        "scherm. Met <b>Alles wissen</b> op de pagina met instellingen verdwijnt alles wat hier is "
+        "ingevoerd.</p>"
+        "<p>Wat de meters telden staat in een tweede bestand, zodat de grafieken er na het "
+        "uitzetten "
+        "nog zijn: de standen van elk uur voorgoed, die van elke vijf minuten honderd dagen lang. "
+        "Alles wissen laat ze staan. Het bestand heet history.sqlite en staat in de map zemkit bij "
+        "de "
+        "gegevens van de gebruiker van het scherm.</p>"
+        "<p>Wie het scherm verkoopt of weggeeft, wist eerst alle instellingen, zet het scherm uit "
+        "en "
+        "gooit dan dat bestand weg. Een nieuwe bewoner begint met een leeg scherm, dat de meters "
+        "vanaf dat moment volgt.</p>");
 }
 
 } // namespace
@@ -74,12 +76,9 @@ SettingsPage::SettingsPage(const EnergySource &source, DisplaySettings *theSetti
     grid->setVerticalSpacing(10);
     grid->setAlignment(Qt::AlignCenter);
     houseName = addField(grid, tr("naam van het huis"), "houseName", &SettingsPage::askHouseName);
-    town = addField(grid, tr("plaats"), "town", &SettingsPage::askTown);
     price = addField(grid, tr("prijs van een kWh"), "price", &SettingsPage::askPrice);
     contract = addField(grid, tr("tarief"), "contract", &SettingsPage::chooseContract);
-    password = addField(grid, tr("wachtwoord van de wifi"), "password", &SettingsPage::askPassword);
     keyboard = addField(grid, tr("toetsenbord"), "keyboard", &SettingsPage::chooseKeyboard);
-    note = addField(grid, tr("notitie"), "note", &SettingsPage::askNote);
     addField(grid, tr("uitleg"), "privacy", &SettingsPage::readPrivacy)
         ->setText(tr("Wat bewaart dit scherm?"));
 
@@ -125,24 +124,6 @@ void SettingsPage::askPrice()
         validator, [this](const QString &text) { settings->setPrice(QLocale().toDouble(text)); });
 }
 
-void SettingsPage::askPassword()
-{
-    dialogs->askPassword(tr("Wachtwoord van de wifi"), settings->wifiPassword(),
-                         [this](const QString &text) { settings->setWifiPassword(text); });
-}
-
-void SettingsPage::askTown()
-{
-    dialogs->askSearch(tr("Plaats"), settings->town(), townNames(),
-                       [this](const QString &text) { settings->setTown(text.trimmed()); });
-}
-
-void SettingsPage::askNote()
-{
-    dialogs->askLines(tr("Notitie"), settings->note(),
-                      [this](const QString &text) { settings->setNote(text); });
-}
-
 void SettingsPage::chooseContract()
 {
     dialogs->choose(tr("Tarief"), contractNames(), int(settings->contract()),
@@ -180,11 +161,8 @@ void SettingsPage::refresh()
         return text.isEmpty() ? QStringLiteral("–") : shortened(text);
     };
     houseName->setText(orDash(settings->houseName()));
-    town->setText(orDash(settings->town()));
     price->setText(
         QStringLiteral("€ %1").arg(QLocale().toString(settings->price(), 'f', priceDecimals)));
     contract->setText(contractNames().at(int(settings->contract())));
-    password->setText(orDash(QString(settings->wifiPassword().size(), QChar(0x2022))));
     keyboard->setText(languageName(settings->keyboardLanguage()));
-    note->setText(orDash(settings->note()));
 }

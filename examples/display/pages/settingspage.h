@@ -26,9 +26,6 @@ private:
                                 void (SettingsPage::*ask)());
     void askHouseName();
     void askPrice();
-    void askPassword();
-    void askTown();
-    void askNote();
     void chooseContract();
     void chooseKeyboard();
     void readPrivacy();
@@ -39,9 +36,6 @@ private:
     InputDialogs *dialogs;
     ZEMLineEditButton *houseName = nullptr;
     ZEMLineEditButton *price = nullptr;
-    ZEMLineEditButton *password = nullptr;
-    ZEMLineEditButton *town = nullptr;
-    ZEMLineEditButton *note = nullptr;
     ZEMLineEditButton *contract = nullptr;
     ZEMLineEditButton *keyboard = nullptr;
 };

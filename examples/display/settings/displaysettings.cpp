@@ -12,8 +12,6 @@ constexpr int usualYearGoal = 3500;
 constexpr int minutesPerDay = 24 * 60;
 
 const QString houseNameKey = QStringLiteral("house/name");
-const QString townKey = QStringLiteral("house/town");
-const QString noteKey = QStringLiteral("house/note");
 const QString profileKey = QStringLiteral("house/profile");
 const QString priceKey = QStringLiteral("energy/price");
 const QString contractKey = QStringLiteral("energy/contract");
@@ -65,32 +63,6 @@ double DisplaySettings::price() const
 void DisplaySettings::setPrice(double price)
 {
     set(priceKey, price);
-}
-
-void DisplaySettings::setWifiPassword(const QString &newPassword)
-{
-    password = newPassword;
-    Q_EMIT changed();
-}
-
-QString DisplaySettings::town() const
-{
-    return file.value(townKey).toString();
-}
-
-void DisplaySettings::setTown(const QString &town)
-{
-    set(townKey, town);
-}
-
-QString DisplaySettings::note() const
-{
-    return file.value(noteKey).toString();
-}
-
-void DisplaySettings::setNote(const QString &note)
-{
-    set(noteKey, note);
 }
 
 ContractType DisplaySettings::contract() const
@@ -155,7 +127,6 @@ void DisplaySettings::setProfile(Profile profile)
 void DisplaySettings::clear()
 {
     file.clear();
-    password.clear();
     Q_EMIT changed();
 }
 

@@ -41,16 +41,6 @@ public:
     double price() const;
     void setPrice(double price);
 
-    /** Of the Wi-Fi; kept in memory alone. */
-    QString wifiPassword() const { return password; }
-    void setWifiPassword(const QString &newPassword);
-
-    QString town() const;
-    void setTown(const QString &town);
-
-    QString note() const;
-    void setNote(const QString &note);
-
     ContractType contract() const;
     void setContract(ContractType contract);
 
@@ -80,7 +70,6 @@ private:
     void set(const QString &key, const QVariant &value);
 
     QSettings file;
-    QString password;
 };
 
 #endif

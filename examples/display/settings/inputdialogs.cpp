@@ -16,11 +16,8 @@
 #include <ZEMDialogShowText>
 #include <ZEMKeyboardInputHandler>
 #include <ZEMLineEditDialog>
-#include <ZEMLineEditSearchDialog>
 #include <ZEMListView>
-#include <ZEMMultiLineDialog>
 #include <ZEMNumericKeypad>
-#include <ZEMPasswordDialog>
 #include <ZEMSimpleListView>
 #include <utility>
 
@@ -34,11 +31,6 @@ constexpr int longestLine = 60;
 
 const QString filePrefix = QStringLiteral("keyboard_");
 const QString fileSuffix = QStringLiteral(".xml");
-
-QStringList matches(const QStringList &entries, const QString &text)
-{
-    return entries.filter(text.trimmed(), Qt::CaseInsensitive);
-}
 
 /** Items that are high enough for a finger. */
 class HighItems : public QStyledItemDelegate
@@ -107,54 +99,6 @@ void InputDialogs::askNumber(const QString &title, const QString &value, QValida
             answer(number);
         }
     });
-}
-
-void InputDialogs::askPassword(const QString &title, const QString &text, const Answer &answer)
-{
-    auto *dialog = new ZEMPasswordDialog(
-        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupAbove), window);
-    dialog->setTitle(title);
-    dialog->setText(text);
-    dialog->slotHidePassword(true, false);
-    run(dialog, &ZEMPasswordDialog::text, answer);
-}
-
-void InputDialogs::askLines(const QString &title, const QString &text, const Answer &answer)
-{
-    auto *dialog = new ZEMMultiLineDialog(
-        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupFlip), window);
-    dialog->setTitle(title);
-    dialog->setText(text);
-    run(dialog, &ZEMMultiLineDialog::text, answer);
-}
-
-void InputDialogs::askSearch(const QString &title, const QString &text, const QStringList &entries,
-                             const Answer &answer)
-{
-    auto *dialog = new ZEMLineEditSearchDialog(
-        keyboards().createKeyboard(ZEMVirtualKeyboardFactoryIntf::PopupFlip), window);
-    dialog->setTitle(title);
-    dialog->setText(text);
-    const auto count = [dialog, entries] {
-        dialog->setSearchCount(int(matches(entries, dialog->text()).size()));
-    };
-    count();
-    connect(dialog, &ZEMLineEditSearchDialog::sigTextEdited, dialog, count);
-    connect(
-        dialog, &ZEMLineEditSearchDialog::sigSearch, this, [this, dialog, title, entries, answer] {
-            const QStringList found = matches(entries, dialog->text());
-            if (found.isEmpty()) {
-                return;
-            }
-            choose(title, found, 0, [dialog = QPointer<QWidget>(dialog), found, answer](int row) {
-                if (dialog) {
-                    dialog->hide();
-                    dialog->deleteLater();
-                }
-                answer(found.at(row));
-            });
-        });
-    run(dialog, &ZEMLineEditSearchDialog::text, answer);
 }
 
 void InputDialogs::choose(const QString &title, const QStringList &choices, int current,

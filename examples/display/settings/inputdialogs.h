@@ -43,11 +43,6 @@ public:
     /** Takes ownership of @p validator. */
     void askNumber(const QString &title, const QString &value, QValidator *validator,
                    const Answer &answer);
-    void askPassword(const QString &title, const QString &text, const Answer &answer);
-    void askLines(const QString &title, const QString &text, const Answer &answer);
-    /** Asks for one of @p entries, of which those that have the text in them can be listed. */
-    void askSearch(const QString &title, const QString &text, const QStringList &entries,
-                   const Answer &answer);
 
     /** Lets one of @p choices be chosen. */
     void choose(const QString &title, const QStringList &choices, int current,
