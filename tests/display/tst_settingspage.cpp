@@ -28,6 +28,8 @@ private Q_SLOTS:
     void priceIsANumber();
     void contractIsChosen();
     void keyboardFollowsTheLanguage();
+    void standbyIsChosen();
+    void nightIsChosenInTwoSteps();
     void longTextIsRead();
     void allIsForgottenAfterAQuestion_data();
     void allIsForgottenAfterAQuestion();
@@ -157,6 +159,33 @@ void tst_SettingsPage::keyboardFollowsTheLanguage()
     QCOMPARE(dialog->text(), QStringLiteral("ü"));
 }
 
+void tst_SettingsPage::standbyIsChosen()
+{
+    QCOMPARE(field("standby")->text(), QStringLiteral("nooit"));
+    QVERIFY(open<ZEMListView>("standby"));
+    choose(4);
+    QCOMPARE(display->settings.standby().after, 10);
+    QCOMPARE(field("standby")->text(), QStringLiteral("10 minuten"));
+    QVERIFY(open<ZEMListView>("standby"));
+    tapButton(display->overlay<ZEMListView>(), "btnSelect"); // the one that is in use
+    QCOMPARE(display->settings.standby().after, 10);
+}
+
+void tst_SettingsPage::nightIsChosenInTwoSteps()
+{
+    QCOMPARE(field("night")->text(), QStringLiteral("nooit"));
+    QVERIFY(open<ZEMListView>("night"));
+    choose(4);
+    QVERIFY(!display->settings.standby().isNight(QTime(23, 30)));
+    choose(1);
+    QCOMPARE(field("night")->text(), QStringLiteral("23:00 – 6:00 uur"));
+    QVERIFY(display->settings.standby().isNight(QTime(23, 30)));
+    QVERIFY(!display->settings.standby().isNight(QTime(6, 0)));
+    QVERIFY(open<ZEMListView>("night"));
+    choose(0);
+    QCOMPARE(field("night")->text(), QStringLiteral("nooit"));
+}
+
 void tst_SettingsPage::longTextIsRead()
 {
     bool isLong = false;
@@ -203,7 +232,7 @@ void tst_SettingsPage::allIsForgottenAfterAQuestion()
 void tst_SettingsPage::dialogsCoverTheDisplay_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"houseName", "price", "contract", "keyboard"}) {
+    for (const char *name : {"houseName", "price", "contract", "keyboard", "standby", "night"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
     }
 }

@@ -14,12 +14,25 @@
 #include <ZEMButton>
 #include <ZEMLineEditButton>
 #include <ZEMTextLabel>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int columns = 2;
 constexpr int priceDecimals = 4;
 constexpr int longestShown = 24; // characters of a field
+
+constexpr int standbyMinutes[] = {0, 1, 2, 5, 10, 30, 60};
+constexpr int nightBegins[] = {20, 21, 22, 23, 0, 1}; // hours
+constexpr int nightEnds[] = {5, 6, 7, 8, 9, 10};
+
+QString standbyName(int minutes)
+{
+    return minutes == 0 ? SettingsPage::tr("nooit")
+        : minutes == 1  ? SettingsPage::tr("1 minuut")
+                        : SettingsPage::tr("%1 minuten").arg(minutes);
+}
 
 QStringList contractNames()
 {
@@ -79,6 +92,8 @@ SettingsPage::SettingsPage(const EnergySource &source, DisplaySettings *theSetti
     price = addField(grid, tr("prijs van een kWh"), "price", &SettingsPage::askPrice);
     contract = addField(grid, tr("tarief"), "contract", &SettingsPage::chooseContract);
     keyboard = addField(grid, tr("toetsenbord"), "keyboard", &SettingsPage::chooseKeyboard);
+    standby = addField(grid, tr("scherm uit na"), "standby", &SettingsPage::chooseStandby);
+    night = addField(grid, tr("scherm 's nachts uit"), "night", &SettingsPage::chooseNight);
     addField(grid, tr("uitleg"), "privacy", &SettingsPage::readPrivacy)
         ->setText(tr("Wat bewaart dit scherm?"));
 
@@ -143,6 +158,50 @@ void SettingsPage::chooseKeyboard()
     });
 }
 
+void SettingsPage::chooseStandby()
+{
+    QStringList names;
+    for (const int minutes : standbyMinutes) {
+        names << standbyName(minutes);
+    }
+    const StandbyRule rule = settings->standby();
+    const auto *current =
+        std::find(std::begin(standbyMinutes), std::end(standbyMinutes), rule.after);
+    const bool isListed = current != std::end(standbyMinutes);
+    dialogs->choose(tr("Scherm uit na"), names,
+                    isListed ? int(std::distance(std::begin(standbyMinutes), current)) : 0,
+                    [this](int row) {
+                        StandbyRule chosen = settings->standby();
+                        chosen.after = standbyMinutes[row];
+                        settings->setStandby(chosen);
+                    });
+}
+
+void SettingsPage::chooseNight()
+{
+    QStringList begins {tr("nooit")};
+    for (const int hour : nightBegins) {
+        begins << tr("vanaf %1 uur").arg(hour);
+    }
+    dialogs->choose(tr("Scherm 's nachts uit"), begins, 0, [this](int row) {
+        StandbyRule rule = settings->standby();
+        if (row == 0) {
+            rule.nightFrom = rule.nightTo = QTime(0, 0);
+            settings->setStandby(rule);
+            return;
+        }
+        rule.nightFrom = QTime(nightBegins[row - 1], 0);
+        QStringList ends;
+        for (const int hour : nightEnds) {
+            ends << tr("tot %1 uur").arg(hour);
+        }
+        dialogs->choose(tr("Scherm 's nachts uit"), ends, 0, [this, rule](int chosen) mutable {
+            rule.nightTo = QTime(nightEnds[chosen], 0);
+            settings->setStandby(rule);
+        });
+    });
+}
+
 void SettingsPage::readPrivacy()
 {
     dialogs->read(tr("Wat bewaart dit scherm?"), privacyText());
@@ -165,4 +224,11 @@ void SettingsPage::refresh()
         QStringLiteral("€ %1").arg(QLocale().toString(settings->price(), 'f', priceDecimals)));
     contract->setText(contractNames().at(int(settings->contract())));
     keyboard->setText(languageName(settings->keyboardLanguage()));
+    const StandbyRule rule = settings->standby();
+    standby->setText(standbyName(rule.after));
+    const QString time = QStringLiteral("H:mm");
+    night->setText(
+        rule.nightFrom == rule.nightTo
+            ? tr("nooit")
+            : tr("%1 – %2 uur").arg(rule.nightFrom.toString(time), rule.nightTo.toString(time)));
 }

@@ -28,6 +28,8 @@ private:
     void askPrice();
     void chooseContract();
     void chooseKeyboard();
+    void chooseStandby();
+    void chooseNight();
     void readPrivacy();
     void clear();
     void refresh();
@@ -38,6 +40,8 @@ private:
     ZEMLineEditButton *price = nullptr;
     ZEMLineEditButton *contract = nullptr;
     ZEMLineEditButton *keyboard = nullptr;
+    ZEMLineEditButton *standby = nullptr;
+    ZEMLineEditButton *night = nullptr;
 };
 
 #endif
