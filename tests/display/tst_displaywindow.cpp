@@ -70,6 +70,8 @@ private Q_SLOTS:
     void hiddenArrowsPaintNothing();
     void stoppedFlowsPaintNothing();
     void idleDisplaySleeps();
+    void hiddenFlowsSleep_data();
+    void hiddenFlowsSleep();
     void lostMeterShowsAQuestionMark();
     void powerThatNoMeterTellsIsADash_data();
     void powerThatNoMeterTellsIsADash();
@@ -370,6 +372,46 @@ void tst_DisplayWindow::idleDisplaySleeps()
     loop.exec();
     // Once for the end of the loop; a moving arrow would wake it many times a second.
     QVERIFY2(awakenings < 10, qPrintable(QString::number(awakenings)));
+}
+
+void tst_DisplayWindow::hiddenFlowsSleep_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::newRow("behind the charts") << "overview"
+                                       << "charts";
+    QTest::newRow("behind the dark page") << "overview"
+                                          << "standby";
+    QTest::newRow("of the devices") << "devices"
+                                    << "charts";
+}
+
+void tst_DisplayWindow::hiddenFlowsSleep()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    source->count(Quantity::GridImport, 3);
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    const auto running = [&] {
+        const auto arrows = display.window.findChildren<ZEMAnimatedArrows *>();
+        return std::count_if(arrows.begin(), arrows.end(),
+                             [](const ZEMAnimatedArrows *each) { return each->getRunning(); });
+    };
+    display.window.openPage(from);
+    ZEM_TRY_VERIFY(running() > 0);
+    const auto before = running();
+    if (to == "standby") {
+        display.window.openStandby();
+    } else {
+        display.window.openPage(to);
+    }
+    QCOMPARE(running(), 0);
+    Q_EMIT source->powerChanged();
+    Q_EMIT source->meteringChanged(true);
+    QCOMPARE(running(), 0);
+    display.window.openPage(from);
+    ZEM_TRY_COMPARE(running(), before);
 }
 
 void tst_DisplayWindow::lostMeterShowsAQuestionMark()

@@ -19,7 +19,6 @@ DevicesPage::DevicesPage(const EnergySource &source, QWidget *parent)
     content()->addWidget(details, 1, Qt::AlignCenter);
     connect(&source, &EnergySource::powerChanged, this, &DevicesPage::showPower);
     connect(&source, &EnergySource::meteringChanged, this, &DevicesPage::showPower);
-    showPower();
 }
 
 void DevicesPage::showEvent(QShowEvent *event)
@@ -42,6 +41,10 @@ ZEMCurrentStatusDetailsItem *DevicesPage::itemOf(const DevicePower &device)
 
 void DevicesPage::showPower()
 {
+    // A hidden panel needs no news, and its arrows no time.
+    if (!isVisible()) {
+        return;
+    }
     const PowerReport report = energySource().power().value_or(PowerReport());
     const bool isMetering = energySource().power() && energySource().isMetering();
     details->setMeteringStatus(isMetering);

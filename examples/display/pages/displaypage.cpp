@@ -10,6 +10,7 @@
 #include <QLocale>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <ZEMAnimatedArrows>
 #include <ZEMButton>
 #include <ZEMLabel>
 #include <ZEMNotificationButton>
@@ -111,6 +112,10 @@ void DisplayPage::showEvent(QShowEvent *event)
 void DisplayPage::hideEvent(QHideEvent *event)
 {
     minuteTimer.stop();
+    // They would wake the processor twenty times a second, and nobody sees them.
+    for (ZEMAnimatedArrows *arrows : findChildren<ZEMAnimatedArrows *>()) {
+        arrows->stop();
+    }
     ZEMPageBackground::hideEvent(event);
 }
 

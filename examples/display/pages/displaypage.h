@@ -20,7 +20,7 @@ class ZEMTextLabel;
  * The base of all pages of the display: the dark ground, and a header with the menu, a way back,
  * the title and place of the page, date and time (and that it is a simulation, or of when the
  * readings are that do not go on), the power of the grid and the messages. A page is 640 by 480
- * pixels, of which the header takes 74.
+ * pixels, of which the header takes 74. Nothing moves on a page that is not in view.
  */
 class DisplayPage : public ZEMPageBackground
 {

@@ -57,7 +57,6 @@ OverviewPage::OverviewPage(const EnergySource &source, QWidget *parent)
     connect(&source, &EnergySource::powerChanged, this, &OverviewPage::showPower);
     connect(&source, &EnergySource::meteringChanged, this, &OverviewPage::showPower);
     connect(&source, &EnergySource::historyChanged, this, &OverviewPage::handleHistory);
-    showPower();
 }
 
 void OverviewPage::showEvent(QShowEvent *event)
