@@ -43,7 +43,8 @@ QString withPlaceBehind(QString problem)
 
 DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSettings,
                              const QString &keyboardDirectory, QWidget *parent)
-    : QStackedWidget(parent), settings(theSettings), dialogs(keyboardDirectory, theSettings, this)
+    : QStackedWidget(parent), shownSource(source), settings(theSettings),
+      dialogs(keyboardDirectory, theSettings, this)
 {
     setWindowTitle(QStringLiteral("zemkit-display"));
     setFixedSize(PageLook::pageSize);
@@ -90,9 +91,8 @@ void DisplayWindow::openMessages()
         dialogs.inform(tr("Geen meldingen"));
         return;
     }
-    dialogs.choose(tr("Meldingen"), &messages, 0, [this](int row) {
-        dialogs.read(tr("Melding"), messages.data(messages.index(row)).toString());
-    });
+    dialogs.choose(tr("Meldingen"), &messages, 0,
+                   [this](int row) { dialogs.read(tr("Melding"), messages.wholeText(row)); });
 }
 
 void DisplayWindow::openStandby()
@@ -114,7 +114,7 @@ void DisplayWindow::withdrawOverlays()
 
 void DisplayWindow::addMessage(const QString &message)
 {
-    messages.add(message);
+    messages.add(message, shownSource.now());
 }
 
 void DisplayWindow::makePages(const EnergySource &source)

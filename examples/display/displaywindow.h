@@ -72,6 +72,7 @@ private:
     void withdrawOverlays();
     void handlePageChange();
 
+    const EnergySource &shownSource;
     DisplaySettings *settings;
     InputDialogs dialogs;
     MessageList messages;

@@ -190,8 +190,9 @@ void tst_DisplayWindow::messagesAreCountedUntilSeen()
     QCOMPARE(bell->getNotifyCount(), 0);
     auto *list = display.overlay<ZEMListView>();
     QVERIFY(list);
-    QCOMPARE(list->data(0).toString(), QStringLiteral("a damaged telegram"));
-    QCOMPARE(list->data(1).toString(), QStringLiteral("a broken row (readings.csv:12)"));
+    QCOMPARE(list->data(0).toString(), QStringLiteral("9 mrt. 14:05  a damaged telegram"));
+    QCOMPARE(list->data(1).toString(),
+             QStringLiteral("9 mrt. 14:05  a broken row (readings.csv:12)"));
     PlayedDisplay::tap(list->findChild<ZEMButton *>(QStringLiteral("btnCancel")));
     ZEM_TRY_VERIFY(!display.overlay<ZEMListView>());
 }

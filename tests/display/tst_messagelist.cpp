@@ -4,6 +4,7 @@
 #include "messagelist.h"
 
 #include <QAbstractItemModelTester>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -12,18 +13,60 @@ class tst_MessageList : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void newestComesFirst();
+    void sameAgainIsCounted();
     void unseenAreCounted();
     void oldestAreDropped();
+    void wholeTextTellsWhen();
+
+private:
+    static QStringList linesOf(const MessageList &list);
+
+    const QDateTime noon {QDate(2016, 3, 9), QTime(12, 0), Qt::UTC};
 };
+
+void tst_MessageList::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+}
+
+QStringList tst_MessageList::linesOf(const MessageList &list)
+{
+    QStringList lines;
+    for (int row = 0; row < list.rowCount(); ++row) {
+        lines << list.index(row).data().toString();
+    }
+    return lines;
+}
 
 void tst_MessageList::newestComesFirst()
 {
     MessageList list;
     const QAbstractItemModelTester tester(&list);
-    list.add(QStringLiteral("one"));
-    list.add(QStringLiteral("two"));
-    QCOMPARE(list.stringList(), (QStringList {QStringLiteral("two"), QStringLiteral("one")}));
+    list.add(QStringLiteral("one"), noon);
+    list.add(QStringLiteral("two"), noon.addSecs(60));
+    QCOMPARE(
+        linesOf(list),
+        (QStringList {QStringLiteral("9 mrt. 12:01  two"), QStringLiteral("9 mrt. 12:00  one")}));
+}
+
+void tst_MessageList::sameAgainIsCounted()
+{
+    MessageList list;
+    const QAbstractItemModelTester tester(&list);
+    list.add(QStringLiteral("once"), noon);
+    for (int i = 1; i <= 1000; ++i) {
+        list.add(QStringLiteral("often"), noon.addSecs(i));
+    }
+    list.add(QStringLiteral("later"), noon.addDays(1));
+    QCOMPARE(linesOf(list),
+             (QStringList {QStringLiteral("10 mrt. 12:00  later"),
+                           QStringLiteral("9 mrt. 12:16  1000×  often"),
+                           QStringLiteral("9 mrt. 12:00  once")}));
+    list.add(QStringLiteral("once"), noon.addDays(2));
+    QCOMPARE(linesOf(list).constFirst(), QStringLiteral("11 mrt. 12:00  2×  once"));
+    QCOMPARE(list.rowCount(), 3);
 }
 
 void tst_MessageList::unseenAreCounted()
@@ -31,17 +74,17 @@ void tst_MessageList::unseenAreCounted()
     MessageList list;
     QSignalSpy counts(&list, &MessageList::unseenChanged);
     QCOMPARE(list.unseen(), 0);
-    list.add(QStringLiteral("one"));
-    list.add(QStringLiteral("two"));
+    list.add(QStringLiteral("one"), noon);
+    list.add(QStringLiteral("two"), noon);
+    list.add(QStringLiteral("two"), noon);
     QCOMPARE(list.unseen(), 2);
     list.markSeen();
     QCOMPARE(list.unseen(), 0);
     QCOMPARE(list.rowCount(), 2);
-    list.add(QStringLiteral("three"));
+    // One that was seen is news when it comes again.
+    list.add(QStringLiteral("two"), noon);
     QCOMPARE(list.unseen(), 1);
-    QCOMPARE(counts.count(), 4);
-    QCOMPARE(counts.at(1).constFirst().toInt(), 2);
-    QCOMPARE(counts.at(2).constFirst().toInt(), 0);
+    QCOMPARE(counts.constLast().constFirst().toInt(), 1);
 }
 
 void tst_MessageList::oldestAreDropped()
@@ -49,12 +92,22 @@ void tst_MessageList::oldestAreDropped()
     MessageList list;
     const QAbstractItemModelTester tester(&list);
     for (int i = 0; i < MessageList::most + 3; ++i) {
-        list.add(QString::number(i));
+        list.add(QString::number(i), noon);
     }
     QCOMPARE(list.rowCount(), MessageList::most);
     QCOMPARE(list.unseen(), MessageList::most);
-    QCOMPARE(list.stringList().constFirst(), QString::number(MessageList::most + 2));
-    QCOMPARE(list.stringList().constLast(), QStringLiteral("3"));
+    QVERIFY(linesOf(list).constFirst().endsWith(QString::number(MessageList::most + 2)));
+    QVERIFY(linesOf(list).constLast().endsWith(QStringLiteral("  3")));
+}
+
+void tst_MessageList::wholeTextTellsWhen()
+{
+    MessageList list;
+    list.add(QStringLiteral("1 < 2"), noon);
+    QCOMPARE(list.wholeText(0), QStringLiteral("<p>1 &lt; 2</p><p>9 mrt. 12:00</p>"));
+    list.add(QStringLiteral("1 < 2"), noon.addDays(1));
+    QCOMPARE(list.wholeText(0),
+             QStringLiteral("<p>1 &lt; 2</p><p>2 keer, van 9 mrt. 12:00 tot 10 mrt. 12:00</p>"));
 }
 
 QTEST_GUILESS_MAIN(tst_MessageList)

@@ -4,11 +4,17 @@
 #ifndef MESSAGELIST_H
 #define MESSAGELIST_H
 
-#include <QStringListModel>
+#include <QAbstractListModel>
+#include <QDateTime>
+#include <QString>
+#include <vector>
 
-/** The messages to the people of the house, newest first, and how many of them were not seen yet.
+/**
+ * The messages to the people of the house, newest first, and how many of them were not seen yet.
+ * Each has its time. One that comes again is the newest, and counted, so that what is told a
+ * hundred times a day does not bury what is told once.
  */
-class MessageList : public QStringListModel
+class MessageList : public QAbstractListModel
 {
     Q_OBJECT
 
@@ -16,19 +22,39 @@ public:
     /** The oldest messages are dropped above this number. */
     static constexpr int most = 200;
 
-    using QStringListModel::QStringListModel;
+    using QAbstractListModel::QAbstractListModel;
 
     int unseen() const { return notSeen; }
 
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    /** Qt::DisplayRole: one line, "9 mrt. 14:05  3×  the text". */
+    QVariant data(const QModelIndex &index, int role) const override;
+    /** The text of a row, and below it when it came, first and last, and how often. */
+    QString wholeText(int row) const;
+
 public Q_SLOTS:
-    void add(const QString &message);
+    /** @p when is by the clock of the house. */
+    void add(const QString &message, const QDateTime &when);
     /** All messages were seen. */
     void markSeen();
 
 Q_SIGNALS:
+    /** A message that comes again before it was seen is not counted twice. */
     void unseenChanged(int count);
 
 private:
+    struct Message
+    {
+        QString text;
+        QDateTime first;
+        QDateTime last;
+        int count = 1;
+        bool isSeen = false;
+    };
+
+    void setUnseen();
+
+    std::vector<Message> messages;
     int notSeen = 0;
 };
 
