@@ -29,6 +29,7 @@ private Q_SLOTS:
     void gapsAreNoBarsAndZerosAre();
     void chartDataOfWindows();
     void largestValueIgnoresGaps();
+    void valueLimitsAreRound();
     void slotsHaveTheirTimes_data();
     void slotsHaveTheirTimes();
 
@@ -203,6 +204,18 @@ void tst_ChartValues::largestValueIgnoresGaps()
 {
     QCOMPARE(largestValue({Period::Day, {}, {}}), 0.0);
     QCOMPARE(largestValue({Period::Day, {}, {std::nullopt, 2.5, std::nullopt, 1.0}}), 2.5);
+}
+
+void tst_ChartValues::valueLimitsAreRound()
+{
+    QCOMPARE(valueLimitFor(0.0), 1.0);
+    QCOMPARE(valueLimitFor(0.012), 0.02);
+    QCOMPARE(valueLimitFor(double(0.1F)), 0.1);
+    QCOMPARE(valueLimitFor(0.11), 0.2);
+    QCOMPARE(valueLimitFor(1.0), 1.0);
+    QCOMPARE(valueLimitFor(2.01), 5.0);
+    QCOMPARE(valueLimitFor(5.1), 10.0);
+    QCOMPARE(valueLimitFor(999.0), 1000.0);
 }
 
 void tst_ChartValues::slotsHaveTheirTimes_data()

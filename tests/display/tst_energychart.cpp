@@ -31,9 +31,11 @@ private Q_SLOTS:
     void headlineTellsTheYearUnlessItIsThePresentOne();
     void tappedBarTellsItsSlotUntilTheNextTouch();
     void pickedBarIsPaintedOnTheScreen();
+    void valueAxisFitsThePeriodInView();
 
 private:
     QWidget *canvas() const { return widget->findChild<QwtPlot *>()->canvas(); }
+    void show(const Energy &energy);
     void tapBar(double slot) const;
 
     Household household;
@@ -64,7 +66,10 @@ static QColor barColour(const ZEMHistogram *chart, double slot)
     return picture.pixelColor(x, picture.height() - 4);
 }
 
-/** Gas from 11:43 on 1 May 2024 to 8:00 on the next day, 1 m³ in each hour. */
+/**
+ * Gas from 11:43 on 1 May 2024 to 8:00 on the next day, 1 m³ in each hour, and water, of which 4 m³
+ * are used in each hour of the first day and 1 m³ in those of the second.
+ */
 static Household householdOfADay()
 {
     Household household;
@@ -75,14 +80,23 @@ static Household householdOfADay()
     for (int i = 0; i <= 20; ++i) {
         gas.addReading(noon + i * 3600, 10.0 + i);
     }
+    Meter &water = household.meter({Quantity::Water}, Meter::Kind::Counter);
+    for (int i = -12; i <= 20; ++i) {
+        water.addReading(noon + i * 3600, 100.0 + (i <= 12 ? 4.0 * i : 48.0 + (i - 12)));
+    }
     return household;
 }
 
 void tst_EnergyChart::init()
 {
     household = householdOfADay();
-    chart = std::make_unique<EnergyChart>(energiesOf(household).front(), Period::Day,
-                                          PlotHeights {222, 156, 94});
+    show(energiesOf(household).front()); // gas
+}
+
+void tst_EnergyChart::show(const Energy &energy)
+{
+    widget.reset();
+    chart = std::make_unique<EnergyChart>(energy, Period::Day, PlotHeights {222, 156, 94});
     widget.reset(chart->widget());
     widget->resize(600, 300);
     widget->show();
@@ -160,6 +174,32 @@ void tst_EnergyChart::pickedBarIsPaintedOnTheScreen()
     paints.count = 0;
     tapBar(3.0);
     ZEM_TRY_VERIFY(paints.count > 0);
+}
+
+void tst_EnergyChart::valueAxisFitsThePeriodInView()
+{
+    show(energiesOf(household).back()); // water
+    const auto limit = [&] {
+        return widget->findChild<QwtPlot *>()->axisInterval(QwtPlot::yLeft).maxValue();
+    };
+    QCOMPARE(limit(), 1.0);
+    PaintCounter paints;
+    paints.watch(widget->findChild<QwtPlot *>()->axisWidget(QwtPlot::yLeft));
+    chart->widget()->showPrevPeriod();
+    ZEM_TRY_COMPARE(limit(), 5.0);
+    ZEM_TRY_VERIFY(paints.count > 0);
+    chart->widget()->showNextPeriod();
+    ZEM_TRY_COMPARE(limit(), 1.0);
+
+    // Under a finger it stays.
+    const QPoint middle = canvas()->rect().center();
+    const QPoint end = middle + QPoint(canvas()->width() / 2, 0);
+    press(canvas(), middle);
+    moveTo(canvas(), end);
+    ZemTest::outlast(0);
+    QCOMPARE(limit(), 1.0);
+    release(canvas(), end);
+    ZEM_TRY_COMPARE(limit(), 5.0);
 }
 
 QTEST_MAIN(tst_EnergyChart)

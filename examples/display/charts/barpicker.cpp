@@ -8,6 +8,7 @@
 #include <QStyleHints>
 #include <QWidget>
 #include <qwt_plot.h>
+#include <utility>
 
 BarPicker::BarPicker(QwtPlot *thePlot) : QObject(thePlot), plot(thePlot)
 {
@@ -23,9 +24,11 @@ bool BarPicker::eventFilter(QObject * /*watched*/, QEvent *event)
     } else if (event->type() == QEvent::MouseMove) {
         const QPoint way = static_cast<QMouseEvent *>(event)->pos() - start;
         isTap = isTap && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance();
-    } else if (event->type() == QEvent::MouseButtonRelease && isTap) {
-        isTap = false;
-        Q_EMIT tapped(plot->invTransform(QwtPlot::xBottom, start.x()));
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        if (std::exchange(isTap, false)) {
+            Q_EMIT tapped(plot->invTransform(QwtPlot::xBottom, start.x()));
+        }
+        Q_EMIT released();
     }
     return false;
 }

@@ -25,8 +25,9 @@ public:
 
 Q_SIGNALS:
     void pressed();
-    /** Comes after pressed(). */
+    /** Comes after pressed() and before released(). */
     void tapped(double x);
+    void released();
 
 private:
     QwtPlot *plot;

@@ -8,6 +8,7 @@
 #include <ZEMHistogramData>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using Readings::Calendar;
@@ -191,4 +192,19 @@ double largestValue(const ChartValues &values)
         largest = std::max(largest, value.value_or(0.0));
     }
     return largest;
+}
+
+double valueLimitFor(double largest)
+{
+    if (!(largest > 0.0)) {
+        return 1.0;
+    }
+    const double power = std::pow(10.0, std::floor(std::log10(largest)));
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        // 0.1 as a float is a little above 0.1.
+        if (largest <= factor * power * (1.0 + std::numeric_limits<float>::epsilon())) {
+            return factor * power;
+        }
+    }
+    return 10.0 * power;
 }

@@ -55,4 +55,10 @@ ZEMHistogramData *makeChartData(const ChartValues &values);
 /** Largest value, or 0 if there is none above it. */
 double largestValue(const ChartValues &values);
 
+/**
+ * The end of a value axis for bars up to @p largest: the least of 1, 2 and 5 times a power of ten
+ * that is not below, so that it stays in most views. 1 if there is no bar.
+ */
+double valueLimitFor(double largest);
+
 #endif

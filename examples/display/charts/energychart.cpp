@@ -16,6 +16,7 @@
 #include <ZEMSmartWeekHistogram>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -26,6 +27,8 @@ constexpr int valueStepsOfLower = 4; // its labels would touch with more
 EnergyChart::EnergyChart(const Energy &energy, Period itsPeriod, const PlotHeights &heights)
     : period(itsPeriod), unit(energy.unit)
 {
+    fitTimer.setSingleShot(true);
+    QObject::connect(&fitTimer, &QTimer::timeout, &fitTimer, [this] { fitAxes(); });
     switch (period) {
     case Period::Day:
         make<ZEMSmartDayHistogram>(energy, heights);
@@ -49,30 +52,33 @@ void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
     const bool pair = !energy.consumption.empty() && !energy.yield.empty();
 
     auto *upperChart = new Chart(Chart::Place::Upper, pair ? heights.upper : heights.alone);
-    upper = upperChart;
-    upper->setYAxisText(energy.unit);
-    upperChart->setHeadline(
-        [this](const QString &plain, const QwtInterval &view) { return headline(plain, view); });
+    upper.chart = upperChart;
+    upperChart->setYAxisText(energy.unit);
+    upperChart->setHeadline([this](const QString &plain, const QwtInterval &itsView) {
+        handleView(itsView);
+        return headline(plain);
+    });
     refreshTitle = [upperChart] { upperChart->refreshTitle(); };
     Chart *lowerChart = nullptr;
     if (pair) {
         lowerChart = new Chart(Chart::Place::Lower, heights.lower);
-        lower = lowerChart;
-        lower->setYAxisText(energy.unit);
-        lower->init();
+        lower.chart = lowerChart;
+        lowerChart->setYAxisText(energy.unit);
+        lowerChart->init();
         lowerChart->thePlot()->setAxisMaxMajor(QwtPlot::yLeft, valueStepsOfLower);
-        upper->setChild(lower);
+        upperChart->setChild(lowerChart);
     }
-    upper->init();
-    upper->setScalePeriod(slotsOf(period));
+    upperChart->init();
+    upperChart->setScalePeriod(slotsOf(period));
 
-    upperSeries = addSeries(upper, energy.consumption.empty() ? energy.yield : energy.consumption);
+    upper.series =
+        addSeries(upperChart, energy.consumption.empty() ? energy.yield : energy.consumption);
     watch(upperChart->thePlot());
-    if (lower) {
+    if (lowerChart) {
         watch(lowerChart->thePlot());
-        lowerSeries = addSeries(lower, energy.yield);
-        upper->insertLegendExternal(lowerChart->thePlot(),
-                                    upper->template findChild<QwtLegend *>());
+        lower.series = addSeries(lowerChart, energy.yield);
+        upperChart->insertLegendExternal(lowerChart->thePlot(),
+                                         upperChart->template findChild<QwtLegend *>());
     }
 }
 
@@ -94,17 +100,18 @@ void EnergyChart::feed(const Readings::Calendar &houseCalendar, const DateRange 
 {
     calendar = houseCalendar;
     today = itsToday;
-    feed(upper, upperSeries, range);
-    if (lower) {
-        feed(lower, lowerSeries, range);
+    feed(&upper, range);
+    if (lower.chart) {
+        feed(&lower, range);
     }
     if (!isFed) {
         // The chart page turned to the newest period before there was one.
         isFed = true;
-        upper->showFirstPeriod();
+        upper.chart->showFirstPeriod();
     }
     refreshTitle();
-    upper->replot();
+    fitAxes();
+    upper.chart->replot();
 }
 
 void EnergyChart::unpick()
@@ -114,43 +121,100 @@ void EnergyChart::unpick()
     }
 }
 
-void EnergyChart::feed(ZEMHistogram *chart, const std::vector<Series> &allSeries,
-                       const DateRange &range)
+void EnergyChart::feed(Pane *pane, const DateRange &range)
 {
-    double largest = 0.0;
-    for (const Series &each : allSeries) {
+    pane->largest.clear();
+    for (const Series &each : pane->series) {
         const ChartValues values = chartValues(calendar, each.meters, period, range);
-        largest = std::max(largest, largestValue(values));
         each.item->setValues(values);
         newestWindow = values.newestWindow;
-        if (chart == upper) {
-            upper->setScaleInterval(
+        pane->firstSlot = values.slotOf(0);
+        pane->largest.resize(values.values.size(), 0.0F);
+        for (std::size_t i = 0; i < values.values.size(); ++i) {
+            pane->largest[i] = std::max(pane->largest[i], float(values.values[i].value_or(0.0)));
+        }
+        if (pane == &upper) {
+            pane->chart->setScaleInterval(
                 static_cast<const ZEMHistogramData *>(each.item->data())->interval());
             // Counting in UTC, a day of the chart always has 24 hours.
-            upper->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+            pane->chart->setDataChangedTimestamp(
+                QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
         }
     }
-    chart->setValueLimits(QwtInterval(0.0, largest > 0.0 ? largest : 1.0));
 }
 
 void EnergyChart::watch(QwtPlot *plot)
 {
     auto *picker = new BarPicker(plot);
-    QObject::connect(picker, &BarPicker::pressed, upper, [this] { unpick(); });
-    QObject::connect(picker, &BarPicker::tapped, upper,
+    QObject::connect(picker, &BarPicker::pressed, &fitTimer, [this] {
+        isPressed = true;
+        unpick();
+    });
+    QObject::connect(picker, &BarPicker::tapped, &fitTimer,
                      [this](double x) { pick(int(std::floor(x))); });
+    QObject::connect(picker, &BarPicker::released, &fitTimer, [this] {
+        isPressed = false;
+        fitTimer.start(0);
+    });
+}
+
+void EnergyChart::handleView(const QwtInterval &itsView)
+{
+    view = itsView;
+    // Under a finger an axis that changes would move the bars away from it.
+    if (!isPressed && !fitTimer.isActive()) {
+        fitTimer.start(0);
+    }
+}
+
+void EnergyChart::fitAxes()
+{
+    const bool upperChanged = fitAxis(&upper, firstInView(), lastInView());
+    const bool lowerChanged = lower.chart && fitAxis(&lower, firstInView(), lastInView());
+    if (upperChanged || lowerChanged) {
+        upper.chart->replot();
+    }
+}
+
+/** Whether the axis has another limit now. */
+bool EnergyChart::fitAxis(Pane *pane, int firstSlot, int lastSlot)
+{
+    const int count = int(pane->largest.size());
+    const int first = std::clamp(firstSlot - pane->firstSlot, 0, count);
+    const int end = std::clamp(lastSlot + 1 - pane->firstSlot, first, count);
+    float largest = 0.0F;
+    for (int i = first; i < end; ++i) {
+        largest = std::max(largest, pane->largest[std::size_t(i)]);
+    }
+    const double limit = valueLimitFor(double(largest));
+    if (limit == std::exchange(pane->limit, limit)) {
+        return false;
+    }
+    pane->chart->setValueLimits(QwtInterval(0.0, limit));
+    return true;
 }
 
 void EnergyChart::pick(std::optional<int> slot)
 {
     picked = slot;
-    for (const std::vector<Series> *series : {&upperSeries, &lowerSeries}) {
-        for (const Series &each : *series) {
+    for (const Pane *pane : {&upper, &lower}) {
+        for (const Series &each : pane->series) {
             each.item->setPicked(slot);
         }
     }
     refreshTitle();
-    upper->replot();
+    upper.chart->replot();
+}
+
+int EnergyChart::firstInView() const
+{
+    // While it is dragged, a slot counts as long as its middle is in view.
+    return int(std::lround(view.minValue()));
+}
+
+int EnergyChart::lastInView() const
+{
+    return int(std::lround(view.maxValue())) - 1;
 }
 
 Readings::Interval EnergyChart::intervalOf(int slot) const
@@ -158,7 +222,7 @@ Readings::Interval EnergyChart::intervalOf(int slot) const
     return intervalOfSlot(calendar, period, newestWindow, slot);
 }
 
-QString EnergyChart::headline(const QString &plain, const QwtInterval &view) const
+QString EnergyChart::headline(const QString &plain) const
 {
     if (!newestWindow.isValid()) {
         return plain;
@@ -167,11 +231,8 @@ QString EnergyChart::headline(const QString &plain, const QwtInterval &view) con
         return tr("%1\n%2").arg(ViewTexts::slotName(period, newestWindow, *picked),
                                 amounts(intervalOf(*picked)));
     }
-    // While it is dragged, a slot counts as long as its middle is in view.
-    const int first = int(std::lround(view.minValue()));
-    const int last = int(std::lround(view.maxValue())) - 1;
-    return tr("%1\n%2").arg(plain + yearOf(first, last),
-                            amounts({intervalOf(first).from, intervalOf(last).to}));
+    return tr("%1\n%2").arg(plain + yearOf(firstInView(), lastInView()),
+                            amounts({intervalOf(firstInView()).from, intervalOf(lastInView()).to}));
 }
 
 /** The headlines of the library are without a year, and that of a year is nothing else. */
@@ -193,9 +254,9 @@ QString EnergyChart::amounts(const Readings::Interval &interval) const
     const auto amountOf = [&](const Series &series) {
         return ViewTexts::amount(Readings::Calendar::measured(series.meters, interval), unit);
     };
-    QString texts = amountOf(upperSeries.front());
-    if (!lowerSeries.empty()) {
-        const Series &yield = lowerSeries.front();
+    QString texts = amountOf(upper.series.front());
+    if (!lower.series.empty()) {
+        const Series &yield = lower.series.front();
         texts +=
             QStringLiteral(", %1 %2").arg(yield.item->title().text().toLower(), amountOf(yield));
     }

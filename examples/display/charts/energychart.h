@@ -8,10 +8,11 @@
 #include "energy.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 #include <functional>
 #include <optional>
+#include <qwt_interval.h>
 
-class QwtInterval;
 class QwtPlot;
 class ZEMHistogram;
 class AmountSeries;
@@ -27,7 +28,8 @@ struct PlotHeights
 /**
  * The chart of one energy and one period: consumption, and under it what the house yields, if it
  * does. It shows nothing until it is fed. Below the headline stand the totals of the view, and
- * after a tap on a bar what it stands for, until the next touch.
+ * after a tap on a bar what it stands for, until the next touch. The value axes fit the bars in
+ * view as soon as it stands still.
  */
 class EnergyChart
 {
@@ -38,7 +40,7 @@ public:
     EnergyChart(const Energy &energy, Period period, const PlotHeights &heights);
 
     /** The widget, which the page takes into its layout. */
-    ZEMHistogram *widget() const { return upper; }
+    ZEMHistogram *widget() const { return upper.chart; }
 
     /**
      * Reads the meters over the dates of @p range and draws the bars anew. The headline tells the
@@ -57,16 +59,31 @@ private:
         Readings::Calendar::Meters meters;
     };
 
+    /** One of the two charts, with what its value axis needs to know. */
+    struct Pane
+    {
+        ZEMHistogram *chart = nullptr;
+        std::vector<Series> series;
+        std::vector<float> largest; ///< of all series, slot by slot
+        int firstSlot = 0; ///< the x of the oldest one
+        double limit = 0.0; ///< of the value axis
+    };
+
     template <class Base>
     void make(const Energy &energy, const PlotHeights &heights);
     static std::vector<Series> addSeries(ZEMHistogram *chart,
                                          const std::vector<EnergySeries> &allSeries);
-    void feed(ZEMHistogram *chart, const std::vector<Series> &allSeries, const DateRange &range);
+    void feed(Pane *pane, const DateRange &range);
 
     void watch(QwtPlot *plot);
+    void handleView(const QwtInterval &itsView);
+    void fitAxes();
+    static bool fitAxis(Pane *pane, int firstSlot, int lastSlot);
     void pick(std::optional<int> slot);
     Readings::Interval intervalOf(int slot) const;
-    QString headline(const QString &plain, const QwtInterval &view) const;
+    int firstInView() const;
+    int lastInView() const;
+    QString headline(const QString &plain) const;
     QString yearOf(int firstSlot, int lastSlot) const;
     QString amounts(const Readings::Interval &interval) const;
 
@@ -77,11 +94,12 @@ private:
     QDate newestWindow; ///< the date of x = 0
     QDate today;
     std::optional<int> picked;
-    ZEMHistogram *upper = nullptr;
+    QwtInterval view;
+    bool isPressed = false;
+    QTimer fitTimer;
+    Pane upper;
+    Pane lower; ///< without a chart if the house yields nothing
     std::function<void()> refreshTitle;
-    ZEMHistogram *lower = nullptr;
-    std::vector<Series> upperSeries;
-    std::vector<Series> lowerSeries;
 };
 
 #endif
