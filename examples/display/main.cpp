@@ -8,6 +8,7 @@
 #include "energy.h"
 #include "historytransfer.h"
 #include "housesource.h"
+#include "keyboardfiles.h"
 #include "metersource.h"
 #include "mqttmeter.h"
 #include "options.h"
@@ -192,6 +193,13 @@ int main(int argc, char *argv[])
     QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     setLook();
 
+    const QStringList problems = KeyboardFiles::problemsIn(keyboardDirectory());
+    if (!problems.isEmpty()) {
+        for (const QString &problem : problems) {
+            printError(problem);
+        }
+        return exitFailure;
+    }
     const std::unique_ptr<EnergySource> source = makeSource(options);
     if (!source) {
         return exitNothingToShow;

@@ -16,6 +16,7 @@ class tst_DisplayProgram : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void brokenKeyboardIsToldAtTheStart();
     void help();
     void version();
     void unknownOption();
@@ -466,6 +467,28 @@ void tst_DisplayProgram::screenshotsIntoAFile()
         run({QStringLiteral("--readings"), path, QStringLiteral("--screenshots"), path});
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(path), qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::brokenKeyboardIsToldAtTheStart()
+{
+    // An installation has its keyboards beside the program.
+    const QDir installed(dir.path());
+    QVERIFY(installed.mkpath(QStringLiteral("bin")));
+    QVERIFY(installed.mkpath(QStringLiteral("share/zemkit/keyboards")));
+    const QString program = installed.filePath(QStringLiteral("bin/zemkit-display"));
+    QVERIFY(QFile::copy(QStringLiteral(DISPLAY_PROGRAM), program));
+    for (const char *name : {"en", "numpad", "nl"}) {
+        QFile file(installed.filePath(
+            QStringLiteral("share/zemkit/keyboards/keyboard_%1.xml").arg(QLatin1String(name))));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(qstrcmp(name, "nl") == 0 ? "<keyboard>\n<layout>\n" : "<keyboard/>\n");
+    }
+    QProcess process;
+    process.start(program, {QStringLiteral("--no-history")});
+    QVERIFY(process.waitForFinished(ZemTest::hangs));
+    QCOMPARE(process.exitCode(), 1);
+    const QString errors = QString::fromUtf8(process.readAllStandardError());
+    QVERIFY2(errors.contains(QStringLiteral("keyboard_nl.xml:3: ")), qPrintable(errors));
 }
 
 QTEST_GUILESS_MAIN(tst_DisplayProgram)

@@ -4,10 +4,10 @@
 #include "inputdialogs.h"
 
 #include "displaysettings.h"
+#include "keyboardfiles.h"
 #include "pagelook.h"
 
 #include <KeyboardFactoryDefault>
-#include <QDir>
 #include <QListView>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
@@ -28,9 +28,6 @@ constexpr int itemsOfList = 7;
 constexpr int itemHeight = 40; // pixels, for a finger
 constexpr int listWidth = 360; // pixels
 constexpr int longestLine = 60;
-
-const QString filePrefix = QStringLiteral("keyboard_");
-const QString fileSuffix = QStringLiteral(".xml");
 
 /** Items that are high enough for a finger. */
 class HighItems : public QStyledItemDelegate
@@ -62,15 +59,9 @@ InputDialogs::InputDialogs(const QString &keyboardDirectory, const DisplaySettin
 
 InputDialogs::~InputDialogs() = default;
 
-QStringList InputDialogs::languagesIn(const QString &keyboardDirectory)
+QStringList InputDialogs::languages() const
 {
-    const QStringList files =
-        QDir(keyboardDirectory).entryList({filePrefix + QStringLiteral("??") + fileSuffix});
-    QStringList languages;
-    for (const QString &file : files) {
-        languages << file.mid(filePrefix.size(), 2);
-    }
-    return languages;
+    return KeyboardFiles::languagesIn(directory);
 }
 
 void InputDialogs::askLine(const QString &title, const QString &text, const Answer &answer)

@@ -36,8 +36,7 @@ public:
     ~InputDialogs() override;
 
     /** The languages of which there is a keyboard, as "nl". */
-    static QStringList languagesIn(const QString &keyboardDirectory);
-    QStringList languages() const { return languagesIn(directory); }
+    QStringList languages() const;
 
     void askLine(const QString &title, const QString &text, const Answer &answer);
     /** Takes ownership of @p validator. */
