@@ -128,6 +128,16 @@ void tst_GoalsPage::yearGoalOfNothingIsRefused()
     QCOMPARE(keypad->value(), QString());
     PlayedDisplay::tap(keypad->findChild<ZEMButton *>(QStringLiteral("btnOK")));
     QCOMPARE(display->settings.yearGoal(), 3500);
+    // It stays, and says what it wants.
+    QVERIFY(keypad->isVisible());
+    const auto labels = keypad->findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+        return label->text() == QStringLiteral("Een getal van 1 tot 99.999 kWh");
+    }));
+    PlayedDisplay::tapKey(keypad, QStringLiteral("7"));
+    PlayedDisplay::tap(keypad->findChild<ZEMButton *>(QStringLiteral("btnOK")));
+    QCOMPARE(display->settings.yearGoal(), 7);
+    QVERIFY(!display->overlay<ZEMNumericKeypad>());
 }
 
 QTEST_MAIN(tst_GoalsPage)

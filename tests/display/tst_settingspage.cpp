@@ -26,6 +26,7 @@ private Q_SLOTS:
     void houseNameIsTyped();
     void cancelChangesNothing();
     void priceIsANumber();
+    void fullStopIsADecimalSignToo();
     void contractIsChosen();
     void keyboardFollowsTheLanguage();
     void standbyIsChosen();
@@ -128,6 +129,16 @@ void tst_SettingsPage::priceIsANumber()
     tapButton(dialog, "btnOK");
     QCOMPARE(display->settings.price(), 0.2198);
     QCOMPARE(field("price")->text(), QStringLiteral("€ 0,2198"));
+}
+
+void tst_SettingsPage::fullStopIsADecimalSignToo()
+{
+    auto *dialog = open<ZEMNumericKeypad>("price");
+    QVERIFY(dialog);
+    type(dialog, QStringLiteral("0.25"));
+    QCOMPARE(dialog->value(), QStringLiteral("0,25"));
+    tapButton(dialog, "btnOK");
+    QCOMPARE(display->settings.price(), 0.25);
 }
 
 void tst_SettingsPage::contractIsChosen()

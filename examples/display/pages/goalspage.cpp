@@ -170,6 +170,7 @@ void GoalsPage::askForYearGoal()
     auto *validator = new QIntValidator(1, DisplaySettings::mostYearGoal);
     dialogs->askNumber(tr("Stroom in een jaar, in kWh"), QString::number(settings->yearGoal()),
                        validator,
+                       tr("Een getal van 1 tot %L1 kWh").arg(DisplaySettings::mostYearGoal),
                        [this](const QString &text) { settings->setYearGoal(text.toInt()); });
 }
 

@@ -3,11 +3,11 @@
 
 #include "settingspage.h"
 
+#include "decimalvalidator.h"
 #include "displaysettings.h"
 #include "inputdialogs.h"
 #include "pagelook.h"
 
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLocale>
 #include <QVBoxLayout>
@@ -132,11 +132,12 @@ void SettingsPage::askHouseName()
 
 void SettingsPage::askPrice()
 {
-    auto *validator = new QDoubleValidator(0.0, DisplaySettings::mostPrice, priceDecimals);
-    validator->setNotation(QDoubleValidator::StandardNotation);
+    const auto inEuro = [](double euro) { return QLocale().toString(euro, 'f', priceDecimals); };
     dialogs->askNumber(
-        tr("Prijs van een kWh in euro"), QLocale().toString(settings->price(), 'f', priceDecimals),
-        validator, [this](const QString &text) { settings->setPrice(QLocale().toDouble(text)); });
+        tr("Prijs van een kWh in euro"), inEuro(settings->price()),
+        new DecimalValidator(0.0, DisplaySettings::mostPrice, priceDecimals),
+        tr("Een prijs van 0 tot %1 euro").arg(inEuro(DisplaySettings::mostPrice)),
+        [this](const QString &text) { settings->setPrice(QLocale().toDouble(text)); });
 }
 
 void SettingsPage::chooseContract()

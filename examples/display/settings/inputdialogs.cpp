@@ -75,7 +75,7 @@ void InputDialogs::askLine(const QString &title, const QString &text, const Answ
 }
 
 void InputDialogs::askNumber(const QString &title, const QString &value, QValidator *validator,
-                             const Answer &answer)
+                             const QString &range, const Answer &answer)
 {
     auto *dialog = new ZEMNumericKeypad(keyboards().createNumericKeypad(), window);
     dialog->setTitle(title);
@@ -83,13 +83,16 @@ void InputDialogs::askNumber(const QString &title, const QString &value, QValida
     validator->setParent(dialog);
     dialog->setValidator(validator);
     // The field keeps letters out, but an empty text or a 0 can still stand in it.
-    run(dialog, &ZEMNumericKeypad::value, [validator, answer](const QString &text) {
-        QString number = text;
+    const auto accepts = [dialog, validator, range] {
+        QString number = dialog->value();
         int position = 0;
-        if (validator->validate(number, position) == QValidator::Acceptable) {
-            answer(number);
+        const bool isGood = validator->validate(number, position) == QValidator::Acceptable;
+        if (!isGood) {
+            dialog->setTitle(range);
         }
-    });
+        return isGood;
+    };
+    run(dialog, &ZEMNumericKeypad::value, answer, accepts);
 }
 
 void InputDialogs::choose(const QString &title, const QStringList &choices, int current,
@@ -203,10 +206,14 @@ KeyboardFactoryDefault &InputDialogs::keyboards()
 }
 
 template <class Dialog>
-void InputDialogs::run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer)
+void InputDialogs::run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer,
+                       const std::function<bool()> &accepts)
 {
     auto *handler = new ZEMKeyboardInputHandler(dialog);
-    connect(handler, &ZEMKeyboardInputHandler::sigSelect, this, [dialog, text, answer] {
+    connect(handler, &ZEMKeyboardInputHandler::sigSelect, this, [dialog, text, answer, accepts] {
+        if (accepts && !accepts()) {
+            return;
+        }
         const QString entered = (dialog->*text)();
         dialog->hide();
         dialog->deleteLater();

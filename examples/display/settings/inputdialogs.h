@@ -39,9 +39,12 @@ public:
     QStringList languages() const;
 
     void askLine(const QString &title, const QString &text, const Answer &answer);
-    /** Takes ownership of @p validator. */
+    /**
+     * Takes ownership of @p validator. A number that it does not accept stays, under the words of
+     * @p range, which say what is accepted.
+     */
     void askNumber(const QString &title, const QString &value, QValidator *validator,
-                   const Answer &answer);
+                   const QString &range, const Answer &answer);
 
     /** Lets one of @p choices be chosen. */
     void choose(const QString &title, const QStringList &choices, int current,
@@ -65,7 +68,8 @@ public:
 private:
     KeyboardFactoryDefault &keyboards();
     template <class Dialog>
-    void run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer);
+    void run(Dialog *dialog, QString (Dialog::*text)() const, const Answer &answer,
+             const std::function<bool()> &accepts = {});
     void cover(QWidget *dialog);
 
     const QString directory;
