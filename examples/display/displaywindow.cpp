@@ -57,6 +57,7 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
         addMessage(withPlaceBehind(problem));
     }
     connect(&source, &EnergySource::problem, this, &DisplayWindow::addMessage);
+    connect(settings, &DisplaySettings::problem, this, &DisplayWindow::addMessage);
     connect(&source, &EnergySource::meteringChanged, this, [this](bool metering) {
         addMessage(metering ? tr("De meter is er weer.") : tr("De meter zwijgt."));
     });

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void defaults();
     void valuesAreKept();
     void clear();
+    void whatCannotBeWrittenIsSaid();
     void strangeValuesAreDefaults_data();
     void strangeValuesAreDefaults();
 };
@@ -73,6 +74,27 @@ void tst_DisplaySettings::clear()
     QCOMPARE(changes.count(), 1);
     QVERIFY(settings.houseName().isEmpty());
     QCOMPARE(settings.yearGoal(), 3500);
+}
+
+void tst_DisplaySettings::whatCannotBeWrittenIsSaid()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("display.ini"));
+    // Not even root writes below a file.
+    QVERIFY(QFile(directory.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly));
+    DisplaySettings settings(directory.filePath(QStringLiteral("file/display.ini")));
+    const QSignalSpy problems(&settings, &DisplaySettings::problem);
+    settings.setYearGoal(2000);
+    QCOMPARE(problems.count(), 1);
+    QVERIFY(problems.constFirst().constFirst().toString().contains(
+        QStringLiteral("file/display.ini: ")));
+    QCOMPARE(settings.yearGoal(), 2000);
+
+    DisplaySettings good(path);
+    const QSignalSpy none(&good, &DisplaySettings::problem);
+    good.setYearGoal(2000);
+    QCOMPARE(none.count(), 0);
+    QVERIFY(QFile::exists(path)); // at once
 }
 
 void tst_DisplaySettings::strangeValuesAreDefaults_data()

@@ -127,11 +127,21 @@ void DisplaySettings::setProfile(Profile profile)
 void DisplaySettings::clear()
 {
     file.clear();
+    write();
     Q_EMIT changed();
 }
 
 void DisplaySettings::set(const QString &key, const QVariant &value)
 {
     file.setValue(key, value);
+    write();
     Q_EMIT changed();
+}
+
+void DisplaySettings::write()
+{
+    file.sync();
+    if (file.status() != QSettings::NoError) {
+        Q_EMIT problem(tr("%1: instellingen zijn niet bewaard").arg(file.fileName()));
+    }
 }

@@ -20,8 +20,8 @@ enum class ContractType {
 };
 
 /**
- * What the people of a house have entered, kept in a file. A value that the file does not have, or
- * that is out of range there, is the default.
+ * What the people of a house have entered, written to a file at once. A value that the file does
+ * not have, or that is out of range there, is the default.
  */
 class DisplaySettings : public QObject
 {
@@ -65,9 +65,12 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void changed();
+    /** What was entered could not be written, and is lost when the display ends; in one line. */
+    void problem(const QString &line);
 
 private:
     void set(const QString &key, const QVariant &value);
+    void write();
 
     QSettings file;
 };
