@@ -38,18 +38,44 @@ set(ZEM_TEST_UNSET
     QTEST_KEYEVENT_DELAY QTEST_MOUSEEVENT_DELAY)
 list(TRANSFORM ZEM_TEST_UNSET APPEND "=unset:")
 
-# zem_set_test_environment(<test>...)
+# Tests that an emulator cannot run or makes too slow, and why.
+set(ZEM_NOT_EMULATED "${PROJECT_SOURCE_DIR}/tests/not-emulated.txt")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${ZEM_NOT_EMULATED}")
+
+# zem_set_test_environment(<test>)
 #   What every test runs in, whatever it is.
-function(zem_set_test_environment)
-    set_tests_properties(${ARGN} PROPERTIES
+function(zem_set_test_environment test)
+    set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "${ZEM_TEST_ENVIRONMENT}"
         ENVIRONMENT_MODIFICATION "${ZEM_TEST_UNSET}")
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+        file(STRINGS "${ZEM_NOT_EMULATED}" listed REGEX "^${test} ")
+        if(listed)
+            set_tests_properties(${test} PROPERTIES DISABLED TRUE)
+        endif()
+    endif()
 endfunction()
 
 # What makes a test fail: every warning but "This plugin does not support propagateSizeHints()", which
 # the offscreen platform gives for each window with a minimum size.
 set(ZEM_UNEXPECTED_WARNING
     "QWARN  : [^\n]*\\) ([^T]|T[^h]|Th[^i]|Thi[^s]|This[^ ]|This [^p]|This p[^l])|QSYSTEM|QCRITICAL")
+
+# zem_program(<variable> <target>)
+#   What a test starts to run a program of this tree: the program, or where this machine cannot run it, a
+#   script that starts it in the emulator.
+function(zem_program variable target)
+    set(program "$<TARGET_FILE:${target}>")
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+        list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
+        set(script "${PROJECT_BINARY_DIR}/tests/emulated/${target}")
+        file(GENERATE OUTPUT "${script}"
+            CONTENT "#!/bin/sh\nexec ${emulator} '${program}' \"$@\"\n"
+            FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+        set(program "${script}")
+    endif()
+    set(${variable} "${program}" PARENT_SCOPE)
+endfunction()
 
 # zem_precompile_headers(<test> <source>...)
 #   Shares Qt's headers among the tests of the library alone: the first one makes what the others

@@ -498,8 +498,7 @@ void tst_KeyboardFactoryDefault::endsTheProcess()
         folder.write(QStringLiteral("keyboard_%1.xml").arg(QString::fromLatin1(name)), oneKey("a"));
     }
     QProcess process;
-    process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--create"), which, folder.path()});
+    process.start(QStringLiteral(TEST_PROGRAM), {QStringLiteral("--create"), which, folder.path()});
     QVERIFY(process.waitForFinished(ZemTest::hangs));
     const QByteArray output = process.readAllStandardError();
     if (message.isEmpty()) {
