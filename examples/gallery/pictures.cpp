@@ -27,10 +27,10 @@ QImage slim(const QImage &image)
     const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
     QVector<QRgb> colors;
     for (int y = 0; y < opaque.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(opaque.constScanLine(y));
         for (int x = 0; x < opaque.width(); ++x) {
-            if (!colors.contains(line[x])) {
-                colors.append(line[x]);
+            const QRgb color = opaque.pixel(x, y);
+            if (!colors.contains(color)) {
+                colors.append(color);
             }
         }
         if (colors.size() > mostColors) {
