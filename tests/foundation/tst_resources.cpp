@@ -82,6 +82,12 @@ static const Picture pictures[] = {
 extern int qInitResources_Zemkit();
 extern int qCleanupResources_Zemkit();
 
+/** The picture of @p path for screens of twice as many pixels each way, named as Qt expects it. */
+static QString sharpPath(QString path)
+{
+    return path.insert(path.lastIndexOf(QLatin1Char('.')), QStringLiteral("@2x"));
+}
+
 class tst_Resources : public QObject
 {
     Q_OBJECT
@@ -91,6 +97,8 @@ private Q_SLOTS:
     void picture_data();
     void picture();
     void nothingElseIsInTheCollection();
+    void sharpPictureShowsTheSame_data();
+    void sharpPictureShowsTheSame();
     void headerIsAnOpaqueLightBar();
     void emptyStarIsADarkOutline_data();
     void emptyStarIsADarkOutline();
@@ -110,8 +118,10 @@ void tst_Resources::picture_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QSize>("size");
     for (const Picture &picture : pictures) {
-        QTest::newRow(picture.path)
-            << QString::fromLatin1(picture.path) << QSize(picture.width, picture.height);
+        const QString path = QString::fromLatin1(picture.path);
+        const QSize size(picture.width, picture.height);
+        QTest::newRow(picture.path) << path << size;
+        QTest::newRow(qPrintable(sharpPath(path))) << sharpPath(path) << 2 * size;
     }
 }
 
@@ -141,7 +151,8 @@ void tst_Resources::nothingElseIsInTheCollection()
 {
     QSet<QString> expected;
     for (const Picture &picture : pictures) {
-        expected.insert(QString::fromLatin1(picture.path));
+        const QString path = QString::fromLatin1(picture.path);
+        expected << path << sharpPath(path);
     }
     QSet<QString> found;
     for (const QString &prefix : {QStringLiteral(":/zem"), QStringLiteral(":/tango")}) {
@@ -151,7 +162,46 @@ void tst_Resources::nothingElseIsInTheCollection()
         }
     }
     QCOMPARE(found, expected);
-    QCOMPARE(found.size(), 58);
+    QCOMPARE(found.size(), 2 * 58);
+}
+
+void tst_Resources::sharpPictureShowsTheSame_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Picture &picture : pictures) {
+        QTest::newRow(picture.path) << QString::fromLatin1(picture.path);
+    }
+}
+
+/** The largest difference of two pictures in any channel. */
+static int difference(const QImage &one, const QImage &other)
+{
+    const QImage a = one.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage b = other.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < 4 * a.width(); ++x) {
+            largest = qMax(largest, qAbs(a.constScanLine(y)[x] - b.constScanLine(y)[x]));
+        }
+    }
+    return largest;
+}
+
+static QImage scaled(const QImage &image, const QSize &size)
+{
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void tst_Resources::sharpPictureShowsTheSame()
+{
+    QFETCH(QString, path);
+    const QImage plain(path);
+    const QImage sharp(sharpPath(path));
+    constexpr int seen = 36; // of 255 shades
+    const int offWhenHalved = difference(scaled(sharp, plain.size()), plain);
+    const int offWhenDoubled = difference(scaled(plain, sharp.size()), sharp);
+    QVERIFY2(offWhenHalved <= seen, qPrintable(QString::number(offWhenHalved)));
+    QVERIFY2(offWhenDoubled > 2 * offWhenHalved, "shows no more than the plain picture");
 }
 
 void tst_Resources::headerIsAnOpaqueLightBar()
