@@ -125,14 +125,25 @@ function(zem_add_run test program labels)
     zem_set_test_environment(${test})
 endfunction()
 
-# zem_add_test(<name> SUBSYSTEM <label> [LIFETIME] [SHARES <count>] [SOURCES <file>...]
-#              [LIBRARIES <target>...])
+# zem_add_at_ratios(<test> SUBSYSTEM <label> RATIOS <ratio>...)
+#   Runs a test once more for each device pixel ratio, on a screen that has it, as <test>_at_<ratio>.
+function(zem_add_at_ratios test)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "SUBSYSTEM" "RATIOS")
+    foreach(ratio IN LISTS arg_RATIOS)
+        zem_add_run(${test}_at_${ratio} ${test} "${arg_SUBSYSTEM}")
+        set_property(TEST ${test}_at_${ratio} APPEND PROPERTY
+            ENVIRONMENT_MODIFICATION "QT_SCALE_FACTOR=set:${ratio}")
+    endforeach()
+endfunction()
+
+# zem_add_test(<name> SUBSYSTEM <label> [LIFETIME] [SHARES <count>] [RATIOS <ratio>...]
+#              [SOURCES <file>...] [LIBRARIES <target>...])
 #   One QTest program from <name>.cpp, linked with the library and the test support. LIFETIME:
 #   objects end in it at unusual moments, so it is one of those that run under memcheck. SHARES: the
 #   program takes minutes and runs so many times side by side, each time with its share of the cases:
-#   ZEM_TEST_SHARE is 0/4 in the first of four.
+#   ZEM_TEST_SHARE is 0/4 in the first of four. RATIOS: it runs on screens of these ratios too.
 function(zem_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "LIFETIME" "SUBSYSTEM;SHARES" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "LIFETIME" "SUBSYSTEM;SHARES" "RATIOS;SOURCES;LIBRARIES")
     set(labels "${arg_SUBSYSTEM}")
     if(arg_LIFETIME)
         list(APPEND labels lifetime)
@@ -158,6 +169,7 @@ function(zem_add_test name)
     else()
         zem_add_run(${name} ${name} "${labels}")
     endif()
+    zem_add_at_ratios(${name} SUBSYSTEM "${labels}" RATIOS ${arg_RATIOS})
     if(arg_LIFETIME)
         zem_add_memcheck(${name})
     endif()

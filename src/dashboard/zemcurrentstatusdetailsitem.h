@@ -50,8 +50,8 @@ public:
     ~ZEMCurrentStatusDetailsItem() override;
 
     /**
-     * The icon in front of the power; null by default. It is shown in its own size: at once, or, if
-     * it needs other room, when the layout has made that.
+     * The icon in front of the power; null by default. It is shown in its own size, divided by its
+     * ratio: at once, or, if it needs other room, when the layout has made that.
      */
     QPixmap getIcon() const;
     void setIcon(const QPixmap &icon);

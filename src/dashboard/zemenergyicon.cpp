@@ -5,6 +5,7 @@
 
 #include "centredmark_p.h"
 #include "objectname_p.h"
+#include "sharppicture_p.h"
 #include "zempixmapcache.h"
 
 #include <QPainter>
@@ -47,13 +48,13 @@ public:
         if (energyType < Electricity || energyType > SolarProduction) {
             return;
         }
-        const QPixmap &symbol = symbols[size_t(energyType)];
-        painter.drawPixmap(centredMark(size, symbol.size()).topLeft(), symbol);
+        const SharpPicture &symbol = symbols[size_t(energyType)];
+        symbol.draw(painter, centredMark(size, symbol.size()));
     }
 
     bool useBigIcon = false;
-    QPixmap background;
-    std::array<QPixmap, typeCount> symbols;
+    SharpPicture background;
+    std::array<SharpPicture, typeCount> symbols;
     Type energyType = Electricity;
 };
 
@@ -96,7 +97,7 @@ QSize ZEMEnergyIcon::sizeHint() const
 void ZEMEnergyIcon::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, d->background);
+    d->background.draw(painter, QRect(QPoint(), d->background.size()));
     d->drawSymbol(painter, size());
     QWidget::paintEvent(event);
 }

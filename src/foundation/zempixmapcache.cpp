@@ -3,6 +3,8 @@
 
 #include "zempixmapcache.h"
 
+#include "sharpfile_p.h"
+
 #include <QPixmap>
 #include <QPixmapCache>
 
@@ -17,6 +19,18 @@ bool ZEMPixmapCache::load(QPixmap &pixmap, const QString &path)
     }
     pixmap.load(path);
     return QPixmapCache::insert(path, pixmap);
+}
+
+bool ZEMPixmapCache::load(QPixmap &pixmap, const QString &path, qreal ratio)
+{
+    const SharpFile file = sharpFile(path, ratio);
+    if (file.ratio == 1 || QPixmapCache::find(file.path, &pixmap)) {
+        return load(pixmap, file.path);
+    }
+    pixmap.load(file.path);
+    // Qt does so by itself, but not for a name with another dot in it.
+    pixmap.setDevicePixelRatio(file.ratio);
+    return QPixmapCache::insert(file.path, pixmap);
 }
 
 void ZEMPixmapCache::setCacheLimit(int limit)

@@ -20,7 +20,8 @@ class QPixmap;
  *
  * QLabel house;
  * QPixmap picture;
- * ZEMPixmapCache::load(picture, QStringLiteral(":/zem/graphics/icons/icons_14.png"));
+ * ZEMPixmapCache::load(picture, QStringLiteral(":/zem/graphics/icons/icons_14.png"),
+ *                      house.devicePixelRatioF());
  * house.setPixmap(picture);
  * house.show();
  * @endcode
@@ -40,6 +41,14 @@ public:
      * whether it could be read.
      */
     static bool load(QPixmap &pixmap, const QString &path);
+
+    /**
+     * As above, with the picture that was made for a screen whose device pixel ratio is @p ratio:
+     * one beside @p path with "@2x" before its last dot, or a higher number, and that ratio of its
+     * own. Each of them has an entry of its own in the cache. Where there is none, and for a ratio
+     * of 1 or less, it is that of @p path. For Qt's widgets; those of the library do it themselves.
+     */
+    static bool load(QPixmap &pixmap, const QString &path, qreal ratio);
 
     /** Sets the limit of the global cache in kilobytes, for the host's own pictures too. */
     static void setCacheLimit(int limit);

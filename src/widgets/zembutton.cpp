@@ -5,7 +5,8 @@
 
 #include "buttonpainting_p.h"
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharpicon_p.h"
+#include "sharppicture_p.h"
 
 #include <QPainter>
 
@@ -24,7 +25,7 @@ ButtonPainting::State stateOf(const ZEMButton &button)
 class ZEMButton::Private
 {
 public:
-    QPixmap picture(ButtonPainting::Background which) const
+    SharpPicture picture(ButtonPainting::Background which) const
     {
         switch (which) {
         case ButtonPainting::Background::None:
@@ -45,12 +46,12 @@ public:
         const bool hasOff = !backgroundOff.isNull();
         const bool hasDisabled = !backgroundDisabled.isNull();
         const auto which = ButtonPainting::background(state, hasOff, hasDisabled);
-        painter.drawPixmap(QRectF(rect), picture(which), QRectF());
+        picture(which).draw(painter, rect);
     }
 
-    QPixmap background;
-    QPixmap backgroundOff;
-    QPixmap backgroundDisabled;
+    SharpPicture background;
+    SharpPicture backgroundOff;
+    SharpPicture backgroundDisabled;
     bool hideWhenDisabled = false;
     bool hideUncheckedIcon = false;
 };
@@ -68,13 +69,13 @@ ZEMButton::~ZEMButton() = default;
 
 QPixmap ZEMButton::getBackground() const
 {
-    return d->background;
+    return d->background.plain();
 }
 
 void ZEMButton::setBackground(const QPixmap &background)
 {
     d->background = background;
-    const QSize least = pictureSize(background);
+    const QSize least = d->background.size();
     setMinimumSize(least);
     // Even a resize to the same size lets Qt ask all siblings again what they cover.
     if (size() != least || !testAttribute(Qt::WA_Resized)) {
@@ -85,7 +86,7 @@ void ZEMButton::setBackground(const QPixmap &background)
 
 QPixmap ZEMButton::getBackgroundOff() const
 {
-    return d->backgroundOff;
+    return d->backgroundOff.plain();
 }
 
 void ZEMButton::setBackgroundOff(const QPixmap &background)
@@ -96,7 +97,7 @@ void ZEMButton::setBackgroundOff(const QPixmap &background)
 
 QPixmap ZEMButton::getBackgroundDisabled() const
 {
-    return d->backgroundDisabled;
+    return d->backgroundDisabled.plain();
 }
 
 void ZEMButton::setBackgroundDisabled(const QPixmap &background)
@@ -139,7 +140,7 @@ void ZEMButton::paintEvent(QPaintEvent *event)
 
     const ButtonPainting::IconLook look = ButtonPainting::iconLook(state);
     if (look.drawn && !icon().isNull()) {
-        icon().paint(&painter, rect(), Qt::AlignCenter, look.mode, look.state);
+        sharpIcon(icon()).paint(&painter, rect(), Qt::AlignCenter, look.mode, look.state);
     }
     if (!text().isEmpty()) {
         painter.setPen(palette().color(ButtonPainting::textGroup(state), QPalette::ButtonText));

@@ -38,6 +38,11 @@
  *   when off, in its largest size that fits; QAbstractButton::iconSize plays no part.
  * - Text: in the colour of QPalette::ButtonText, active group when on, disabled group when off.
  *
+ * A picture counts by its size divided by its ratio. On a screen of a higher ratio than 1 a picture
+ * of the library is shown sharp, as a picture and as an icon, in the same size. An icon is as large
+ * as it is without its files for sharp screens, those with "@2x" in their names; for the pixmaps
+ * that an icon is made of Qt keeps no ratio, so those count by their pixels.
+ *
  * There is no pressed look. A new button is 50 by 50 pixels, is not stretched by layouts and takes
  * its size from setBackground().
  *

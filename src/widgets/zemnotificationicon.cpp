@@ -6,7 +6,7 @@
 #include "centredmark_p.h"
 #include "notificationbadge_p.h"
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 #include "zemstyle.h"
 
 #include <QColor>
@@ -30,7 +30,7 @@ public:
             return;
         }
         const QRect place = NotificationBadge::place(width, badge.size());
-        painter.drawPixmap(QRectF(place), badge, QRectF());
+        badge.draw(painter, place);
         painter.setPen(badgeTextColor);
         painter.setFont(NotificationBadge::font(font, content));
         painter.drawText(place, Qt::AlignCenter, NotificationBadge::text(content, notifyCount));
@@ -39,9 +39,9 @@ public:
     int notifyCount = 0;
     bool warning = false;
     QColor badgeTextColor = ZEMStyle(nullptr).color(ZEMStyle::Magenta);
-    QPixmap icon;
-    QPixmap iconDisabled;
-    QPixmap badge = QPixmap(QStringLiteral(":/zem/graphics/header/header_num_bg_03.png"));
+    SharpPicture icon;
+    SharpPicture iconDisabled;
+    SharpPicture badge = QPixmap(QStringLiteral(":/zem/graphics/header/header_num_bg_03.png"));
 };
 
 ZEMNotificationIcon::ZEMNotificationIcon(QWidget *parent)
@@ -60,7 +60,7 @@ ZEMNotificationIcon::~ZEMNotificationIcon() = default;
 
 QPixmap ZEMNotificationIcon::getIcon() const
 {
-    return d->icon;
+    return d->icon.plain();
 }
 
 void ZEMNotificationIcon::setIcon(const QPixmap &icon)
@@ -71,7 +71,7 @@ void ZEMNotificationIcon::setIcon(const QPixmap &icon)
 
 QPixmap ZEMNotificationIcon::getDisabledIcon() const
 {
-    return d->iconDisabled;
+    return d->iconDisabled.plain();
 }
 
 void ZEMNotificationIcon::setDisabledIcon(const QPixmap &icon)
@@ -106,10 +106,9 @@ void ZEMNotificationIcon::setWarning(bool warning)
 
 void ZEMNotificationIcon::paintEvent(QPaintEvent *event)
 {
-    const QPixmap &picture = isEnabled() ? d->icon : d->iconDisabled;
+    const SharpPicture &picture = isEnabled() ? d->icon : d->iconDisabled;
     QPainter painter(this);
-    const QRect place = centredMark(size(), pictureSize(picture));
-    painter.drawPixmap(QRectF(place), picture, QRectF());
+    picture.draw(painter, centredMark(size(), picture.size()));
     if (!picture.isNull()) {
         d->drawBadge(painter, width(), font());
     }

@@ -47,8 +47,8 @@ public:
     /** The picture while enabled; null by default. */
     QPixmap getIcon() const;
     /**
-     * Sets the picture of the enabled widget, which is shown in its own size in the middle. The
-     * widget keeps its size and is painted soon.
+     * Sets the picture of the enabled widget, which is shown in its own size, divided by its ratio,
+     * in the middle. The widget keeps its size and is painted soon.
      */
     void setIcon(const QPixmap &icon);
 

@@ -4,7 +4,7 @@
 #include "zempagebackground.h"
 
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 
 #include <QBrush>
 #include <QPainter>
@@ -18,7 +18,7 @@ constexpr QSize designSize(640, 480);
 class ZEMPageBackground::Private
 {
 public:
-    QPixmap background;
+    SharpPicture background;
     QColor backgroundColor;
 };
 
@@ -36,13 +36,13 @@ ZEMPageBackground::~ZEMPageBackground() = default;
 
 QPixmap ZEMPageBackground::getBackground() const
 {
-    return d->background;
+    return d->background.plain();
 }
 
 void ZEMPageBackground::setBackground(const QPixmap &background, bool repaint)
 {
     d->background = background;
-    setMinimumSize(pictureSize(background));
+    setMinimumSize(d->background.size());
     if (repaint) {
         QWidget::repaint();
     }
@@ -67,7 +67,7 @@ void ZEMPageBackground::paintEvent(QPaintEvent *event)
         painter.setBrush(QBrush(d->backgroundColor, Qt::SolidPattern));
         painter.drawRect(rect());
     } else {
-        painter.drawPixmap(QRectF(rect()), d->background, QRectF());
+        d->background.draw(painter, rect());
     }
     QWidget::paintEvent(event);
 }

@@ -47,7 +47,8 @@ public:
      * Sets the picture, which covers the colour, and makes its size the minimum size of the page.
      * The page keeps its own size unless that is smaller; there is no maximum, and the picture is
      * stretched to whatever size the page has. A null picture shows the colour again and sets the
-     * minimum to 0 by 0. The page is painted at once if @p repaint is true.
+     * minimum to 0 by 0. The page is painted at once if @p repaint is true. A picture counts by its
+     * size divided by its ratio.
      */
     void setBackground(const QPixmap &background, bool repaint = true);
 

@@ -4,7 +4,7 @@
 #include "zempixmap.h"
 
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 
 #include <QPainter>
 
@@ -12,7 +12,7 @@ class ZEMPixmap::Private
 {
 public:
     double opacity = 1.0;
-    QPixmap pixmap;
+    SharpPicture pixmap;
     QColor color;
 };
 
@@ -28,13 +28,13 @@ ZEMPixmap::~ZEMPixmap() = default;
 
 QPixmap ZEMPixmap::getPixmap() const
 {
-    return d->pixmap;
+    return d->pixmap.plain();
 }
 
 void ZEMPixmap::setPixmap(const QPixmap &pixmap)
 {
     d->pixmap = pixmap;
-    const QSize size = pictureSize(pixmap);
+    const QSize size = d->pixmap.size();
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
@@ -62,10 +62,9 @@ QColor ZEMPixmap::getColor() const
 void ZEMPixmap::setColor(const QColor &color)
 {
     d->color = color;
-    if (d->pixmap.isNull()) {
-        d->pixmap = QPixmap(size());
-    }
-    d->pixmap.fill(color);
+    QPixmap filled = d->pixmap.isNull() ? QPixmap(size()) : d->pixmap.plain();
+    filled.fill(color);
+    d->pixmap = filled;
 }
 
 QSize ZEMPixmap::sizeHint() const
@@ -77,6 +76,6 @@ void ZEMPixmap::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setOpacity(d->opacity);
-    painter.drawPixmap(QRectF(rect()), d->pixmap, QRectF());
+    d->pixmap.draw(painter, rect());
     QWidget::paintEvent(event);
 }

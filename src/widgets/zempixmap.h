@@ -25,7 +25,9 @@
  * house->setOpacity(0.5);
  * page.show();
  * @endcode
- * The widget is as large as its picture and stays so; in a layout it is never stretched.
+ * The widget is as large as its picture, by its size divided by its ratio, and stays so; in a
+ * layout it is never stretched. A picture of the library, of ratio 1, is shown sharp where the
+ * screen is.
  */
 class ZEM_EXPORT ZEMPixmap : public QWidget
 {

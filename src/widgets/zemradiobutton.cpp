@@ -5,15 +5,15 @@
 
 #include "centredmark_p.h"
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 
 #include <QPainter>
 
 class ZEMRadioButton::Private
 {
 public:
-    QPixmap background;
-    QPixmap checkedIcon;
+    SharpPicture background;
+    SharpPicture checkedIcon;
 };
 
 ZEMRadioButton::ZEMRadioButton(QWidget *parent)
@@ -31,13 +31,13 @@ ZEMRadioButton::~ZEMRadioButton() = default;
 
 QPixmap ZEMRadioButton::getBackground() const
 {
-    return d->background;
+    return d->background.plain();
 }
 
 void ZEMRadioButton::setBackground(const QPixmap &background)
 {
     d->background = background;
-    const QSize size = pictureSize(background);
+    const QSize size = d->background.size();
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
@@ -46,7 +46,7 @@ void ZEMRadioButton::setBackground(const QPixmap &background)
 
 QPixmap ZEMRadioButton::getCheckedIcon() const
 {
-    return d->checkedIcon;
+    return d->checkedIcon.plain();
 }
 
 void ZEMRadioButton::setCheckedIcon(const QPixmap &icon)
@@ -63,10 +63,9 @@ QSize ZEMRadioButton::sizeHint() const
 void ZEMRadioButton::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.drawPixmap(QRectF(rect()), d->background, QRectF());
+    d->background.draw(painter, rect());
     if (isChecked()) {
-        const QRect mark = centredMark(size(), pictureSize(d->checkedIcon));
-        painter.drawPixmap(QRectF(mark), d->checkedIcon, QRectF());
+        d->checkedIcon.draw(painter, centredMark(size(), d->checkedIcon.size()));
     }
     QWidget::paintEvent(event); // NOLINT(bugprone-parent-virtual-call): QAbstractButton has none
 }

@@ -48,14 +48,18 @@ public:
 
     /** The picture; ":/zem/graphics/main/buttons/radio_btn_bg.png" by default. */
     QPixmap getBackground() const;
-    /** Sets the picture, locks the size of the button to its size and paints at once. */
+    /**
+     * Sets the picture, locks the size of the button to its size, divided by its ratio, and paints
+     * at once.
+     */
     void setBackground(const QPixmap &background);
 
     /** The mark; ":/zem/graphics/main/buttons/radio_btn_selected.png" by default. */
     QPixmap getCheckedIcon() const;
     /**
-     * Sets the mark and paints at once. It is drawn in its own size in the middle of the button;
-     * one that is wider or higher than the button begins at the left or top edge and is cut off.
+     * Sets the mark and paints at once. It is drawn in its own size, divided by its ratio, in the
+     * middle of the button; one that is wider or higher than the button begins at the left or top
+     * edge and is cut off.
      */
     void setCheckedIcon(const QPixmap &icon);
 

@@ -4,6 +4,7 @@
 #include "zemthreestars.h"
 
 #include "objectname_p.h"
+#include "sharppicture_p.h"
 #include "starplaces_p.h"
 
 #include <QPainter>
@@ -24,8 +25,8 @@ public:
 
     int stars = 0;
     bool smallVersion = false;
-    QPixmap starIcon;
-    QPixmap emptyStarIcon;
+    SharpPicture starIcon;
+    SharpPicture emptyStarIcon;
 };
 
 ZEMThreeStars::ZEMThreeStars(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
@@ -69,7 +70,7 @@ void ZEMThreeStars::paintEvent(QPaintEvent *event)
     const QSize starSize = d->starIcon.size();
     for (const StarPlaces::Star &star : StarPlaces::triangle(d->stars, size(), starSize)) {
         const QRectF place(star.topLeft, QSizeF(starSize));
-        painter.drawPixmap(place, star.filled ? d->starIcon : d->emptyStarIcon, QRectF());
+        (star.filled ? d->starIcon : d->emptyStarIcon).draw(painter, place);
     }
     QWidget::paintEvent(event);
 }

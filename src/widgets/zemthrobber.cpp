@@ -4,11 +4,15 @@
 #include "zemthrobber.h"
 
 #include "objectname_p.h"
+#include "sharpfile_p.h"
+#include "sharppicture_p.h"
 
 #include <QImage>
 #include <QList>
+#include <QPainter>
 #include <QPixmap>
 #include <QTimer>
+#include <QVariant>
 
 namespace {
 
@@ -17,7 +21,10 @@ constexpr int frameInterval = 100; // ms
 QList<QPixmap> cutFrames(const QImage &strip, int count)
 {
     QList<QPixmap> frames;
-    const int width = count > 0 ? strip.width() / count : 0;
+    const qreal ratio = strip.devicePixelRatio();
+    // What a strip has too much, each of its frames would have a part of, at another place.
+    const int onScreen = count > 0 ? int(strip.width() / ratio) / count : 0;
+    const int width = int(onScreen * ratio);
     for (int i = 0; i < count; ++i) {
         frames.append(QPixmap::fromImage(strip.copy(i * width, 0, width, strip.height())));
     }
@@ -29,7 +36,32 @@ QList<QPixmap> cutFrames(const QImage &strip, int count)
 class ZEMThrobber::Private
 {
 public:
+    /** The frame @p index for a screen of @p ratio; null where a strip has no frames. */
+    QPixmap frame(int index, qreal ratio)
+    {
+        const SharpFile file = sharpFile(imagePath, ratio);
+        if (file.ratio == 1) {
+            return frames.value(index);
+        }
+        if (file.path != sharpPath) {
+            QImage strip(file.path);
+            strip.setDevicePixelRatio(file.ratio);
+            sharpPath = file.path;
+            sharpFrames = cutFrames(strip, frameCount);
+        }
+        return sharpFrames.value(index);
+    }
+
+    void show(ZEMThrobber *throbber, const QPixmap &picture)
+    {
+        shownKey = picture.cacheKey();
+        throbber->setPixmap(picture);
+    }
+
     QList<QPixmap> frames;
+    QList<QPixmap> sharpFrames; ///< from sharpPath
+    QString sharpPath;
+    qint64 shownKey = 0; ///< of the frame that was put on the label last
     int currentFrame = 0;
     QTimer timer;
     QString imagePath = QStringLiteral(":/zem/graphics/icons/throbber.png");
@@ -72,6 +104,7 @@ void ZEMThrobber::setImage(QString path, int frames)
 
 void ZEMThrobber::init()
 {
+    d->sharpPath.clear();
     d->frames = cutFrames(QImage(d->imagePath), d->frameCount);
     d->currentFrame = 0;
     connect(&d->timer, &QTimer::timeout, this, &ZEMThrobber::slotChangeImage, Qt::UniqueConnection);
@@ -85,6 +118,19 @@ void ZEMThrobber::slotChangeImage()
     if (d->currentFrame >= d->frames.size()) {
         d->currentFrame = 0;
     }
-    setPixmap(d->frames.value(d->currentFrame)); // null where a strip has no frames
+    d->show(this, d->frame(d->currentFrame, devicePixelRatioF()));
     ++d->currentFrame;
+}
+
+void ZEMThrobber::paintEvent(QPaintEvent *event)
+{
+    // A frame at rest comes to another screen with its window, and a host may show what it likes.
+    const QPixmap shown = property("pixmap").value<QPixmap>();
+    if (!shown.isNull() && shown.cacheKey() == d->shownKey) {
+        const QPixmap frame = d->frame(d->currentFrame - 1, ratioOf(QPainter(this)));
+        if (frame.cacheKey() != d->shownKey) {
+            d->show(this, frame);
+        }
+    }
+    ZEMTextLabel::paintEvent(event);
 }

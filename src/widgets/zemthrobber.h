@@ -26,6 +26,9 @@
  * @endcode
  * It runs from its construction on until pause() or stop(), shown or not. The default strip,
  * ":/zem/graphics/icons/throbber.png", has 12 frames of 32 by 32 pixels, a turn in 1.2 seconds.
+ * On a sharp screen it plays the strip that was made for one, if there is such a file beside it
+ * with
+ * "@2x" before the last dot of its name, or a higher number, and frames of so many times the size.
  * The frames stand in the middle of the label; setAlignment() changes that. With a shadow switched
  * on, a label shows no pictures.
  */
@@ -50,6 +53,9 @@ public:
      * shown. With a picture that cannot be read, or no frames, the label is empty.
      */
     void setImage(QString path, int frames);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:
     void slotChangeImage();

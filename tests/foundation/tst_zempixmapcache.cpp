@@ -18,6 +18,7 @@ private Q_SLOTS:
     void loadsFromDiskOnce();
     void cachedPictureIsTakenInsteadOfTheFile();
     void unreadablePathLeavesANullPixmap();
+    void pictureIsKeptForEachRatio();
     void setCacheLimitReachesTheGlobalCache();
 };
 
@@ -66,6 +67,35 @@ void tst_ZEMPixmapCache::unreadablePathLeavesANullPixmap()
 
     QPixmapCache::remove(path);
     QCOMPARE(loaded, QPixmapCache::insert(path, QPixmap()));
+}
+
+void tst_ZEMPixmapCache::pictureIsKeptForEachRatio()
+{
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("a.b.png"));
+    const auto save = [&](const char *name, int side) {
+        QPixmap picture(side, side);
+        picture.fill(Qt::red);
+        return picture.save(dir.filePath(QLatin1String(name)));
+    };
+    QVERIFY(save("a.b.png", 10) && save("a.b@2x.png", 20) && save("a.b@3x.png", 30));
+
+    const struct
+    {
+        qreal ratio;
+        int side; // pixels
+        qreal ratioOfPicture;
+    } expectations[] = {{0.5, 10, 1.0}, {1.0, 10, 1.0}, {1.25, 20, 2.0}, {2.0, 20, 2.0},
+                        {2.5, 30, 3.0}, {8.0, 30, 3.0}, {1.0, 10, 1.0}};
+    for (const auto &expected : expectations) {
+        QPixmap picture;
+        QVERIFY(ZEMPixmapCache::load(picture, path, expected.ratio));
+        QCOMPARE(picture.size(), QSize(expected.side, expected.side));
+        QCOMPARE(picture.devicePixelRatio(), expected.ratioOfPicture);
+    }
+    QPixmap picture;
+    QVERIFY(ZEMPixmapCache::load(picture, path));
+    QCOMPARE(picture.size(), QSize(10, 10));
 }
 
 void tst_ZEMPixmapCache::setCacheLimitReachesTheGlobalCache()

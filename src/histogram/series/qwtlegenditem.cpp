@@ -4,7 +4,7 @@
 #include "qwtlegenditem.h"
 
 #include "histogramgeometry_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -21,7 +21,7 @@ class QwtLegendItem::Private
 {
 public:
     QSize identifierSize = defaultIdentifierSize;
-    QPixmap identifier;
+    SharpPicture identifier;
     int spacing = defaultSpacing;
 };
 
@@ -54,7 +54,7 @@ void QwtLegendItem::setIdentifier(const QPixmap &identifier)
 
 QPixmap QwtLegendItem::identifier() const
 {
-    return d->identifier;
+    return d->identifier.plain();
 }
 
 void QwtLegendItem::setSpacing(int spacing)
@@ -83,9 +83,8 @@ void QwtLegendItem::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     painter.setClipRegion(event->region() & contentsRect());
-    painter.drawPixmap(
-        HistogramGeometry::identifierRect(contentsRect(), margin(), pictureSize(d->identifier)),
-        d->identifier);
+    d->identifier.draw(
+        painter, HistogramGeometry::identifierRect(contentsRect(), margin(), d->identifier.size()));
 }
 
 void QwtLegendItem::updateIndent()

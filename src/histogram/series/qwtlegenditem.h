@@ -36,7 +36,7 @@ public:
     void setIdentifierSize(const QSize &size);
     QSize identifierSize() const;
 
-    /** The picture, null when new. Updates the item. */
+    /** The picture, null when new, as large as its size divided by its ratio. Updates the item. */
     void setIdentifier(const QPixmap &identifier);
     QPixmap identifier() const;
 

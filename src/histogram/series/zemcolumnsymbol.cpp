@@ -4,8 +4,8 @@
 #include "zemcolumnsymbol.h"
 
 #include "histogramgeometry_p.h"
-#include "picturesize_p.h"
 #include "quickpaths_p.h"
+#include "sharppicture_p.h"
 #include "zempixmapcache.h"
 
 #include <QBrush>
@@ -37,7 +37,7 @@ public:
         return true;
     }
 
-    QPixmap icon;
+    SharpPicture icon;
 };
 
 ZEMColumnSymbol::ZEMColumnSymbol(QwtColumnSymbol::Style style)
@@ -88,7 +88,7 @@ void ZEMColumnSymbol::drawIconBox(QPainter *painter, const QwtColumnRect &rect) 
         return;
     }
     painter->fillRect(*visible, palette().brush(QPalette::Current, QPalette::Window));
-    if (const auto position = HistogramGeometry::iconPosition(*visible, pictureSize(d->icon))) {
-        painter->drawPixmap(*position, d->icon);
+    if (const auto position = HistogramGeometry::iconPosition(*visible, d->icon.size())) {
+        painter->drawPixmap(*position, d->icon.forRatio(ratioOf(*painter)));
     }
 }

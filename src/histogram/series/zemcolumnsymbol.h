@@ -45,7 +45,8 @@ public:
 
     /**
      * The picture in the middle of columns that are wider than it; none when new. It is shared
-     * through QPixmapCache with @p path as its key. A path that cannot be read means no icon. The
+     * through QPixmapCache with @p path as its key, and one of the library is shown sharp where the
+     * screen is. A path that cannot be read means no icon. The
      * symbol knows of no plot and repaints nothing.
      */
     void setIcon(QString path);

@@ -5,7 +5,7 @@
 
 #include "histogramgeometry_p.h"
 #include "objectname_p.h"
-#include "picturesize_p.h"
+#include "sharppicture_p.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -14,7 +14,7 @@
 class ZEMHistogramLegendItem::Private
 {
 public:
-    QPixmap background;
+    SharpPicture background;
     int identifierIndent = 0;
 };
 
@@ -36,13 +36,13 @@ void ZEMHistogramLegendItem::setTextColor(const QColor &color)
 
 QPixmap ZEMHistogramLegendItem::getBackground()
 {
-    return d->background;
+    return d->background.plain();
 }
 
 void ZEMHistogramLegendItem::setBackground(const QPixmap &pixmap)
 {
     d->background = pixmap;
-    const QSize size = pictureSize(pixmap);
+    const QSize size = d->background.size();
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
@@ -59,7 +59,7 @@ void ZEMHistogramLegendItem::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawPixmap(QRectF(0, 0, width(), height()), d->background, QRectF());
+    d->background.draw(painter, rect());
 
     const QRect contents = contentsRect();
     painter.setClipRect(contents);
@@ -68,7 +68,7 @@ void ZEMHistogramLegendItem::paintEvent(QPaintEvent *event)
     if (identifier().isNull()) {
         return;
     }
-    const QRect place =
-        HistogramGeometry::identifierRect(contents, d->identifierIndent, pictureSize(identifier()));
-    painter.drawPixmap(QRectF(place), identifier(), QRectF());
+    const SharpPicture mark = identifier();
+    mark.draw(painter,
+              HistogramGeometry::identifierRect(contents, d->identifierIndent, mark.size()));
 }

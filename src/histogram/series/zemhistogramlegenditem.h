@@ -31,7 +31,10 @@ public:
 
     /** A copy of the picture behind the text, null when new. */
     QPixmap getBackground();
-    /** Shows @p pixmap, fixes the item's size to that of the picture and repaints at once. */
+    /**
+     * Shows @p pixmap, fixes the item's size to that of the picture, divided by its ratio, and
+     * repaints at once.
+     */
     void setBackground(const QPixmap &pixmap);
 
     /**
