@@ -3,6 +3,7 @@
 
 #include "listpage_p.h"
 
+#include "icondelegate_p.h"
 #include "listsize_p.h"
 #include "zemlistviewlogic.h"
 
@@ -21,6 +22,13 @@ void makeSeeThrough(QListView *list)
     palette.setBrush(QPalette::Inactive, QPalette::Base, clear);
     palette.setBrush(QPalette::All, QPalette::Window, clear);
     list->setPalette(palette);
+}
+
+void makeSharp(QListView *list)
+{
+    const QAbstractItemDelegate *const plain = list->itemDelegate();
+    list->setItemDelegate(new IconDelegate(list));
+    delete plain;
 }
 
 void reserveRows(QListView *list, int count)

@@ -13,6 +13,9 @@ namespace ListPage {
 /** Lets the page shine through the items of @p list. */
 void makeSeeThrough(QListView *list);
 
+/** Lets @p list draw its icons sharp, until it is given a delegate. */
+void makeSharp(QListView *list);
+
 /** Makes @p list high enough for @p count rows; does nothing without a row to measure. */
 void reserveRows(QListView *list, int count);
 

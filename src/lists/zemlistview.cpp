@@ -23,6 +23,7 @@ ZEMListView::ZEMListView(QWidget *parent)
     d->ui.setupUi(this);
     connect(d->ui.listView, &QListView::clicked, this, &ZEMListView::slotClicked);
     ListPage::makeSeeThrough(d->ui.listView);
+    ListPage::makeSharp(d->ui.listView);
 
     d->logic = new ZEMListViewLogic(d->ui.listView);
     connect(d->logic, &ZEMListViewLogic::has_page, this, &ZEMListView::has_page);

@@ -35,6 +35,7 @@ ZEMSimpleListView::ZEMSimpleListView(QWidget *parent)
     // An icon view drags items that the model allows to, so a tap with a wobble would be lost.
     d->ui.listView->setDragDropMode(QAbstractItemView::NoDragDrop);
     ListPage::makeSeeThrough(d->ui.listView);
+    ListPage::makeSharp(d->ui.listView);
     d->logic = new ZEMListViewLogic(d->ui.listView);
 }
 
