@@ -3,6 +3,7 @@
 
 #include "keyboardfactorydefault.h"
 
+#include "sharppicture_p.h"
 #include "sizehash_p.h"
 #include "zemstyle.h"
 #include "zemvirtualkey.h"
@@ -32,17 +33,37 @@ QString keyStyleSheet(bool pressed)
         .arg(shade);
 }
 
-QPixmap renderKey(const QSize &size, bool pressed)
+QPushButton *newKeyShape(const QSize &size, bool pressed)
 {
-    // Never deleted, as hosts are told: there are only a few, one for each size and state.
     auto *button = new QPushButton(QStringLiteral(" "));
     button->setMinimumSize(size);
     button->setMaximumSize(size);
     button->setStyleSheet(keyStyleSheet(pressed));
-    QPixmap pixmap(size);
+    return button;
+}
+
+QPixmap pictureOf(QPushButton *shape, qreal ratio)
+{
+    QPixmap pixmap(shape->minimumSize() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     // Without the window's background, which would fill the corners.
-    button->render(&pixmap, QPoint(0, 0), QRegion(), QWidget::DrawChildren);
+    shape->render(&pixmap, QPoint(0, 0), QRegion(), QWidget::DrawChildren);
+    return pixmap;
+}
+
+QPixmap renderKey(const QSize &size, bool pressed)
+{
+    // Never deleted, as hosts are told: there are only a few, one for each size and state.
+    const QPixmap pixmap = pictureOf(newKeyShape(size, pressed), 1.0);
+    SharpPicture::teach(pixmap, [size, pressed](qreal ratio) {
+        const QSize pixels = size * ratio;
+        if (pixels.width() > longestSide || pixels.height() > longestSide) {
+            return QPixmap();
+        }
+        const std::unique_ptr<QPushButton> shape(newKeyShape(size, pressed));
+        return pictureOf(shape.get(), ratio);
+    });
     return pixmap;
 }
 

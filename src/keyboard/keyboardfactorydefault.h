@@ -97,8 +97,9 @@ public:
 
     /**
      * The picture of a key of @p size pixels that is @p pressed or not, transparent outside its
-     * round corners. Each is rendered once. Null for a size that is empty or has a side of more
-     * than 32767 pixels.
+     * round corners. Each is rendered once, and once more for each other ratio of a screen that a
+     * key with it is painted on. Null for a size that is empty or has a side of more than 32767
+     * pixels.
      */
     virtual QPixmap getBackground(QSize size, bool pressed);
 
