@@ -4,6 +4,7 @@
 #include "zemplot.h"
 
 #include "objectname_p.h"
+#include "sharpground_p.h"
 #include "zemplotstyler.h"
 #include "zemplotzoomeradvanced.h"
 #include "zemqwtplotcurvepointgetter.h"
@@ -190,6 +191,7 @@ void ZEMPlot::setFrontColor(QColor color)
 void ZEMPlot::setBackgroundGraphic(const QPixmap &pixmap)
 {
     setCanvasBackground(QBrush(pixmap));
+    SharpGround::watch(canvas());
     auto *const plotCanvas = qobject_cast<QwtPlotCanvas *>(canvas());
     if (plotCanvas) {
         plotCanvas->setFrameStyle(0);

@@ -121,7 +121,12 @@ public:
 
     /**
      * Tiles the canvas with a picture and lets what is behind the plot shine through around it and
-     * through its transparent parts. The canvas loses its frame and its backing store.
+     * through its transparent parts. The canvas loses its frame and its backing store. A tile is as
+     * large as the picture divided by its ratio. One of the library is that for the ratio of the
+     * screen from each paint of the plot on, and so is the texture of canvasBackground().
+     *
+     * Without a picture, Qwt keeps the canvas in a backing store: when a window goes to a screen of
+     * another ratio, the curves are sharp there after the next replot().
      */
     void setBackgroundGraphic(const QPixmap &pixmap);
     /** The same with the picture at @p path, a file or a resource; none if there is no such. */

@@ -12,6 +12,7 @@
 #include "qwtplotmover.h"
 #include "scalelabels_p.h"
 #include "scaletexts_p.h"
+#include "sharpground_p.h"
 #include "zemhistogramlegend.h"
 #include "zemhistogramseries.h"
 #include "zemscaledraw.h"
@@ -452,6 +453,7 @@ void ZEMHistogram::setPlotLookAndFeel()
 
     const QPixmap background(QStringLiteral(":/zem/graphics/main/tab_overview_bg.png"));
     plot->setCanvasBackground(QBrush(background));
+    SharpGround::watch(canvas);
     plot->setAttribute(Qt::WA_TranslucentBackground, true);
     canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
     canvas->setPaintAttribute(QwtPlotCanvas::Opaque, false);
