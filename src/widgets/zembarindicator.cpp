@@ -5,6 +5,7 @@
 
 #include "barcomb_p.h"
 #include "objectname_p.h"
+#include "sharppicture_p.h"
 
 #include <QLine>
 #include <QPaintEvent>
@@ -24,8 +25,12 @@ void drawUprights(QPainter &painter, const QPen &pen, const QVector<int> &places
     for (int x : places) {
         lines.append(upright(x, area));
     }
+    // A line of an odd width covers the pixel at its place, of which a sharp screen has several.
+    const bool isAside = ratioOf(painter) > 1.0 && qMax(pen.width(), 1) % 2 == 1;
     painter.setPen(pen);
+    painter.translate(isAside ? 0.5 : 0.0, 0.0);
     painter.drawLines(lines);
+    painter.translate(isAside ? -0.5 : 0.0, 0.0);
 }
 
 } // namespace
