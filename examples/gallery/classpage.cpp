@@ -106,7 +106,8 @@ void ClassPage::refresh()
     QWidget *sample = ownStage->sample();
     if (thumbnail && sample) {
         const QSize size(Stage::width, Stage::width * 3 / 4);
-        thumbnail->setBackground(
-            sample->grab().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        const QPixmap whole = sample->grab();
+        thumbnail->setBackground(whole.scaled(size * whole.devicePixelRatio(),
+                                              Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
 }

@@ -3,11 +3,13 @@
 
 #include "look.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPixmap>
 #include <QStackedWidget>
 #include <ZEMButton>
 #include <ZEMPageHeader>
+#include <ZEMPixmapCache>
 #include <ZEMTextLabel>
 
 namespace {
@@ -15,10 +17,10 @@ namespace {
 constexpr int buttonText = 11; // points
 constexpr QSize headerButton(50, 50);
 
-QPixmap picture(const QString &name, const QSize &size)
+QPixmap panel(const QString &name, const QSize &size)
 {
-    const QPixmap whole(QStringLiteral(":/zem/graphics/main/buttons/%1.png").arg(name));
-    return whole.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return Look::picture(QStringLiteral(":/zem/graphics/main/buttons/%1.png").arg(name), size,
+                         Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -28,6 +30,16 @@ namespace Look {
 QColor ground()
 {
     return QColor(22, 32, 40);
+}
+
+QPixmap picture(const QString &path, const QSize &size, Qt::TransformationMode mode)
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap whole;
+    ZEMPixmapCache::load(whole, path, ratio);
+    QPixmap scaled = whole.scaled(size * ratio, Qt::IgnoreAspectRatio, mode);
+    scaled.setDevicePixelRatio(ratio);
+    return scaled;
 }
 
 ZEMTextLabel *makeLabel(const QString &text, int pointSize)
@@ -43,8 +55,8 @@ ZEMButton *makeButton(const QString &name, const QString &text, const QSize &siz
 {
     auto *button = new ZEMButton;
     button->setObjectName(name);
-    button->setBackground(picture(QStringLiteral("btn_rect_xs_small"), size));
-    button->setBackgroundOff(picture(QStringLiteral("btn_rect_xs_small_disabled"), size));
+    button->setBackground(panel(QStringLiteral("btn_rect_xs_small"), size));
+    button->setBackgroundOff(panel(QStringLiteral("btn_rect_xs_small_disabled"), size));
     button->setFixedSize(size);
     button->setFont(QFont(QStringLiteral("Cabin"), buttonText));
     button->setText(text);

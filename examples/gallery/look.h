@@ -5,8 +5,10 @@
 #define LOOK_H
 
 #include <QColor>
+#include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <Qt>
 
 class QWidget;
 class ZEMButton;
@@ -20,6 +22,10 @@ constexpr QSize screen(640, 480);
 constexpr int target = 44; // pixels, the least side of what a finger touches
 
 QColor ground();
+
+/** The picture of the file @p path in @p size, for the sharpest screen there is. */
+QPixmap picture(const QString &path, const QSize &size,
+                Qt::TransformationMode mode = Qt::FastTransformation);
 
 ZEMTextLabel *makeLabel(const QString &text, int pointSize);
 

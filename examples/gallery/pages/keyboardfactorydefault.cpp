@@ -5,9 +5,9 @@
 #include "stage.h"
 
 #include <KeyboardFactoryDefault>
-#include <QLabel>
 #include <QVBoxLayout>
 #include <ZEMPageBackground>
+#include <ZEMPixmap>
 #include <ZEMVirtualKey>
 #include <ZEMVirtualKeyboard>
 
@@ -36,7 +36,7 @@ void Pages::keyboardfactorydefault(Stage &stage)
     }
     row->addWidget(keyboards.createAlternateKey());
     for (const bool pressed : {false, true}) {
-        auto *picture = new QLabel;
+        auto *picture = new ZEMPixmap;
         picture->setPixmap(keyboards.getBackground(QSize(100, 50), pressed));
         row->addWidget(picture);
     }

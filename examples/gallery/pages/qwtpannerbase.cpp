@@ -4,16 +4,15 @@
 #include "pages.h"
 #include "stage.h"
 
-#include <QLabel>
 #include <QwtPannerBase>
 #include <ZEMLabel>
+#include <ZEMPixmap>
 
 void Pages::qwtpannerbase(Stage &stage)
 {
     auto *map = new QWidget;
-    auto *house = new QLabel(map);
+    auto *house = new ZEMPixmap(map);
     house->setPixmap(QPixmap(QStringLiteral(":/zem/graphics/icons/icons_14.png")));
-    house->adjustSize();
     house->move(160, 110);
     auto *text = new ZEMLabel(map);
     text->setText(QStringLiteral("drag me, or tap"));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "look.h"
 #include "pages.h"
 #include "stage.h"
 
@@ -11,7 +12,8 @@
 static ZEMCurrentStatusDetailsItem *makeItem(const QString &icon, double watt)
 {
     auto *item = new ZEMCurrentStatusDetailsItem;
-    item->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/%1.png").arg(icon)).scaled(30, 30));
+    item->setIcon(
+        Look::picture(QStringLiteral(":/zem/graphics/icons/%1.png").arg(icon), QSize(30, 30)));
     item->setValue(watt);
     return item;
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "look.h"
 #include "pages.h"
 #include "stage.h"
 
@@ -10,7 +11,8 @@ static ZEMCurrentStatusDetailsItem *makeItem(double watt)
 {
     auto *item = new ZEMCurrentStatusDetailsItem;
     item->setFixedSize(180, 40);
-    item->setIcon(QPixmap(QStringLiteral(":/zem/graphics/icons/icons_14.png")).scaled(36, 36));
+    item->setIcon(
+        Look::picture(QStringLiteral(":/zem/graphics/icons/icons_14.png"), QSize(36, 36)));
     item->setMaxValue(3000.0); // W
     item->setValue(watt);
     return item;
@@ -20,7 +22,7 @@ void Pages::zemcurrentstatusdetailsitem(Stage &stage)
 {
     auto *item = makeItem(340.0);
     item->setIconPowerSource(
-        QPixmap(QStringLiteral(":/zem/graphics/icons/icons_11.png")).scaled(36, 36));
+        Look::picture(QStringLiteral(":/zem/graphics/icons/icons_11.png"), QSize(36, 36)));
     item->setShowArrows(true);
     item->setValue(2100.0);
     stage.add(QStringLiteral("arrows and a power source"), item);

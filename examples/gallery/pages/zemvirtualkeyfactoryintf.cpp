@@ -6,6 +6,7 @@
 
 #include <KeyboardFactoryDefault>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -47,13 +48,15 @@ private:
     static QPixmap picture(const QSize &size, bool pressed)
     {
         const ZEMStyle style(nullptr);
-        QPixmap picture(size);
+        const qreal ratio = qApp->devicePixelRatio();
+        QPixmap picture(size * ratio);
+        picture.setDevicePixelRatio(ratio);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(style.color(pressed ? ZEMStyle::Amber : ZEMStyle::SlateBlue));
-        painter.drawRoundedRect(picture.rect(), 8, 8);
+        painter.drawRoundedRect(QRect(QPoint(), size), 8, 8);
         return picture;
     }
 };
