@@ -16,10 +16,17 @@ find_library(Mosquitto_LIBRARY
     HINTS ${MOSQUITTO_ROOT} ENV MOSQUITTO_ROOT
     PATH_SUFFIXES lib)
 
-if(Mosquitto_INCLUDE_DIR AND EXISTS "${Mosquitto_INCLUDE_DIR}/mosquitto.h")
+# Since 2.1 mosquitto.h is several files, and the version is in one of them.
+foreach(header IN ITEMS mosquitto/libmosquitto.h mosquitto.h)
+    set(_mosquitto_header "${Mosquitto_INCLUDE_DIR}/${header}")
+    if(EXISTS "${_mosquitto_header}")
+        break()
+    endif()
+endforeach()
+if(EXISTS "${_mosquitto_header}")
     set(Mosquitto_VERSION)
     foreach(part IN ITEMS MAJOR MINOR REVISION)
-        file(STRINGS "${Mosquitto_INCLUDE_DIR}/mosquitto.h" _mosquitto_part
+        file(STRINGS "${_mosquitto_header}" _mosquitto_part
             REGEX "^#define[ \t]+LIBMOSQUITTO_${part}[ \t]+[0-9]+")
         string(REGEX REPLACE ".*[ \t]([0-9]+).*" "\\1" _mosquitto_part "${_mosquitto_part}")
         list(APPEND Mosquitto_VERSION ${_mosquitto_part})
@@ -27,6 +34,7 @@ if(Mosquitto_INCLUDE_DIR AND EXISTS "${Mosquitto_INCLUDE_DIR}/mosquitto.h")
     list(JOIN Mosquitto_VERSION "." Mosquitto_VERSION)
     unset(_mosquitto_part)
 endif()
+unset(_mosquitto_header)
 
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Mosquitto
