@@ -28,6 +28,7 @@
 #include <ZEMStyle>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -84,7 +85,7 @@ std::unique_ptr<MeterSource> meterSource(const Options &options)
 std::optional<Readings::Household> readHousehold(const QStringList &files)
 {
     Readings::Household household = Readings::loadReadings(files);
-    for (const QString &problem : qAsConst(household.problems)) {
+    for (const QString &problem : std::as_const(household.problems)) {
         printError(problem);
     }
     if (energiesOf(household).empty()) {

@@ -17,6 +17,8 @@
 #include <ZEMStyle>
 #include <ZEMTextLabel>
 
+#include <utility>
+
 namespace {
 
 constexpr int spacing = 4; // pixels
@@ -107,7 +109,7 @@ void PropertyPanel::addPager()
 
 void PropertyPanel::refresh()
 {
-    for (PropertyRow *row : qAsConst(rows)) {
+    for (PropertyRow *row : std::as_const(rows)) {
         row->refresh();
     }
 }

@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -200,7 +201,7 @@ private:
 
     void checkChanges()
     {
-        for (const Typing::Change &change : qAsConst(typing.changes)) {
+        for (const Typing::Change &change : std::as_const(typing.changes)) {
             report(keyLine(change.page, change.key),
                    QStringLiteral("%1 becomes %2 once capitals have been switched on and off")
                        .arg(quoted(change.before), quoted(change.after)));

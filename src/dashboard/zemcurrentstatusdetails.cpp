@@ -15,6 +15,8 @@
 #include <QPalette>
 #include <QPointer>
 
+#include <utility>
+
 namespace {
 
 constexpr int itemSpacing = 12; // pixels
@@ -115,7 +117,7 @@ bool ZEMCurrentStatusDetails::getMeteringStatus() const
 void ZEMCurrentStatusDetails::setMeteringStatus(bool ok)
 {
     d->meteringStatus = ok;
-    for (const auto &item : qAsConst(d->consumptionItems)) {
+    for (const auto &item : std::as_const(d->consumptionItems)) {
         if (item) {
             item->setValid(ok);
         }

@@ -21,6 +21,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -61,7 +62,7 @@ public:
 
     void deletePopups()
     {
-        for (const QPointer<ZEMVirtualKey> &key : qAsConst(alternativeKeys)) {
+        for (const QPointer<ZEMVirtualKey> &key : std::as_const(alternativeKeys)) {
             delete key;
         }
         alternativeKeys.clear();
@@ -454,7 +455,7 @@ void ZEMVirtualKeyboard::parseRow(QHBoxLayout *row, const QDomElement &element)
 
 void ZEMVirtualKeyboard::switchButtonCaps(t_caps state)
 {
-    for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->keys)) {
+    for (const QPointer<ZEMVirtualKey> &key : std::as_const(d->keys)) {
         if (!key) {
             continue;
         }
@@ -541,10 +542,10 @@ void ZEMVirtualKeyboard::slotUpdateLastPressedButton()
 void ZEMVirtualKeyboard::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->keys)) {
+    for (const QPointer<ZEMVirtualKey> &key : std::as_const(d->keys)) {
         d->changeLook(key, false);
     }
-    for (const QPointer<ZEMVirtualKey> &key : qAsConst(d->alternativeKeys)) {
+    for (const QPointer<ZEMVirtualKey> &key : std::as_const(d->alternativeKeys)) {
         d->changeLook(key, false);
     }
 }

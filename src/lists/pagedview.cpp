@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 QAbstractItemModel *PagedView::model() const
 {
@@ -67,7 +68,7 @@ void PagedView::giveToView(QAbstractItemModel *model)
                  [&before](QItemSelectionModel *one) { return !before.contains(one); });
     if (!made.isEmpty()) {
         selections.swap(made);
-        for (const auto &former : qAsConst(made)) {
+        for (const auto &former : std::as_const(made)) {
             if (former) {
                 former->deleteLater();
             }

@@ -13,6 +13,8 @@
 #include <QStackedWidget>
 #include <QtGlobal>
 
+#include <utility>
+
 namespace {
 
 constexpr int titleSize = 18; // points
@@ -37,7 +39,7 @@ class ZEMPageHeader::Private
 public:
     void clearButtonList()
     {
-        for (ZEMPageHeaderButton *button : qAsConst(buttons)) {
+        for (ZEMPageHeaderButton *button : std::as_const(buttons)) {
             ui.btnLayout->removeWidget(button);
             delete button;
         }

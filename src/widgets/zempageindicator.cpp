@@ -10,6 +10,8 @@
 #include <QHBoxLayout>
 #include <QList>
 
+#include <utility>
+
 namespace {
 
 constexpr int spacing = 3; // pixels between the dots
@@ -44,7 +46,7 @@ public:
 
     void clearList()
     {
-        for (ZEMRadioButton *dot : qAsConst(radioButtons)) {
+        for (ZEMRadioButton *dot : std::as_const(radioButtons)) {
             layout->removeWidget(dot);
             buttonGroup->removeButton(dot);
             delete dot;

@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QTest>
 
+#include <utility>
+
 using namespace DashboardTest;
 using namespace WidgetTest;
 
@@ -442,7 +444,7 @@ void tst_ZEMCurrentStatusDetails::partsDoNotOverlap()
                              "lblPowerSupplyTitle", "lblPowerGridValue", "widgetTotals"}) {
         const QRect rect = part<QWidget>(panel, name)->geometry();
         QVERIFY2(QRect(0, 0, 493, 242).contains(rect), name);
-        for (const QRect &other : qAsConst(rects)) {
+        for (const QRect &other : std::as_const(rects)) {
             QVERIFY2(!rect.intersects(other), name);
         }
         rects << rect;

@@ -16,6 +16,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 using namespace DashboardTest;
 using namespace WidgetTest;
 
@@ -401,7 +403,7 @@ void tst_ZEMCurrentStatusWidget::partsDoNotOverlap()
           "lblConsumption", "lblPowerGrid"}) {
         const QRect rect = part<QWidget>(tile, name)->geometry();
         QVERIFY2(QRect(0, 0, 322, 150).contains(rect), name);
-        for (const QRect &other : qAsConst(rects)) {
+        for (const QRect &other : std::as_const(rects)) {
             QVERIFY2(!rect.intersects(other), name);
         }
         rects << rect;

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 using namespace Readings;
 
 namespace {
@@ -407,7 +409,7 @@ void tst_MqttMeter::floodIsSurvived()
     }
     ZEM_TRY_VERIFY(listener.power == flood && listener.meter.housePower().production == flood - 1);
     int events = 0;
-    for (const QList<QVariant> &turn : qAsConst(turns)) {
+    for (const QList<QVariant> &turn : std::as_const(turns)) {
         QVERIFY(turn.constFirst().toInt() <= int(MqttLink::eventsPerTurn));
         events += turn.constFirst().toInt();
     }

@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 using namespace Readings;
 
 namespace {
@@ -550,7 +552,7 @@ void tst_MqttReadings::floodIsTakenInTurns()
     }
     QCoreApplication::processEvents();
     QVERIFY(received <= int(MqttLink::mostWaiting));
-    for (const QList<QVariant> &turn : qAsConst(turns)) {
+    for (const QList<QVariant> &turn : std::as_const(turns)) {
         QVERIFY(turn.constFirst().toInt() <= int(MqttLink::eventsPerTurn));
     }
     QVERIFY(turns.count() >= received / int(MqttLink::eventsPerTurn));

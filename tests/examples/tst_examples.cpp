@@ -16,6 +16,7 @@
 #include <Zemkit>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -147,7 +148,7 @@ void tst_Examples::clearAway()
             left.append(window);
         }
     }
-    for (const QPointer<QWidget> &window : qAsConst(left)) {
+    for (const QPointer<QWidget> &window : std::as_const(left)) {
         if (window) {
             QVERIFY2(!window->isVisible(), window->metaObject()->className());
             delete window;

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <utility>
+
 /** Runs zemkit-gallery as a user would. */
 class tst_GalleryProgram : public QObject
 {
@@ -158,7 +160,7 @@ void tst_GalleryProgram::screenshotsOfEveryClassAndNothingElse()
     }
     expected.sort();
     QCOMPARE(QDir(screens).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), expected);
-    for (const QString &name : qAsConst(expected)) {
+    for (const QString &name : std::as_const(expected)) {
         const QImage image(screens + QLatin1Char('/') + name);
         QVERIFY2(!image.isNull() && !isOfOneColor(image), qPrintable(name));
         QVERIFY2(image.width() <= 640 && image.height() <= 480, qPrintable(name));

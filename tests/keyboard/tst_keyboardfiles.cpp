@@ -15,6 +15,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize screen(640, 480);
@@ -197,10 +199,10 @@ void tst_KeyboardFiles::rowsEndAtOneEdge()
         }
         QCOMPARE(rows.size(), 4);
         QRect whole;
-        for (const QRect &row : qAsConst(rows)) {
+        for (const QRect &row : std::as_const(rows)) {
             whole |= row;
         }
-        for (const QRect &row : qAsConst(rows)) {
+        for (const QRect &row : std::as_const(rows)) {
             // A row that is short of a key stands in the middle.
             const int left = row.left() - whole.left();
             const int right = whole.right() - row.right();

@@ -20,6 +20,7 @@
 #include <QVector>
 
 #include <memory>
+#include <utility>
 
 /** Types on a keyboard in its dialog, on a page of 640 by 480 pixels, with a finger. */
 class Typist
@@ -80,7 +81,7 @@ public:
         QVector<QVector<ZEMVirtualKey *>> ways {{}};
         for (int i = 0; i < seen.size(); ++i) {
             if (seen.at(i) == target) {
-                for (ZEMVirtualKey *key : qAsConst(ways[i])) {
+                for (ZEMVirtualKey *key : std::as_const(ways[i])) {
                     tap(key);
                 }
                 return stack->currentIndex() == target;

@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 using namespace ListTest;
 
@@ -305,7 +306,7 @@ void tst_PagingEngines::scrollHintIsForEveryScroll()
         paged.logic->page_next();
         paged.logic->page_previous();
         QCOMPARE(paged.view.scrolls.count(), 3);
-        for (const auto &scroll : qAsConst(paged.view.scrolls)) {
+        for (const auto &scroll : std::as_const(paged.view.scrolls)) {
             QCOMPARE(scroll.hint, QAbstractItemView::PositionAtCenter);
         }
     });

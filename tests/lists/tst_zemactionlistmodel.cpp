@@ -18,6 +18,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
 
 using namespace ListTest;
 
@@ -442,7 +443,7 @@ void tst_ZEMActionListModel::agreesWithAList()
             model.setActionList(expected);
         }
         QString expectedTexts;
-        for (const QAction *each : qAsConst(expected)) {
+        for (const QAction *each : std::as_const(expected)) {
             expectedTexts += each->text();
         }
         QCOMPARE(texts(model), expectedTexts);

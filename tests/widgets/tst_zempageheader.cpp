@@ -17,6 +17,7 @@
 #include <QTest>
 
 #include <limits>
+#include <utility>
 
 using namespace WidgetTest;
 using FormTest::part;
@@ -436,7 +437,7 @@ void tst_ZEMPageHeader::otherNumberOfButtonsMakesNewOnes()
         old << held << held->parent();
     }
     header.setNrOfButtons(2);
-    for (const auto &object : qAsConst(old)) {
+    for (const auto &object : std::as_const(old)) {
         QVERIFY(object.isNull());
     }
     QCOMPARE(header.getNrOfButtons(), 2);

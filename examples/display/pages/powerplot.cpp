@@ -21,6 +21,7 @@
 #include <qwt_plot_textlabel.h>
 #include <qwt_scale_widget.h>
 #include <qwt_symbol.h>
+#include <utility>
 
 namespace {
 
@@ -190,7 +191,7 @@ void PowerPlot::takeAxes()
     double high = leastPower;
     QList<QwtPlotCurve *> all = getCurves();
     all.append(bars);
-    for (const QwtPlotCurve *curve : qAsConst(all)) {
+    for (const QwtPlotCurve *curve : std::as_const(all)) {
         const QRectF rect = curve->data()->boundingRect();
         if (rect.isValid() || rect.width() > 0.0) {
             low = std::min(low, rect.top());

@@ -33,6 +33,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -163,7 +164,7 @@ ZEMHistogram::ZEMHistogram(QWidget *parent)
 
 ZEMHistogram::~ZEMHistogram()
 {
-    for (const OwnedSeries &owned : qAsConst(d->series)) {
+    for (const OwnedSeries &owned : std::as_const(d->series)) {
         if (owned.isAlive()) {
             owned.series->detach();
             delete owned.series;
