@@ -5,6 +5,7 @@
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QTimeZone>
 
 namespace Charts {
 
@@ -28,7 +29,7 @@ Readings readings(Period period, int days)
     Readings result;
     result.period = period;
     // A Monday, at which a week chart begins.
-    result.newest = QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC);
+    result.newest = QDateTime(QDate(2026, 3, 2), QTime(0, 0), QTimeZone::utc());
     for (int i = 0; i < slotCount * windows; ++i) {
         result.consumption.push_back(1.0 + i * 7 % 13 * 0.5);
         result.production.push_back(0.25 + i * 5 % 9 * 0.25);

@@ -4,6 +4,7 @@
 #include "sampledata.h"
 
 #include <QRandomGenerator>
+#include <QTimeZone>
 #include <QtMath>
 #include <cmath>
 
@@ -66,7 +67,7 @@ namespace SampleData {
 
 QDateTime lastMidnight()
 {
-    return QDateTime(QDate(2026, 6, 21), QTime(0, 0), Qt::UTC);
+    return QDateTime(QDate(2026, 6, 21), QTime(0, 0), QTimeZone::utc());
 }
 
 QDateTime lastMonday()

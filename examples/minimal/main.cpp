@@ -4,6 +4,7 @@
 // One page: the power that flows now and a week of bars that can be dragged back.
 
 #include <QApplication>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <Zemkit>
 
@@ -36,7 +37,7 @@ int main(int argc, char *argv[])
     chart->setScaleInterval(data->interval());
     chart->setValueLimits(data->valueLimits().extend(0.0));
     chart->addSeries(series);
-    chart->setDataChangedTimestamp(QDateTime(QDate(2026, 11, 16), QTime(0, 0), Qt::UTC));
+    chart->setDataChangedTimestamp(QDateTime(QDate(2026, 11, 16), QTime(0, 0), QTimeZone::utc()));
 
     auto *layout = new QVBoxLayout(&page);
     layout->addWidget(power);

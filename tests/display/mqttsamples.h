@@ -10,7 +10,7 @@
 /** An instant as publishers write it. */
 inline QByteArray isoOf(qint64 instant)
 {
-    return QDateTime::fromSecsSinceEpoch(instant, Qt::UTC).toString(Qt::ISODate).toLatin1();
+    return QDateTime::fromSecsSinceEpoch(instant).toUTC().toString(Qt::ISODate).toLatin1();
 }
 
 /** The instant of a UTC time such as "2024-06-01T10:00:00". */

@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QTest>
+#include <QTimeZone>
 
 using namespace Readings;
 
@@ -24,7 +25,7 @@ Calendar amsterdam()
 
 qint64 utc(const QDate &date, int hour)
 {
-    return QDateTime(date, QTime(hour, 0), Qt::UTC).toSecsSinceEpoch();
+    return QDateTime(date, QTime(hour, 0), QTimeZone::utc()).toSecsSinceEpoch();
 }
 
 // A counter that rises by 1 each hour of real time.

@@ -10,6 +10,7 @@
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 
 using namespace Readings;
 
@@ -21,7 +22,7 @@ constexpr Register importLow {Quantity::GridImport, Tariff::Low};
 constexpr Register gas {Quantity::Gas, Tariff::Single};
 constexpr qint64 hour = 3600;
 constexpr qint64 step = 300;
-const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), Qt::UTC).toSecsSinceEpoch();
+const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), QTimeZone::utc()).toSecsSinceEpoch();
 
 /** Answers @p statement of a database with its rows, fields separated by blanks. */
 QStringList ask(const QString &path, const QString &statement)

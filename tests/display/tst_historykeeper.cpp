@@ -12,6 +12,7 @@
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -25,7 +26,7 @@ namespace {
 constexpr Register gas {Quantity::Gas, Tariff::Single};
 constexpr qint64 hour = 3600;
 constexpr qint64 step = 300;
-const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), Qt::UTC).toSecsSinceEpoch();
+const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), QTimeZone::utc()).toSecsSinceEpoch();
 
 /** A keeper with what it fills and what it says. */
 struct Display

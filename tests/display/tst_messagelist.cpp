@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimeZone>
 
 class tst_MessageList : public QObject
 {
@@ -23,7 +24,7 @@ private Q_SLOTS:
 private:
     static QStringList linesOf(const MessageList &list);
 
-    const QDateTime noon {QDate(2016, 3, 9), QTime(12, 0), Qt::UTC};
+    const QDateTime noon {QDate(2016, 3, 9), QTime(12, 0), QTimeZone::utc()};
 };
 
 void tst_MessageList::initTestCase()

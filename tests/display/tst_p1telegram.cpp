@@ -29,7 +29,7 @@ QString quantityText(const Register &meterRegister)
 
 QString timeText(const std::optional<qint64> &instant)
 {
-    return instant ? QDateTime::fromSecsSinceEpoch(*instant, Qt::UTC).toString(Qt::ISODate)
+    return instant ? QDateTime::fromSecsSinceEpoch(*instant).toUTC().toString(Qt::ISODate)
                    : QStringLiteral("none");
 }
 

@@ -7,6 +7,7 @@
 
 #include <QRandomGenerator>
 #include <QTest>
+#include <QTimeZone>
 
 #include <cmath>
 
@@ -18,7 +19,7 @@ constexpr qint64 hour = 3600;
 constexpr qint64 quarter = 900;
 constexpr qint64 step = 300;
 constexpr double most = 25.0;
-const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), Qt::UTC).toSecsSinceEpoch();
+const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), QTimeZone::utc()).toSecsSinceEpoch();
 
 /** Readings every five minutes from @p from to @p to, 0.01 more each time. */
 std::vector<Reading> rising(qint64 from, qint64 to)

@@ -7,6 +7,7 @@
 #include "../support/lifetime.h"
 #include "zemtest.h"
 
+#include <QTimeZone>
 #include <QwtPlotMover>
 #include <ZEMHistogram>
 #include <ZEMHistogramData>
@@ -37,7 +38,7 @@ struct Act
 
 inline QDateTime midnight()
 {
-    return QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC);
+    return QDateTime(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc());
 }
 
 inline QwtPlot *plotOf(const ZEMHistogram *chart)

@@ -10,6 +10,7 @@
 #include "yearhistogram.h"
 
 #include <QBrush>
+#include <QTimeZone>
 #include <ZEMHistogramData>
 #include <ZEMSmartDayHistogram>
 #include <ZEMSmartMonthHistogram>
@@ -138,7 +139,7 @@ void EnergyChart::feed(Pane *pane, const DateRange &range)
                 static_cast<const ZEMHistogramData *>(each.item->data())->interval());
             // Counting in UTC, a day of the chart always has 24 hours.
             pane->chart->setDataChangedTimestamp(
-                QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+                QDateTime(values.newestWindow, QTime(0, 0), QTimeZone::utc()));
         }
     }
 }

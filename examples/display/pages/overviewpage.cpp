@@ -12,6 +12,7 @@
 
 #include <QBrush>
 #include <QGridLayout>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <ZEMButton>
 #include <ZEMCurrentStatusWidget>
@@ -207,7 +208,8 @@ ChartValues OverviewPage::feed(const SmallChart &small, Quantity quantity)
     small.series->setColor(ZEMStyle(nullptr).color(lookOf(quantity).color));
     small.series->setValues(values);
     small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), leastLimit)));
-    small.chart->setDataChangedTimestamp(QDateTime(values.newestWindow, QTime(0, 0), Qt::UTC));
+    small.chart->setDataChangedTimestamp(
+        QDateTime(values.newestWindow, QTime(0, 0), QTimeZone::utc()));
     small.chart->replot();
     return values;
 }

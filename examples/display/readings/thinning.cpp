@@ -4,6 +4,7 @@
 #include "thinning.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 #include <algorithm>
 
 namespace Readings {
@@ -24,7 +25,7 @@ qint64 keptStep(const QTimeZone &zone)
 {
     // Both halves of the year, since there are zones whose clock moves by half an hour.
     for (const int month : {1, 7}) {
-        const QDateTime noon(QDate(2024, month, 1), QTime(12, 0), Qt::UTC);
+        const QDateTime noon(QDate(2024, month, 1), QTime(12, 0), QTimeZone::utc());
         if (zone.isValid() && zone.offsetFromUtc(noon) % hour != 0) {
             return quarter;
         }

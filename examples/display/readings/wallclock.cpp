@@ -21,7 +21,7 @@ qint64 dayOf(qint64 wallSeconds)
 
 QDateTime utc(qint64 seconds)
 {
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(seconds).toUTC();
 }
 
 } // namespace

@@ -16,7 +16,7 @@ constexpr int yearsOfHistory = 2;
 
 qint64 startOfHistory(qint64 now)
 {
-    return QDateTime::fromSecsSinceEpoch(now, Qt::UTC).addYears(-yearsOfHistory).toSecsSinceEpoch();
+    return QDateTime::fromSecsSinceEpoch(now).toUTC().addYears(-yearsOfHistory).toSecsSinceEpoch();
 }
 
 } // namespace

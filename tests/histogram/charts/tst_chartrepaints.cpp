@@ -7,6 +7,7 @@
 
 #include <QLocale>
 #include <QTest>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
@@ -37,7 +38,7 @@ public:
         chart->setScalePeriod(kind.slotCount);
         chart->setScaleInterval(
             QwtInterval(-double(kind.slotCount * (windows - 1)), kind.slotCount));
-        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC));
+        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), QTimeZone::utc()));
         for (ZEMHistogram *each : {chart, child}) {
             if (each) {
                 each->addSeries(newSeries(kind.slotCount, false, 1));
@@ -129,7 +130,8 @@ void tst_ChartRepaints::changePaints_data()
         stage.chart->replot();
     }) << int(Canvas);
     QTest::newRow("date") << Change([](Stage &stage) {
-        stage.chart->setDataChangedTimestamp(QDateTime(QDate(2025, 7, 7), QTime(0, 0), Qt::UTC));
+        stage.chart->setDataChangedTimestamp(
+            QDateTime(QDate(2025, 7, 7), QTime(0, 0), QTimeZone::utc()));
     }) << int(XAxis);
     QTest::newRow("digits") << Change([](Stage &stage) {
         stage.chart->setScaleDigits(QwtPlot::yLeft, 3);
@@ -190,7 +192,8 @@ void tst_ChartRepaints::changePaintsTheChild_data()
         stage.chart->replot();
     }) << int(Canvas);
     QTest::newRow("date") << Change([](Stage &stage) {
-        stage.chart->setDataChangedTimestamp(QDateTime(QDate(2025, 7, 7), QTime(0, 0), Qt::UTC));
+        stage.chart->setDataChangedTimestamp(
+            QDateTime(QDate(2025, 7, 7), QTime(0, 0), QTimeZone::utc()));
     }) << int(XAxis);
     QTest::newRow("value limits") << Change([](Stage &stage) {
         stage.child->setValueLimits(QwtInterval(0.0, 4.0));

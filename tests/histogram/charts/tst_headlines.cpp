@@ -5,6 +5,7 @@
 
 #include <QLocale>
 #include <QTest>
+#include <QTimeZone>
 
 #include <limits>
 
@@ -27,7 +28,7 @@ private Q_SLOTS:
 
 static QDateTime midnight(int year, int month, int day)
 {
-    return {QDate(year, month, day), QTime(0, 0), Qt::UTC};
+    return {QDate(year, month, day), QTime(0, 0), QTimeZone::utc()};
 }
 
 void tst_Headlines::cleanup()

@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QSpacerItem>
 #include <QTest>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <qwt_dyngrid_layout.h>
 #include <qwt_legend.h>
@@ -70,7 +71,7 @@ private Q_SLOTS:
 
 static QDateTime midnight(int year, int month, int day)
 {
-    return {QDate(year, month, day), QTime(0, 0), Qt::UTC};
+    return {QDate(year, month, day), QTime(0, 0), QTimeZone::utc()};
 }
 
 static QLocale dutch()

@@ -12,6 +12,7 @@
 #include <ZEMTextLabel>
 
 #include <QStackedWidget>
+#include <QTimeZone>
 
 #include <qwt_plot.h>
 
@@ -30,7 +31,7 @@ public:
         init();
         setScalePeriod(24.0);
         setScaleInterval(QwtInterval(-96.0, 24.0));
-        setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+        setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc()));
     }
 
     void updateTitle(QwtInterval interval) override

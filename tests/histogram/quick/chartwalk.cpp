@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <qwt_plot.h>
@@ -158,7 +159,7 @@ Stage::Stage(std::uint32_t number) : window(new Ground)
         chart->addSeries(newSeries(slotCount, false, 1));
         chart->prependSeries(newSeries(slotCount, true, 2));
         chart->setScaleInterval(QwtInterval(-double(slotCount * (windows - 1)), slotCount));
-        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC));
+        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), QTimeZone::utc()));
     }
     if (upTo(3, random) != 0) {
         window->show();

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QScopeGuard>
 #include <QTest>
+#include <QTimeZone>
 #include <QVBoxLayout>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
@@ -49,7 +50,7 @@ public:
         }
         chart->setScalePeriod(slotCount);
         chart->setScaleInterval(QwtInterval(-double(slotCount * (windows - 1)), slotCount));
-        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC));
+        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 3, 2), QTime(0, 0), QTimeZone::utc()));
         ground.show();
         chart->replot();
         QCoreApplication::processEvents();
