@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QTimeZone>
 #include <ZEMHistogramData>
 #include <ZEMHistogramSeries>
 #include <ZEMSmartDayHistogram>
@@ -44,7 +45,7 @@ public:
         chart->init();
         chart->setScalePeriod(hoursOfDay);
         chart->addSeries(series);
-        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC));
+        chart->setDataChangedTimestamp(QDateTime(QDate(2026, 1, 1), QTime(0, 0), QTimeZone::utc()));
         chart->resize(493, 320);
         chart->show();
         chart->replot();
@@ -73,7 +74,7 @@ private:
 
     void send(QEvent::Type type, Qt::MouseButton button)
     {
-        QMouseEvent event(type, position, button, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent event(type, position, position, button, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(canvas, &event);
     }
 

@@ -33,7 +33,8 @@ void focusAsIfTapped(QWidget *field)
     field->setFocus(Qt::OtherFocusReason);
     const QPoint lastPixel(field->width() - 1, field->height() - 1);
     QCoreApplication::postEvent(field,
-                                new QMouseEvent(QEvent::MouseButtonPress, lastPixel, Qt::LeftButton,
+                                new QMouseEvent(QEvent::MouseButtonPress, lastPixel,
+                                                field->mapToGlobal(lastPixel), Qt::LeftButton,
                                                 Qt::LeftButton, Qt::NoModifier));
 }
 

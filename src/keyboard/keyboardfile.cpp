@@ -3,6 +3,8 @@
 
 #include "keyboardfile_p.h"
 
+#include "qtcompat_p.h"
+
 #include <QDebug>
 #include <QDomDocument>
 #include <QFile>
@@ -177,11 +179,9 @@ bool read(const QString &fileName, QDomDocument *document)
     if (!growsLittle(QByteArray(content).replace('\0', QByteArray())) || !isFlatEnough(content)) {
         return false;
     }
-    QString message;
-    int line = 0;
-    int column = 0;
-    if (!document->setContent(content, false, &message, &line, &column)) {
-        reportParseError(line, column, message);
+    const QtCompat::XmlFault fault = QtCompat::parse(document, content);
+    if (!fault.message.isEmpty()) {
+        reportParseError(fault.line, fault.column, fault.message);
         return false;
     }
     if (document->documentElement().tagName() != QLatin1String("keyboard")) {

@@ -18,7 +18,7 @@ constexpr int largest = QWIDGETSIZE_MAX - 1;
 /** What a widget accepts as a limit of its size without a message. */
 inline int limit(qint64 pixels)
 {
-    return int(qBound<qint64>(0, pixels, largest));
+    return int(qBound(qint64(0), pixels, qint64(largest)));
 }
 
 /** The extent of @p count rows or columns of @p extent each. */

@@ -4,6 +4,7 @@
 #include "zemactionlistmodel.h"
 
 #include <QAction>
+#include <QFont>
 #include <QPointer>
 #include <QVector>
 

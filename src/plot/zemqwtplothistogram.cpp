@@ -4,11 +4,11 @@
 #include "zemqwtplothistogram.h"
 
 #include "barpolygon_p.h"
+#include "qwtcompat_p.h"
 
 #include <QPainter>
 #include <QPolygonF>
 
-#include <qwt_clipper.h>
 #include <qwt_painter.h>
 #include <qwt_text.h>
 
@@ -57,7 +57,7 @@ void ZEMQwtPlotHistogram::drawBarCurve(QPainter *painter, int, const QwtScaleMap
         // Wide enough that the line along the border of the clip is out of sight.
         const double penWidth = std::max(1.0, painter->pen().widthF());
         const QRectF clip = canvasRect.adjusted(-penWidth, -penWidth, penWidth, penWidth);
-        QwtPainter::drawPolyline(painter, QwtClipper::clipPolygonF(clip, polygon, false));
+        QwtPainter::drawPolyline(painter, QwtCompat::clipped(clip, polygon));
     } else {
         QwtPainter::drawPolyline(painter, polygon);
     }

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "qtcompat.h"
+
 #include <ZEMStyle>
 
 #include <QApplication>
 #include <QFile>
 #include <QFont>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QPalette>
 #include <QRegularExpression>
@@ -216,7 +217,7 @@ void tst_ZEMStyle::fontsOfTheApplication()
 
 void tst_ZEMStyle::quicksandStandsIn()
 {
-    const QStringList families = QFontDatabase().families();
+    const QStringList families = QtCompat::fontFamilies();
     if (!families.contains(QStringLiteral("Quicksand"))
         || families.contains(QStringLiteral("Quicksand Book"))) {
         QSKIP("There is no Quicksand here, or nothing to stand in for.");

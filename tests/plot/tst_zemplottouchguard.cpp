@@ -80,12 +80,13 @@ void touch(QWidget *canvas, const QVector<QPoint> &moves, Qt::MouseButton button
 void tapSwiftly(QWidget *canvas, QEvent::Type press)
 {
     const QPoint end = start + QPoint(2, 2);
-    QMouseEvent down(press, start, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent down(press, start, start, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(canvas, &down);
-    QMouseEvent move(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, end, end, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(canvas, &move); // of which the first may only arm a picker
     QCoreApplication::sendEvent(canvas, &move);
-    QMouseEvent up(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent up(QEvent::MouseButtonRelease, end, end, Qt::LeftButton, Qt::NoButton,
+                   Qt::NoModifier);
     QCoreApplication::sendEvent(canvas, &up);
 }
 

@@ -48,7 +48,8 @@ public:
 private:
     Commands mouse(QEvent::Type type, Qt::MouseButton button)
     {
-        const QMouseEvent event(type, QPointF(10, 10), button, button, Qt::NoModifier);
+        const QMouseEvent event(type, QPointF(10, 10), QPointF(10, 10), button, button,
+                                Qt::NoModifier);
         return machine.transition(pattern, &event);
     }
 };

@@ -39,7 +39,7 @@ ZEMThrobber *spinnerOf(const ZEMDialogPopup &dialog)
 
 bool spinnerIsEmpty(const ZEMDialogPopup &dialog)
 {
-    return spinnerOf(dialog)->pixmap(Qt::ReturnByValue).isNull();
+    return spinnerOf(dialog)->pixmap().isNull();
 }
 
 constexpr int patience = 120000; // ms, for a machine that hangs
@@ -48,7 +48,7 @@ constexpr int someFrames = 500; // ms
 /** Whether the spinner shows another picture within @p time. */
 bool spins(const ZEMDialogPopup &dialog, int time = patience)
 {
-    const auto picture = [&] { return spinnerOf(dialog)->pixmap(Qt::ReturnByValue).cacheKey(); };
+    const auto picture = [&] { return spinnerOf(dialog)->pixmap().cacheKey(); };
     const qint64 first = picture();
     return QTest::qWaitFor([&] { return picture() != first; }, time);
 }

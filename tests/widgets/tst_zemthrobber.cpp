@@ -27,8 +27,7 @@ int shownFrame(const ZEMThrobber &throbber)
     static const QImage strip = QPixmap(QStringLiteral(":/zem/graphics/icons/throbber.png"))
                                     .toImage()
                                     .convertToFormat(QImage::Format_ARGB32);
-    const QImage shown =
-        throbber.pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32);
+    const QImage shown = throbber.pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
     for (int i = 0; i < 12; ++i) {
         if (shown == strip.copy(i * 32, 0, 32, 32)) {
             return i;
@@ -39,7 +38,7 @@ int shownFrame(const ZEMThrobber &throbber)
 
 bool isEmpty(const ZEMThrobber &throbber)
 {
-    return throbber.pixmap(Qt::ReturnByValue).isNull();
+    return throbber.pixmap().isNull();
 }
 
 /** Does what the timer does at its end, without waiting for it. */
@@ -51,9 +50,9 @@ void tick(ZEMThrobber *throbber)
 /** Waits for the timer, and returns after one timeout, so that no frame is missed. */
 void waitForNextFrame(const ZEMThrobber &throbber)
 {
-    const qint64 shown = throbber.pixmap(Qt::ReturnByValue).cacheKey();
+    const qint64 shown = throbber.pixmap().cacheKey();
     QDeadlineTimer deadline(120000); // ms, for a machine that hangs
-    while (throbber.pixmap(Qt::ReturnByValue).cacheKey() == shown && !deadline.hasExpired()) {
+    while (throbber.pixmap().cacheKey() == shown && !deadline.hasExpired()) {
         QCoreApplication::processEvents();
         QThread::msleep(1);
     }
@@ -62,7 +61,7 @@ void waitForNextFrame(const ZEMThrobber &throbber)
 /** The colour of the whole of the frame shown; invalid if it is not of one colour. */
 QColor shownColor(const ZEMThrobber &throbber)
 {
-    const QImage image = throbber.pixmap(Qt::ReturnByValue).toImage();
+    const QImage image = throbber.pixmap().toImage();
     const QColor color = image.pixelColor(0, 0);
     return ZemTest::inkRect(image, color).isNull() ? color : QColor();
 }
@@ -236,7 +235,7 @@ void tst_ZEMThrobber::otherStripStartsFromItsFirstFrame()
     ZEMThrobber throbber;
     throbber.pause();
     throbber.setImage(stripPath, 4);
-    QCOMPARE(throbber.pixmap(Qt::ReturnByValue).size(), QSize(5, 7));
+    QCOMPARE(throbber.pixmap().size(), QSize(5, 7));
     throbber.pause(); // which shows the second
     for (int i = 1; i < 9; ++i) {
         QCOMPARE(shownColor(throbber), stripColors.at(i % 4));
@@ -261,11 +260,11 @@ void tst_ZEMThrobber::restOfTheStripIsNotShown()
     throbber.pause();
     for (int i = 0; i < 4; ++i) {
         QVERIFY(shownColor(throbber) != QColor(Qt::white));
-        QCOMPARE(throbber.pixmap(Qt::ReturnByValue).width(), 5);
+        QCOMPARE(throbber.pixmap().width(), 5);
         tick(&throbber);
     }
     throbber.setImage(stripPath, 1);
-    QCOMPARE(throbber.pixmap(Qt::ReturnByValue).size(), QSize(23, 7));
+    QCOMPARE(throbber.pixmap().size(), QSize(23, 7));
 }
 
 void tst_ZEMThrobber::repeatedStripsAddNoConnections()

@@ -29,7 +29,7 @@ public:
     /** Of the values that are known; invalid if there are none. */
     QRectF boundingRect() const override
     {
-        if (d_boundingRect.width() < 0.0) {
+        if (rect.width() < 0.0) {
             bool isFirst = true;
             for (std::size_t i = 0; i < values.size(); ++i) {
                 if (std::isfinite(values[i])) {
@@ -38,13 +38,12 @@ public:
                 }
             }
         }
-        return d_boundingRect;
+        return rect;
     }
 
 private:
     void include(const QPointF &point, bool isFirst) const
     {
-        QRectF &rect = d_boundingRect;
         if (isFirst) {
             rect = QRectF(point, point);
         } else {
@@ -54,6 +53,7 @@ private:
         }
     }
 
+    mutable QRectF rect {0.0, 0.0, -1.0, -1.0};
     const double first;
     const double step;
     const std::vector<double> values;

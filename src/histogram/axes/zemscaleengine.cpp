@@ -64,7 +64,8 @@ void ZEMScaleEngine::buildTicks(const QwtInterval &interval, double stepSize, in
     ticks[QwtScaleDiv::MajorTick] = buildMajorTicks(bounding, stepSize);
     if (maxMinSteps > 0) {
         // Qwt makes about as many as it is told for each of the major ones.
-        const int mostSteps = std::max(maxMinorTicks / ticks[QwtScaleDiv::MajorTick].count(), 1);
+        const int mostSteps =
+            std::max(maxMinorTicks / int(ticks[QwtScaleDiv::MajorTick].count()), 1);
         buildMinorTicks(ticks[QwtScaleDiv::MajorTick], std::min(maxMinSteps, mostSteps), stepSize,
                         ticks[QwtScaleDiv::MinorTick], ticks[QwtScaleDiv::MediumTick]);
     }

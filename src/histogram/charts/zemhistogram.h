@@ -28,6 +28,7 @@ class ZEMHistogramSeries;
  *
  * A chart is set up in two phases, in this order:
  * @code
+ * #include <QTimeZone>
  * #include <ZEMHistogramData>
  * #include <ZEMHistogramSeries>
  * #include <ZEMSmartDayHistogram>
@@ -48,7 +49,7 @@ class ZEMHistogramSeries;
  * chart.setScalePeriod(24.0); // width of the view in slots
  * chart.setScaleInterval(data->interval());
  * chart.setValueLimits(data->valueLimits().extend(0.0)); // bars stand on 0
- * chart.setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+ * chart.setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc()));
  * chart.replot(); // and again after feeding data
  * @endcode
  *
@@ -149,8 +150,8 @@ public:
      * The date of x = 0, for this chart and the charts beneath it; the headlines follow at once.
      *
      * Hours and days are counted from it by QDateTime::addSecs() and addDays(). Give a time in
-     * Qt::UTC (the local date and 0:00 are fine), so that a change to summer time in between moves
-     * no hour. While it is null the headlines have no dates.
+     * UTC (the local date and 0:00 are fine), so that a change to summer time in between moves no
+     * hour. While it is null the headlines have no dates.
      */
     void setDataChangedTimestamp(QDateTime t);
 

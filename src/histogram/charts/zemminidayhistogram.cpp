@@ -4,6 +4,7 @@
 #include "zemminidayhistogram.h"
 
 #include "histogramlayout_p.h"
+#include "qwtcompat_p.h"
 #include "qwtplotmover.h"
 #include "zemstyle.h"
 
@@ -34,7 +35,7 @@ ZEMMiniDayHistogram::xDayScaleDraw::xDayScaleDraw()
     setTickLength(QwtScaleDiv::MajorTick, lengthOfTicks);
     setTickLength(QwtScaleDiv::MinorTick, lengthOfTicks);
     setTickLength(QwtScaleDiv::MediumTick, 0.0);
-    setPenWidth(tickWidth);
+    QwtCompat::setPenWidth(this, tickWidth);
     setSpacing(0.0);
 }
 

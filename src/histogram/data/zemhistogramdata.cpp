@@ -18,6 +18,7 @@ public:
     unsigned int nrWindows = 0;
     HistogramSlots samples;
     QRectF rectOfInterest;
+    QRectF boundingRect {0.0, 0.0, -1.0, -1.0}; // the base's has another name in each Qwt
     double centerValue = 0.0;
     double shiftValue = 0.0;
     QwtInterval dataInterval {0.0, 0.0};
@@ -72,10 +73,10 @@ QwtIntervalSample ZEMHistogramData::sample(size_t i) const
 
 QRectF ZEMHistogramData::boundingRect() const
 {
-    if (d_boundingRect.width() < 0.0) {
-        d_boundingRect = qwtBoundingRect(*this, 0, -1);
+    if (d->boundingRect.width() < 0.0) {
+        d->boundingRect = qwtBoundingRect(*this, 0, -1);
     }
-    return d_boundingRect;
+    return d->boundingRect;
 }
 
 void ZEMHistogramData::setRectOfInterest(const QRectF &rect)

@@ -5,6 +5,7 @@
 #define FASTSCALEDRAW_P_H
 
 #include "quickpaths_p.h"
+#include "qwtcompat_p.h"
 #include "scalelabels_p.h"
 #include "scaletexts_p.h"
 
@@ -170,7 +171,8 @@ protected:
 
     void drawTick(QPainter *painter, double value, double length) const override
     {
-        const bool isThin = this->penWidth() == 0 && painter->pen().style() == Qt::SolidLine;
+        const bool isThin =
+            QwtCompat::penWidth(*this) <= 0.0 && painter->pen().style() == Qt::SolidLine;
         if (QuickPaths::areOpen() && isThin && FastScale::keepsPixels(painter)) {
             if (const auto rect = FastScale::tickRect(*this, value, length)) {
                 painter->fillRect(*rect, painter->pen().color());

@@ -3,6 +3,8 @@
 
 #include "scalelabels_p.h"
 
+#include "qwtcompat_p.h"
+
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -228,7 +230,7 @@ std::optional<double> ScaleMeasure::extent() const
         result += draw.maxTickLength();
     }
     if (draw.hasComponent(QwtAbstractScaleDraw::Backbone)) {
-        result += std::max(1, draw.penWidth());
+        result += std::max(1.0, QwtCompat::penWidth(draw));
     }
     return std::max(result, draw.minimumExtent());
 }
@@ -329,7 +331,7 @@ std::optional<int> ScaleMeasure::minLength() const
     const int majorTicks = scale.ticks(QwtScaleDiv::MajorTick).count();
     const int otherTicks =
         scale.ticks(QwtScaleDiv::MinorTick).count() + scale.ticks(QwtScaleDiv::MediumTick).count();
-    const int widthOfTick = std::max(1, draw.penWidth()) + 1;
+    const int widthOfTick = std::max(1, qCeil(QwtCompat::penWidth(draw))) + 1;
     const int forTicks = draw.hasComponent(QwtAbstractScaleDraw::Ticks)
         ? (majorTicks + otherTicks) * widthOfTick
         : 0;

@@ -13,6 +13,7 @@
 #include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimeZone>
 #include <qwt_scale_div.h>
 #include <qwt_scale_engine.h>
 #include <qwt_scale_widget.h>
@@ -113,7 +114,7 @@ void tst_ZEMHistogramViews::timestampReachesChildrenFirst()
         connect(each, QOverload<ZEMHistogram *>::of(&ZEMHistogram::changed), this,
                 [&](ZEMHistogram *histogram) { order << histogram; });
     }
-    const QDateTime t(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC);
+    const QDateTime t(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc());
     chart.setDataChangedTimestamp(t);
     QCOMPARE(chart.dataChangedTimestamp, t);
     QCOMPARE(child->dataChangedTimestamp, t);
@@ -123,12 +124,13 @@ void tst_ZEMHistogramViews::timestampReachesChildrenFirst()
 
 void tst_ZEMHistogramViews::timestampShowsOnAnAxisOfDates()
 {
-    MonthStage stage(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+    MonthStage stage(QDateTime(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc()));
     QVERIFY(stage.isReady);
     const QImage before = render(stage.axis);
     QCoreApplication::processEvents();
     const PaintCounter paints(stage.axis);
-    stage.chart.setDataChangedTimestamp(QDateTime(QDate(2016, 6, 6), QTime(0, 0), Qt::UTC));
+    stage.chart.setDataChangedTimestamp(
+        QDateTime(QDate(2016, 6, 6), QTime(0, 0), QTimeZone::utc()));
     stage.chart.replot();
     QCoreApplication::processEvents();
     QVERIFY(paints.count > 0);
@@ -141,8 +143,8 @@ void tst_ZEMHistogramViews::dateOfATimestampCountsNotItsInstant()
     qputenv("TZ", "Europe/Amsterdam");
     const auto restore =
         qScopeGuard([&] { former.isNull() ? qunsetenv("TZ") : qputenv("TZ", former); });
-    const QDateTime evening(QDate(2018, 3, 4), QTime(23, 0), Qt::UTC);
-    const QDateTime midnight(QDate(2018, 3, 5), QTime(0, 0), Qt::LocalTime);
+    const QDateTime evening(QDate(2018, 3, 4), QTime(23, 0), QTimeZone::utc());
+    const QDateTime midnight(QDate(2018, 3, 5), QTime(0, 0));
     QCOMPARE(evening, midnight);
     MonthStage stage(evening);
     QVERIFY(stage.isReady);

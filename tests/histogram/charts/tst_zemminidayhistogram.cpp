@@ -4,8 +4,10 @@
 // qwt_plot_layout.h makes flags from 0, which Qt lists among what it will drop.
 #undef QT_DISABLE_DEPRECATED_BEFORE
 
+#include "qwtcompat_p.h"
 #include "zemtest.h"
 
+#include <QTimeZone>
 #include <QwtPlotMover>
 #include <ZEMButton>
 #include <ZEMHistogramData>
@@ -103,7 +105,7 @@ void tst_ZEMMiniDayHistogram::xScaleDraw()
     QCOMPARE(draw->tickLength(QwtScaleDiv::MajorTick), 4.0);
     QCOMPARE(draw->tickLength(QwtScaleDiv::MinorTick), 4.0);
     QCOMPARE(draw->tickLength(QwtScaleDiv::MediumTick), 0.0);
-    QCOMPARE(draw->penWidth(), 2);
+    QCOMPARE(QwtCompat::penWidth(*draw), 2.0);
     QCOMPARE(draw->spacing(), 0.0);
 }
 
@@ -244,7 +246,7 @@ void tst_ZEMMiniDayHistogram::titleStaysEmpty()
     QCOMPARE(chart.title(), QString());
     chart.init();
     QSignalSpy changed(&chart, SIGNAL(changed(ZEMHistogram *)));
-    const QDateTime midnight(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC);
+    const QDateTime midnight(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc());
     chart.setDataChangedTimestamp(midnight);
     QCOMPARE(chart.dataChangedTimestamp, midnight);
     chart.updateTitle(QwtInterval(0.0, 24.0));

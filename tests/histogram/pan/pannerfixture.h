@@ -68,7 +68,7 @@ inline void send(QWidget *widget, QEvent::Type type, const QPoint &pos,
 {
     const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : button;
     const Qt::MouseButton held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
-    QMouseEvent event(type, pos, changed, held, modifiers);
+    QMouseEvent event(type, pos, pos, changed, held, modifiers);
     QCoreApplication::sendEvent(widget, &event);
 }
 

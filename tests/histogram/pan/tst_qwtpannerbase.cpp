@@ -275,8 +275,8 @@ void tst_QwtPannerBase::parentSeesEveryEvent()
     move(ground.get(), QPoint(60, 50));
     release(ground.get(), QPoint(60, 50));
     QCOMPARE(ground->events, 3);
-    QMouseEvent event(QEvent::MouseButtonPress, QPoint(1, 1), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseButtonPress, QPoint(1, 1), QPoint(1, 1), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
     QVERIFY(!panner->eventFilter(ground.get(), &event));
 }
 
@@ -301,8 +301,8 @@ void tst_QwtPannerBase::eventsOfOthersAreIgnored()
 {
     QWidget other;
     Listener listener(ground.get());
-    QMouseEvent event(QEvent::MouseButtonPress, QPoint(50, 50), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseButtonPress, QPoint(50, 50), QPoint(50, 50), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
     QVERIFY(!listener.eventFilter(&other, &event));
     QVERIFY(!listener.eventFilter(nullptr, &event));
     QCOMPARE(listener.log, Log());
@@ -317,8 +317,8 @@ void tst_QwtPannerBase::withoutParent()
     alone.setEnabled(true);
     alone.setCursor(Qt::ClosedHandCursor);
     alone.showCursor(true);
-    QMouseEvent event(QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseButtonPress, QPoint(5, 5), QPoint(5, 5), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
     QVERIFY(!alone.eventFilter(nullptr, &event));
     alone.widgetMousePressEvent(&event);
     alone.setClickDetectInterval(1, UINT_MAX);

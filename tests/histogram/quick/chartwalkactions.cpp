@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QLocale>
+#include <QTimeZone>
 
 namespace ChartWalk {
 
@@ -103,7 +104,8 @@ Actions chartDataActions()
          [](Stage &stage, Random &random) {
              const QDate day = QDate(2020, 1, 1).addDays(upTo(3000, random));
              stage.chart->setDataChangedTimestamp(
-                 upTo(9, random) == 0 ? QDateTime() : QDateTime(day, QTime(0, 0), Qt::UTC));
+                 upTo(9, random) == 0 ? QDateTime()
+                                      : QDateTime(day, QTime(0, 0), QTimeZone::utc()));
              // Without the quick paths the labels stay until the scale is another one.
              forgetLabels(stage.chart);
          }},
