@@ -8,6 +8,7 @@
 #include <QtNumeric>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 /** The whole part of @p value, or the int nearest to it; 0 for not-a-number. */
@@ -21,9 +22,9 @@ inline int truncatedInt(double value)
 /** The int nearest to @p value, halves going up; 0 for not-a-number. The least int is left out. */
 inline int roundedInt(double value)
 {
-    // qRound() takes 1 off what is negative, as an int.
+    // Since Qt 6 negative halves go down in qRound().
     constexpr double limit = std::numeric_limits<int>::max();
-    return qIsNaN(value) ? 0 : qRound(std::clamp(value, -limit, limit));
+    return qIsNaN(value) ? 0 : int(std::floor(std::clamp(value, -limit, limit) + 0.5));
 }
 
 #endif
