@@ -3,8 +3,11 @@
 
 # Compiler settings of every target of this tree; none of them reaches a host that links the library.
 
+# What Qt 5 calls deprecated, and what the newest Qt does that the tree was built against.
+set(deprecated_before_qt5 0x060000)
+set(deprecated_before_qt6 0x060b00)
 add_compile_definitions(
-    QT_DISABLE_DEPRECATED_BEFORE=0x060000
+    QT_DISABLE_DEPRECATED_BEFORE=${deprecated_before_qt${ZEMKIT_QT}}
     QT_NO_KEYWORDS)
 
 add_compile_options(

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The zemkit developers
 # SPDX-License-Identifier: MIT
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+find_package(Qt${ZEMKIT_QT} REQUIRED COMPONENTS Test)
 
 # Seconds after which a test hangs, and milliseconds after which one of its functions does: far more
 # than any takes on a slow and busy machine or under memcheck.
@@ -152,10 +152,10 @@ function(zem_add_test name)
     # A test is one file with its classes in it: moc alone is half the work of AUTOMOC.
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     set(moc_directory "${CMAKE_CURRENT_BINARY_DIR}/moc")
-    qt5_generate_moc(${name}.cpp "${moc_directory}/${name}.moc")
+    qt_generate_moc(${name}.cpp "${moc_directory}/${name}.moc")
     target_sources(${name} PRIVATE "${moc_directory}/${name}.moc")
     target_include_directories(${name} PRIVATE "${moc_directory}")
-    target_link_libraries(${name} PRIVATE zem_test_support Zemkit::Zemkit Qt5::Test ${arg_LIBRARIES})
+    target_link_libraries(${name} PRIVATE zem_test_support Zemkit::Zemkit Qt::Test ${arg_LIBRARIES})
     if(NOT arg_LIBRARIES)
         zem_precompile_headers(${name} ${name}.cpp ${arg_SOURCES})
     endif()
