@@ -166,7 +166,8 @@ void tst_ZEMAnimatedArrows::declaresItsOwn()
     QCOMPARE(metaObject.superClass(), &QWidget::staticMetaObject);
     QCOMPARE(
         ownProperties(metaObject),
-        (QStringList {"direction:Direction", "arrowSize:Size", "speed:Speed", "running:bool"}));
+        (QStringList {"direction:ZEMAnimatedArrows::Direction", "arrowSize:ZEMAnimatedArrows::Size",
+                      "speed:ZEMAnimatedArrows::Speed", "running:bool"}));
     QCOMPARE(ownMethodCount(metaObject), 2);
     for (const char *slot : {"valueChanged(qreal)", "finished()"}) {
         const int index = metaObject.indexOfSlot(slot);

@@ -87,7 +87,8 @@ void tst_ZEMEnergyIcon::declaresItsPropertiesOnly()
     const QMetaObject &metaObject = ZEMEnergyIcon::staticMetaObject;
     QCOMPARE(metaObject.superClass(), &QWidget::staticMetaObject);
     QCOMPARE(ownProperties(metaObject),
-             QStringList({QStringLiteral("useBigIcon:bool"), QStringLiteral("energyType:Type")}));
+             QStringList({QStringLiteral("useBigIcon:bool"),
+                          QStringLiteral("energyType:ZEMEnergyIcon::Type")}));
     QCOMPARE(ownMethodCount(metaObject), 0);
 }
 

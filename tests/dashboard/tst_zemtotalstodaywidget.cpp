@@ -335,7 +335,7 @@ void tst_ZEMTotalsTodayWidget::partsDoNotOverlap()
         QVERIFY(tile.rect().contains(button->geometry()));
         const auto labels = button->findChildren<QLabel *>();
         QCOMPARE(labels.size(), 1);
-        auto *chart = button->findChild<ZEMMiniDayHistogram *>();
+        auto *chart = button->findChild<ZEMHistogram *>();
         const QRect chartRect(chart->mapTo(button, QPoint()), chart->size());
         QVERIFY(!chartRect.intersects(labels[0]->geometry()));
         QVERIFY(!chartRect.intersects(button->findChild<ZEMEnergyIcon *>()->geometry()));

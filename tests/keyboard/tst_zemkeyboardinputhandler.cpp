@@ -38,16 +38,16 @@ void tst_ZEMKeyboardInputHandler::relaysEachCallOnce()
     QSignalSpy search(&handler, &Handler::sigSearch);
     QSignalSpy edited(&handler, &Handler::sigTextEdited);
     const auto counts = [&] {
-        return QVector<int> {select.count(), cancel.count(), search.count(), edited.count()};
+        return QVector<qsizetype> {select.count(), cancel.count(), search.count(), edited.count()};
     };
     handler.emitSelect();
-    QCOMPARE(counts(), QVector<int>({1, 0, 0, 0}));
+    QCOMPARE(counts(), QVector<qsizetype>({1, 0, 0, 0}));
     handler.emitCancel();
-    QCOMPARE(counts(), QVector<int>({1, 1, 0, 0}));
+    QCOMPARE(counts(), QVector<qsizetype>({1, 1, 0, 0}));
     handler.emitSearch();
-    QCOMPARE(counts(), QVector<int>({1, 1, 1, 0}));
+    QCOMPARE(counts(), QVector<qsizetype>({1, 1, 1, 0}));
     handler.emitTextEdited(QStringLiteral("word"));
-    QCOMPARE(counts(), QVector<int>({1, 1, 1, 1}));
+    QCOMPARE(counts(), QVector<qsizetype>({1, 1, 1, 1}));
     QCOMPARE(edited.first(), QVariantList({QStringLiteral("word")}));
 }
 

@@ -61,14 +61,23 @@ private:
     bool exposed = false;
 };
 
+/** The type of a property, enumerations with their class: what Qt itself says depends on its
+ * version. */
+inline QString typeOf(const QMetaProperty &property)
+{
+    const QMetaEnum values = property.enumerator();
+    return property.isEnumType()
+        ? QLatin1String(values.scope()) + QLatin1String("::") + QLatin1String(values.name())
+        : QLatin1String(property.typeName());
+}
+
 /** The properties that a class itself declares, each as "name:type". */
 inline QStringList ownProperties(const QMetaObject &metaObject)
 {
     QStringList properties;
     for (int i = metaObject.propertyOffset(); i < metaObject.propertyCount(); ++i) {
         const QMetaProperty property = metaObject.property(i);
-        properties.append(QLatin1String(property.name()) + QLatin1Char(':')
-                          + QLatin1String(property.typeName()));
+        properties.append(QLatin1String(property.name()) + QLatin1Char(':') + typeOf(property));
     }
     return properties;
 }

@@ -34,7 +34,8 @@
  * chart.replot();
  * @endcode
  * The value axis reaches from 0 to 10 until setValueLimits(). changed(ZEMHistogram *) is never
- * emitted.
+ * emitted. Its meta-object is that of ZEMHistogram: ask findChild() for that class, since the one
+ * of Qt 6 compiles for no other.
  */
 class ZEM_EXPORT ZEMMiniDayHistogram : public ZEMHistogram
 {
