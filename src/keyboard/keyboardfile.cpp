@@ -179,7 +179,7 @@ bool read(const QString &fileName, QDomDocument *document)
     if (!growsLittle(QByteArray(content).replace('\0', QByteArray())) || !isFlatEnough(content)) {
         return false;
     }
-    const QtCompat::XmlFault fault = QtCompat::parse(document, content);
+    const QtCompat::XmlFault fault = QtCompat::parse(document, content, growthLimit);
     if (!fault.message.isEmpty()) {
         reportParseError(fault.line, fault.column, fault.message);
         return false;

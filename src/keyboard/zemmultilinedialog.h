@@ -40,8 +40,8 @@ class ZEMVirtualKeyboard;
  *
  * The result is told by the signals and by the handler. The dialog does not close itself: hide it
  * in answer. A new dialog is 800 by 480 pixels, and fits into 480 with the keys of
- * KeyboardFactoryDefault in four rows and PopupFlip. With PopupAbove its layout needs 489 pixels
- * in the style Fusion, so that it is cut off on a page of 480.
+ * KeyboardFactoryDefault in four rows and PopupFlip. With PopupAbove its layout needs some ten
+ * pixels more in the style Fusion, so that it is cut off on a page of 480.
  *
  * Its texts have the colours of the palette, on a black ground: without ZEMStyle, or another
  * palette with light texts, they cannot be read.

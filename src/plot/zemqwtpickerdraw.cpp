@@ -36,7 +36,7 @@ void ZEMQwtPickerDraw::drawRubberBand(QPainter *painter) const
     if (points.size() != 2) {
         return;
     }
-    const QRect rect = QRect(points.at(0), points.at(1)).normalized();
+    const QRect rect = ZoomGesture::rectBetween(points.at(0), points.at(1));
     QwtPainter::drawRect(painter, ZoomGesture::band(rect));
     if (!isZoomQuadrant(points.at(0), points.at(1))) {
         for (const QLineF &line : ZoomGesture::cross(rect)) {

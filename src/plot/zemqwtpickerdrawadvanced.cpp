@@ -62,6 +62,6 @@ void ZEMQwtPickerDrawAdvanced::drawRubberBand(QPainter *painter) const
     // The zoomer sets direction and origin while it answers this question.
     const QPolygon points = picker() ? picker()->selection() : QPolygon();
     if (points.size() == 2 && isZoomQuadrant(points.at(0), points.at(1))) {
-        d->drawTicks(painter, QRect(points.at(0), points.at(1)).normalized());
+        d->drawTicks(painter, ZoomGesture::rectBetween(points.at(0), points.at(1)));
     }
 }

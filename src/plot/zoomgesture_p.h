@@ -38,10 +38,25 @@ inline bool isZoom(const QPoint &start, const QPoint &end)
     return end.x() >= start.x() || end.y() >= start.y();
 }
 
+/** What QRect::normalized() was until Qt 6, which takes the two corners out of the rectangle. */
+inline QRect rectBetween(const QPoint &start, const QPoint &end)
+{
+    QRect rect(start, end);
+    if (end.x() < start.x() - 1) {
+        rect.setLeft(end.x());
+        rect.setRight(start.x());
+    }
+    if (end.y() < start.y() - 1) {
+        rect.setTop(end.y());
+        rect.setBottom(start.y());
+    }
+    return rect;
+}
+
 /** Whether a selection is long enough in one direction at least. */
 inline bool hasExtent(const QPoint &start, const QPoint &end)
 {
-    const QRect rect = QRect(start, end).normalized();
+    const QRect rect = rectBetween(start, end);
     return rect.right() - rect.left() > 0 || rect.bottom() - rect.top() > 0;
 }
 

@@ -47,7 +47,9 @@ void tst_KeyboardHeaders::multiLineDialogOnAPage()
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     KeyboardFactoryDefault keyboards(QStringLiteral(KEYBOARDS_DIR), QStringLiteral("nl"));
     const ZEMMultiLineDialog above(keyboards.createKeyboard(Intf::PopupAbove));
-    QCOMPARE(above.minimumSizeHint().height(), 489);
+    // How tall a line of text is depends on Qt and its fonts.
+    const int needed = above.minimumSizeHint().height();
+    QVERIFY2(needed >= 485 && needed <= 495, qPrintable(QString::number(needed)));
     const ZEMMultiLineDialog flip(keyboards.createKeyboard(Intf::PopupFlip));
     QVERIFY(flip.minimumSizeHint().height() <= 480);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "keyboardloader.h"
+#include "qtcompat.h"
 #include "zemtest.h"
 
 #include <KeyboardFactoryDefault>
@@ -42,13 +43,18 @@ void tst_StrangeKeyboards::refusals_data()
     const auto root = [](const char *name, const QByteArray &content) {
         QTest::newRow(name) << content << QStringLiteral("Error: Not a keyboard file");
     };
-    parse("empty", "", "1 ,  column  1 :  \"unexpected end of file\"");
-    parse("blank", " \n ", "2 ,  column  2 :  ");
+    // The parser of Qt 6 says otherwise where it was, and what it found.
+    parse("empty", "",
+          QtCompat::words("1 ,  column  1 :  \"unexpected end of file\"",
+                          "1 ,  column  0 :  \"Premature end of document.\""));
+    parse("blank", " \n ", QtCompat::words("2 ,  column  2 :  ", "1 ,  column  0 :  "));
     parse("no XML", "keyboard", "1 ,  column  ");
     parse("cut off", "<keyboard>\n<layout id='0'>",
-          "2 ,  column  16 :  \"unexpected end of file\"");
+          QtCompat::words("2 ,  column  16 :  \"unexpected end of file\"",
+                          "2 ,  column  15 :  \"Premature end of document.\""));
     parse("tags that do not match", "<keyboard>\n\n<a></b></keyboard>",
-          "3 ,  column  7 :  \"tag mismatch\"");
+          QtCompat::words("3 ,  column  7 :  \"tag mismatch\"",
+                          "3 ,  column  7 :  \"Opening and ending tag mismatch.\""));
     parse("two roots", "<keyboard/><keyboard/>", "1 ,  column  ");
     parse("no quotes", "<keyboard popup=0/>", "1 ,  column  ");
     parse("zero bytes", QByteArray(4096, '\0'), "1 ,  column  ");

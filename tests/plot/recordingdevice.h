@@ -147,8 +147,9 @@ protected:
             return 1;
         case PdmDevicePixelRatioScaled:
             return static_cast<int>(devicePixelRatioFScale());
+        default: // Qt 6 has more
+            return QPaintDevice::metric(metric);
         }
-        return 0;
     }
 
 private:

@@ -9,6 +9,7 @@
 #include "zemtest.h"
 
 #include <QMetaMethod>
+#include <QPainter>
 #include <QSignalSpy>
 
 #include <qwt_plot_panner.h>

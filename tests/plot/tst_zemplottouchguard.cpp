@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStack>
 
 #include <qwt_scale_div.h>
 

@@ -8,8 +8,11 @@
 #include "plotfixture.h"
 #include "zemtest.h"
 
+#include <QPainter>
+#include <QPen>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStack>
 
 #include <qwt_scale_div.h>
 #include <qwt_scale_map.h>

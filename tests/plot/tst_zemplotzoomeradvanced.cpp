@@ -10,6 +10,7 @@
 
 #include <QPainter>
 #include <QSignalSpy>
+#include <QStack>
 
 #include <qwt_scale_div.h>
 

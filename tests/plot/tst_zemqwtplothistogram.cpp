@@ -4,14 +4,15 @@
 #include <ZEMQwtPlotHistogram>
 
 #include "countingplot.h"
+#include "qwtcompat_p.h"
 #include "recordingdevice.h"
 #include "zemtest.h"
 
 #include <QPainter>
 #include <QTest>
 
-#include <qwt_clipper.h>
 #include <qwt_plot.h>
+#include <qwt_scale_map.h>
 #include <qwt_text.h>
 
 #include <limits>
@@ -245,8 +246,7 @@ void tst_ZEMQwtPlotHistogram::clipIsWidenedByThePen()
                   << QPointF(x + 50, -90);
     }
     const QRectF clip = canvas.adjusted(-widening, -widening, widening, widening);
-    QCOMPARE(device.points(Drawn::Polyline).first(),
-             QwtClipper::clipPolygonF(clip, unclipped, false));
+    QCOMPARE(device.points(Drawn::Polyline).first(), QwtCompat::clipped(clip, unclipped));
     QCOMPARE(device.points(Drawn::Polyline).first().boundingRect().top(), -20 - widening);
 }
 

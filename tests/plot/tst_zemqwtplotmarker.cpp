@@ -13,6 +13,7 @@
 
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
+#include <qwt_scale_map.h>
 #include <qwt_text.h>
 
 #include <climits>

@@ -3,7 +3,9 @@
 
 #include "plotfixture.h"
 
+#include <QPen>
 #include <QSignalSpy>
+#include <QStack>
 
 #include <qwt_scale_div.h>
 

@@ -18,11 +18,22 @@ inline QStringList fontFamilies()
     return QFontDatabase().families();
 }
 
+/** One of two texts, where Qt itself writes another since Qt 6. */
+constexpr const char *words(const char *ofQt5, const char * /*ofQt6*/)
+{
+    return ofQt5;
+}
+
 #else
 
 inline QStringList fontFamilies()
 {
     return QFontDatabase::families();
+}
+
+constexpr const char *words(const char * /*ofQt5*/, const char *ofQt6)
+{
+    return ofQt6;
 }
 
 #endif

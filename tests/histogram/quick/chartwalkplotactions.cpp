@@ -5,6 +5,7 @@
 #undef QT_DISABLE_DEPRECATED_BEFORE
 
 #include "chartwalkactions.h"
+#include "qwtcompat_p.h"
 
 #include <ZEMScaleDraw>
 #include <ZEMScaleEngine>
@@ -270,7 +271,7 @@ Actions scaleDrawActions()
          }},
         {"draw: width of ticks",
          [](Stage &stage, Random &random) {
-             anyDraw(stage, random)->setPenWidth(upTo(3, random));
+             QwtCompat::setPenWidth(anyDraw(stage, random), upTo(3, random));
          }},
         {"draw: component",
          [](Stage &stage, Random &random) {

@@ -3,6 +3,7 @@
 
 #include "paintcounter.h"
 #include "quickpathsfixture.h"
+#include "qwtcompat_p.h"
 
 #include <QImage>
 #include <QLocale>
@@ -476,8 +477,9 @@ void tst_QuickPaths::changeShowsAtOnce_data()
     QTest::newRow("length of ticks") << Change([scale](Stage &stage) {
         scale(stage, QwtPlot::xBottom)->scaleDraw()->setTickLength(QwtScaleDiv::MediumTick, 11.0);
     });
-    QTest::newRow("width of ticks") << Change(
-        [scale](Stage &stage) { scale(stage, QwtPlot::xBottom)->scaleDraw()->setPenWidth(3); });
+    QTest::newRow("width of ticks") << Change([scale](Stage &stage) {
+        QwtCompat::setPenWidth(scale(stage, QwtPlot::xBottom)->scaleDraw(), 3);
+    });
     QTest::newRow("second value axis") << Change([](Stage &stage) {
         stage.plot()->setAxisScale(QwtPlot::yRight, 0.0, 5000.0);
         stage.plot()->enableAxis(QwtPlot::yRight);
