@@ -150,7 +150,8 @@ function(zem_add_test name)
     endif()
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
     # A test is one file with its classes in it: moc alone is half the work of AUTOMOC.
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    # With Qt 6 the folder of a test is a definition, which would keep it from sharing headers.
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF QT_SKIP_DEFAULT_TESTCASE_DIRS ON)
     set(moc_directory "${CMAKE_CURRENT_BINARY_DIR}/moc")
     qt_generate_moc(${name}.cpp "${moc_directory}/${name}.moc")
     target_sources(${name} PRIVATE "${moc_directory}/${name}.moc")

@@ -9,6 +9,8 @@
 
 #include <QTest>
 
+#include <qwt_scale_map.h>
+
 #include <memory>
 #include <type_traits>
 
