@@ -72,7 +72,21 @@ void ZEMPlotZoomer::zoom(const QRectF &rect)
 
 void ZEMPlotZoomer::zoom(int up)
 {
+    // Since 6.2 Qwt does nothing where the view stays the same one; what was panned is to come
+    // back.
+    const QPointer<QObject> self(this);
+    bool isTold = false;
+    const auto listening =
+        connect(this, &QwtPlotZoomer::zoomed, this, [&isTold] { isTold = true; });
     QwtPlotZoomer::zoom(up);
+    if (!self) {
+        return;
+    }
+    disconnect(listening);
+    if (!isTold) {
+        rescale();
+        Q_EMIT zoomed(zoomRect());
+    }
 }
 
 void ZEMPlotZoomer::begin()

@@ -138,7 +138,7 @@ void tst_ZEMScaleEngine::unusableStepsGiveFewTicksOrTheLimit_data()
 void tst_ZEMScaleEngine::unusableStepsGiveFewTicksOrTheLimit()
 {
     QFETCH(double, step);
-    QTEST(ZEMScaleEngine(0.5).buildMajorTicks(QwtInterval(0.0, 7.0), step).size(), "ticks");
+    QTEST(int(ZEMScaleEngine(0.5).buildMajorTicks(QwtInterval(0.0, 7.0), step).size()), "ticks");
 }
 
 void tst_ZEMScaleEngine::weekIsDividedInItsMiddles()
