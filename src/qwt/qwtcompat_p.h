@@ -32,6 +32,10 @@ inline QPolygonF clipped(const QRectF &clip, const QPolygonF &polygon)
     return QwtClipper::clipPolygonF(clip, polygon, false);
 }
 
+/** Pixels that a thin tick of a left scale begins to the right of its end: since 6.2 that end is
+ * left out. */
+constexpr int leftTickShift = 0;
+
 #else
 
 inline double penWidth(const QwtAbstractScaleDraw &draw)
@@ -48,6 +52,8 @@ inline QPolygonF clipped(const QRectF &clip, const QPolygonF &polygon)
 {
     return QwtClipper::clippedPolygonF(clip, polygon, false);
 }
+
+constexpr int leftTickShift = 1;
 
 #endif
 

@@ -84,7 +84,7 @@ inline std::optional<QRect> tickRect(const QwtScaleDraw &draw, double value, dou
     switch (draw.alignment()) {
     case QwtScaleDraw::LeftScale: {
         const int from = qRound(draw.pos().x() - length);
-        return QRect(from, position, qRound(draw.pos().x()) - from, 1);
+        return QRect(from + QwtCompat::leftTickShift, position, qRound(draw.pos().x()) - from, 1);
     }
     case QwtScaleDraw::BottomScale: {
         const int from = qRound(draw.pos().y());
