@@ -5,6 +5,7 @@
 
 #include "chartvalues.h"
 #include "household.h"
+#include "viewtexts.h"
 
 #include <QLocale>
 
@@ -90,13 +91,7 @@ QVariant MonthsTable::data(const QModelIndex &index, int role) const
         return QLocale().toString(row.month, QStringLiteral("MMM yyyy"));
     }
     const auto column = std::size_t(index.column() - 1);
-    const std::optional<Readings::Measured> &total = row.totals.at(column);
-    if (!total) {
-        return QStringLiteral("–");
-    }
-    const QString amount =
-        QLocale().toString(total->amount, 'f', decimalsOf(quantities.at(column)));
-    return total->isComplete ? amount : QStringLiteral("≥ %1").arg(amount);
+    return ViewTexts::number(row.totals.at(column), decimalsOf(quantities.at(column)));
 }
 
 QVariant MonthsTable::headerData(int section, Qt::Orientation orientation, int role) const

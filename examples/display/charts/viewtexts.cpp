@@ -47,16 +47,23 @@ QString slotName(Period period, const QDate &newestWindow, int slot)
         .arg(date.year());
 }
 
-QString amount(const std::optional<Readings::Measured> &measured, const QString &unit)
+QString number(const std::optional<Readings::Measured> &measured, int decimals)
 {
     if (!measured) {
         return QStringLiteral("–");
     }
+    const QString text = QLocale().toString(measured->amount, 'f', decimals);
+    return measured->isComplete ? text : QStringLiteral("≥ %1").arg(text);
+}
+
+QString amount(const std::optional<Readings::Measured> &measured, const QString &unit)
+{
+    if (!measured) {
+        return number(measured, 0);
+    }
     // Heat comes in GJ, of which an hour has few.
     const int decimals = unit == QLatin1String("GJ") ? 3 : measured->amount < manyDigits ? 2 : 1;
-    const QString text =
-        QStringLiteral("%1 %2").arg(QLocale().toString(measured->amount, 'f', decimals), unit);
-    return measured->isComplete ? text : QStringLiteral("≥ %1").arg(text);
+    return QStringLiteral("%1 %2").arg(number(measured, decimals), unit);
 }
 
 } // namespace ViewTexts

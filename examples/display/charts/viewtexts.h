@@ -17,6 +17,9 @@ namespace ViewTexts {
 /** The slot by its date: "wo 9 mrt., 14:00 – 15:00", "week van 7 mrt. 2016", "maart 2016". */
 QString slotName(Period period, const QDate &newestWindow, int slot);
 
+/** "12,3", "≥ 12,3" of which a part is not known, "–" of nothing. */
+QString number(const std::optional<Readings::Measured> &measured, int decimals);
+
 /** "12,3 kWh", "≥ 12,3 kWh" of which a part is not known, "–" of nothing. */
 QString amount(const std::optional<Readings::Measured> &measured, const QString &unit);
 

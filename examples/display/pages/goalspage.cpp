@@ -8,6 +8,7 @@
 #include "energysource.h"
 #include "inputdialogs.h"
 #include "pagelook.h"
+#include "viewtexts.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -48,12 +49,8 @@ QWidget *makeCard(ZEMTextLabel **caption, QVBoxLayout **rows)
 
 QString ofBudget(const std::optional<Readings::Measured> &used, double budget)
 {
-    const QLocale locale;
-    QString amount = used ? locale.toString(used->amount, 'f', 1) : QStringLiteral("–");
-    if (used && !used->isComplete) {
-        amount.prepend(QStringLiteral("≥ "));
-    }
-    return GoalsPage::tr("%1 van %2 kWh").arg(amount, locale.toString(budget, 'f', 1));
+    return GoalsPage::tr("%1 van %2 kWh")
+        .arg(ViewTexts::number(used, 1), QLocale().toString(budget, 'f', 1));
 }
 
 QString nameOf(Profile profile)
