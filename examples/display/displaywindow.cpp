@@ -57,7 +57,8 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
         addMessage(withPlaceBehind(problem));
     }
     connect(&source, &EnergySource::problem, this, &DisplayWindow::addMessage);
-    connect(settings, &DisplaySettings::problem, this, &DisplayWindow::addMessage);
+    connect(settings, &DisplaySettings::problem, this,
+            [this](const QString &line) { addMessage(line); });
     connect(&source, &EnergySource::meteringChanged, this, [this](bool metering) {
         addMessage(metering ? tr("De meter is er weer.") : tr("De meter zwijgt."));
     });
@@ -113,9 +114,9 @@ void DisplayWindow::withdrawOverlays()
     menu->hide();
 }
 
-void DisplayWindow::addMessage(const QString &message)
+void DisplayWindow::addMessage(const QString &message, const QString &kind)
 {
-    messages.add(message, shownSource.now());
+    messages.add(message, shownSource.now(), kind);
 }
 
 void DisplayWindow::makePages(const EnergySource &source)

@@ -59,7 +59,8 @@ Q_SIGNALS:
     void standbyChanged(bool isDark);
 
 public Q_SLOTS:
-    void addMessage(const QString &message);
+    /** Adds to the messages what happened now; @p kind as told at MessageList::add(). */
+    void addMessage(const QString &message, const QString &kind = QString());
 
 private:
     void makePages(const EnergySource &source);

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void menuLeadsToEveryPage();
     void standbyIsDarkUntilATouch();
     void messagesAreCountedUntilSeen();
+    void messagesOfOneKindAreOneLine();
     void bellWarnsWhileTheMeterIsSilent();
     void headerTellsTimeAndPlace();
     void simulatedHouseSaysSoOnEveryPage();
@@ -195,6 +196,25 @@ void tst_DisplayWindow::messagesAreCountedUntilSeen()
              QStringLiteral("9 mrt. 14:05  a broken row (readings.csv:12)"));
     PlayedDisplay::tap(list->findChild<ZEMButton *>(QStringLiteral("btnCancel")));
     ZEM_TRY_VERIFY(!display.overlay<ZEMListView>());
+}
+
+void tst_DisplayWindow::messagesOfOneKindAreOneLine()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    Q_EMIT source->problem(QStringLiteral("another meter"));
+    for (int i = 1; i <= 300; ++i) {
+        Q_EMIT source->problem(QStringLiteral("telegram %1 is dropped").arg(i),
+                               QStringLiteral("telegram"));
+    }
+    auto *bell = display.window.currentWidget()->findChild<ZEMNotificationButton *>();
+    QCOMPARE(bell->getNotifyCount(), 2);
+    PlayedDisplay::tap(bell);
+    auto *list = display.overlay<ZEMListView>();
+    QVERIFY(list);
+    QCOMPARE(list->data(0).toString(),
+             QStringLiteral("9 mrt. 14:05  300×  telegram 300 is dropped"));
+    QCOMPARE(list->data(1).toString(), QStringLiteral("9 mrt. 14:05  another meter"));
 }
 
 void tst_DisplayWindow::bellWarnsWhileTheMeterIsSilent()

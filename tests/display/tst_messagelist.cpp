@@ -17,6 +17,7 @@ private Q_SLOTS:
     void initTestCase();
     void newestComesFirst();
     void sameAgainIsCounted();
+    void oneKindIsOneLine();
     void unseenAreCounted();
     void oldestAreDropped();
     void wholeTextTellsWhen();
@@ -68,6 +69,24 @@ void tst_MessageList::sameAgainIsCounted()
     list.add(QStringLiteral("once"), noon.addDays(2));
     QCOMPARE(linesOf(list).constFirst(), QStringLiteral("11 mrt. 12:00  2×  once"));
     QCOMPARE(list.rowCount(), 3);
+}
+
+void tst_MessageList::oneKindIsOneLine()
+{
+    MessageList list;
+    const QAbstractItemModelTester tester(&list);
+    list.add(QStringLiteral("the meter was replaced"), noon);
+    for (int i = 1; i <= 2 * MessageList::most; ++i) {
+        list.add(QStringLiteral("telegram %1 is dropped").arg(i), noon.addSecs(i),
+                 QStringLiteral("telegram"));
+    }
+    QCOMPARE(linesOf(list),
+             (QStringList {QStringLiteral("9 mrt. 12:06  400×  telegram 400 is dropped"),
+                           QStringLiteral("9 mrt. 12:00  the meter was replaced")}));
+    QCOMPARE(list.unseen(), 2);
+    QCOMPARE(list.wholeText(0),
+             QStringLiteral("<p>telegram 400 is dropped</p>"
+                            "<p>400 keer, van 9 mrt. 12:00 tot 9 mrt. 12:06</p>"));
 }
 
 void tst_MessageList::unseenAreCounted()

@@ -256,6 +256,9 @@ void tst_P1Source::eachBadTelegramIsNamedOnce()
                  start.arg(7).arg(QStringLiteral("its beginning is missing")),
                  start.arg(8).arg(QStringLiteral("it does not end within 16384 bytes")),
              }));
+    for (const QList<QVariant> &told : problems) {
+        QCOMPARE(told.at(1).toString(), QStringLiteral("telegram"));
+    }
 }
 
 void tst_P1Source::manyBadTelegramsAreNotAllNamed()
@@ -273,6 +276,8 @@ void tst_P1Source::manyBadTelegramsAreNotAllNamed()
     QCOMPARE(source.droppedCount(), 101);
     QCOMPARE(problems.count(), P1Source::mostNamed + 1 + 1);
     QVERIFY(linesOf(problems).constLast().contains(QLatin1String("telegram 102 is dropped")));
+    // What is told in words that do not change needs no kind.
+    QCOMPARE(problems.at(P1Source::mostNamed).at(1).toString(), QString());
 }
 
 void tst_P1Source::realStream()

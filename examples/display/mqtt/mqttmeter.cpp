@@ -95,7 +95,8 @@ void MqttMeter::handleLoss(const QString &reason)
     if (reason != lastLoss) {
         lastLoss = reason;
         tell(connected ? tr("the connection was lost: %1").arg(reason)
-                       : tr("cannot be connected to: %1").arg(reason));
+                       : tr("cannot be connected to: %1").arg(reason),
+             QStringLiteral("connection"));
     }
     if (connected) {
         connected = false;
@@ -145,7 +146,8 @@ void MqttMeter::tellUnreadable()
     tell(told == 1 ? tr("a message cannot be read: %1").arg(readings.lastUnreadable())
                    : tr("%1 messages cannot be read, the last one: %2")
                          .arg(told)
-                         .arg(readings.lastUnreadable()));
+                         .arg(readings.lastUnreadable()),
+         QStringLiteral("message"));
 }
 
 void MqttMeter::fail()
@@ -156,7 +158,7 @@ void MqttMeter::fail()
     }
 }
 
-void MqttMeter::tell(const QString &what)
+void MqttMeter::tell(const QString &what, const QString &kind)
 {
-    Q_EMIT problem(QStringLiteral("%1: %2").arg(name, what));
+    Q_EMIT problem(QStringLiteral("%1: %2").arg(name, what), kind);
 }

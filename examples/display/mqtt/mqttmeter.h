@@ -65,7 +65,7 @@ private:
     void handlePatience();
     void tellUnreadable();
     void fail();
-    void tell(const QString &what);
+    void tell(const QString &what, const QString &kind = QString());
 
     const QString name; ///< of the broker, in messages
     const QString mappingName;

@@ -42,8 +42,11 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** Good readings, of one moment. */
     void telegram(const P1Telegram &telegram);
-    /** One line in English: "ADDRESS: what is wrong". */
-    void problem(const QString &line);
+    /**
+     * One line: "ADDRESS: what is wrong". Lines of one @p kind are news of the same thing, of which
+     * the last is worth reading; a line without one is of its own kind.
+     */
+    void problem(const QString &line, const QString &kind = QString());
     /**
      * True when nothing good has come for long, false with the next good thing, just before
      * telegram(). Only changes are told, and in the beginning it has not failed.

@@ -99,7 +99,8 @@ P1Source::P1Source(const QString &meterAddress, const P1Settings &settings, QObj
     connect(link.get(), &P1Link::received, this,
             [this](const QByteArray &bytes) { take(splitter.add(bytes)); });
     connect(link.get(), &P1Link::interrupted, this, [this] { take(splitter.finish()); });
-    connect(link.get(), &P1Link::problem, this, &P1Source::tell);
+    connect(link.get(), &P1Link::problem, this,
+            [this](const QString &what) { tell(what, QStringLiteral("connection")); });
     connect(link.get(), &P1Link::ended, this, &P1Source::handleEnd);
 }
 
@@ -144,17 +145,18 @@ void P1Source::drop(const QString &reason)
     ++dropped;
     ++droppedInARow;
     if (droppedInARow <= mostNamed) {
-        tell(tr("telegram %1 is dropped: %2").arg(good + dropped).arg(reason));
+        tell(tr("telegram %1 is dropped: %2").arg(good + dropped).arg(reason),
+             QStringLiteral("telegram"));
     }
     if (droppedInARow == mostNamed) {
         tell(tr("no more are named until a good one comes"));
     }
 }
 
-void P1Source::tell(const QString &what)
+void P1Source::tell(const QString &what, const QString &kind)
 {
     hasTold = true;
-    Q_EMIT problem(QStringLiteral("%1: %2").arg(address, what));
+    Q_EMIT problem(QStringLiteral("%1: %2").arg(address, what), kind);
 }
 
 void P1Source::handleSilence()

@@ -88,7 +88,7 @@ private:
     void take(const std::vector<P1Splitter::Piece> &pieces);
     void take(const P1Telegram &telegram);
     void drop(const QString &reason);
-    void tell(const QString &what);
+    void tell(const QString &what, const QString &kind = QString());
     void handleSilence();
     void handleEnd();
 

@@ -42,11 +42,11 @@ QString MessageList::wholeText(int row) const
     return QStringLiteral("<p>%1</p><p>%2</p>").arg(message.text.toHtmlEscaped(), when);
 }
 
-void MessageList::add(const QString &message, const QDateTime &when)
+void MessageList::add(const QString &message, const QDateTime &when, const QString &kind)
 {
-    Message added {message, when, when};
+    Message added {message, kind.isEmpty() ? message : kind, when, when};
     const auto same = std::find_if(messages.begin(), messages.end(),
-                                   [&](const Message &each) { return each.text == message; });
+                                   [&](const Message &each) { return each.kind == added.kind; });
     if (same != messages.end()) {
         added.first = same->first;
         added.count = same->count + 1;

@@ -11,8 +11,8 @@
 
 /**
  * The messages to the people of the house, newest first, and how many of them were not seen yet.
- * Each has its time. One that comes again is the newest, and counted, so that what is told a
- * hundred times a day does not bury what is told once.
+ * Each has its time. One that comes again is the newest, and counted, and so is one of the same
+ * kind with other words: what is told a hundred times a day must not bury what is told once.
  */
 class MessageList : public QAbstractListModel
 {
@@ -29,12 +29,15 @@ public:
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     /** Qt::DisplayRole: one line, "9 mrt. 14:05  3×  the text". */
     QVariant data(const QModelIndex &index, int role) const override;
-    /** The text of a row, and below it when it came, first and last, and how often. */
+    /** The text of a row, the last of its kind, and below it when they came and how often. */
     QString wholeText(int row) const;
 
 public Q_SLOTS:
-    /** @p when is by the clock of the house. */
-    void add(const QString &message, const QDateTime &when);
+    /**
+     * @p when is by the clock of the house. @p kind is any name that messages of one kind share;
+     * without one, a message is of a kind with those that have the same text.
+     */
+    void add(const QString &message, const QDateTime &when, const QString &kind = QString());
     /** All messages were seen. */
     void markSeen();
 
@@ -46,6 +49,7 @@ private:
     struct Message
     {
         QString text;
+        QString kind;
         QDateTime first;
         QDateTime last;
         int count = 1;

@@ -90,8 +90,11 @@ Q_SIGNALS:
     /** The meters counted on: the charts have more to show. */
     void historyChanged();
     void meteringChanged(bool metering);
-    /** Something is wrong, told in one line. */
-    void problem(const QString &line);
+    /**
+     * Something is wrong, told in one line. Lines of one @p kind are news of the same thing, of
+     * which the last is worth reading; a line without one is of its own kind.
+     */
+    void problem(const QString &line, const QString &kind = QString());
 };
 
 #endif

@@ -36,7 +36,8 @@ MeterSource::MeterSource(std::unique_ptr<LiveMeter> liveMeter, const QString &hi
       recorder(&readings, listenerOf(keeper.get())), meter(std::move(liveMeter))
 {
     if (keeper) {
-        connect(keeper.get(), &HistoryKeeper::problem, this, &MeterSource::problem);
+        connect(keeper.get(), &HistoryKeeper::problem, this,
+                [this](const QString &line) { Q_EMIT problem(line); });
     }
     connect(meter.get(), &LiveMeter::telegram, this, &MeterSource::take);
     connect(meter.get(), &LiveMeter::problem, this, &MeterSource::problem);
