@@ -44,6 +44,15 @@ public:
         Q_EMIT telegram(told);
     }
 
+    /** The counter at an instant, by a meter that is heard each hour. */
+    void count(qint64 instant, double kWh)
+    {
+        P1Telegram told;
+        told.instant = instant;
+        told.readings = {{importLow, kWh, {}}};
+        Q_EMIT telegram(told);
+    }
+
 private:
     HousePower house;
 };
@@ -65,6 +74,7 @@ private Q_SLOTS:
     void panelsWithAMeterMakeConsumptionExact();
     void panelsWithoutAMeterHideTheConsumption();
     void powerThatIsNotToldIsNotKnown();
+    void replacedMeterIsToldOnce();
 
 private:
     /** Plays telegrams from @p from to @p to into a source that is then gone. */
@@ -217,6 +227,40 @@ void tst_MeterSource::powerThatIsNotToldIsNotKnown()
     QCOMPARE(source.power()->consumption, 250.0);
     meter->tell(std::nullopt);
     QVERIFY(!source.power());
+}
+
+void tst_MeterSource::replacedMeterIsToldOnce()
+{
+    const QString history = historyDirectory();
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    {
+        MeterSource source(std::move(told), history);
+        QSignalSpy problems(&source, &MeterSource::problem);
+        source.prepare();
+        source.start();
+        meter->count(ten, 1000.0);
+        meter->count(ten + hour, 1000.5);
+        QCOMPARE(problems.count(), 0);
+        meter->count(ten + 2 * hour, 3.0);
+        meter->count(ten + 3 * hour, 3.25);
+        QCOMPARE(problems.count(), 1);
+        QCOMPARE(problems.constFirst().constFirst().toString(),
+                 QStringLiteral("electricity import (low tariff): the meter goes on at 3.000 kWh, "
+                                "which does not follow from before: it is another one, or was "
+                                "reset"));
+        meter->count(ten + 4 * hour, 3.5);
+        QCOMPARE(problems.count(), 1);
+    }
+
+    auto next = std::make_unique<ToldMeter>();
+    meter = next.get();
+    MeterSource source(std::move(next), history);
+    QSignalSpy problems(&source, &MeterSource::problem);
+    source.prepare();
+    source.start();
+    meter->count(ten + 5 * hour, 3.75);
+    QCOMPARE(problems.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_MeterSource)

@@ -64,6 +64,7 @@ void MeterSource::start()
 {
     meter->goOnFrom(readings);
     meter->start();
+    breaks.start(readings);
 }
 
 std::optional<PowerReport> MeterSource::power() const
@@ -118,3 +119,6 @@ void MeterSource::take(const P1Telegram &telegram)
         Q_EMIT historyChanged();
     }
 }
+        for (const QString &line : breaks.news(readings, now)) {
+            Q_EMIT problem(line);
+        }

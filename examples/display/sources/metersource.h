@@ -4,6 +4,7 @@
 #ifndef METERSOURCE_H
 #define METERSOURCE_H
 
+#include "breakwatch.h"
 #include "energysource.h"
 #include "historykeeper.h"
 #include "livemeter.h"
@@ -56,6 +57,7 @@ private:
     const std::unique_ptr<HistoryKeeper> keeper;
     P1Recorder recorder;
     const std::unique_ptr<LiveMeter> meter;
+    Readings::BreakWatch breaks;
     double mostProduced = 0.0; ///< watts; without a meter of the panels, what was delivered
     qint64 knownStep = 0;
 };
