@@ -9,6 +9,7 @@
 #include "historytransfer.h"
 #include "housesource.h"
 #include "keyboardfiles.h"
+#include "language.h"
 #include "metersource.h"
 #include "mqttmeter.h"
 #include "options.h"
@@ -190,8 +191,7 @@ int main(int argc, char *argv[])
     }
     const QApplication application(argc, argv);
     nameApplication();
-    // The texts are Dutch, and so are the dates and numbers in them.
-    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    Language::speakDutch();
     setLook();
 
     const QStringList problems = KeyboardFiles::problemsIn(keyboardDirectory());

@@ -294,7 +294,7 @@ void tst_DisplayProgram::unknownTimeZoneIsNamed()
     before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
     QCOMPARE(result.status, 0);
     QVERIFY2(result.errors.contains(
-                 QStringLiteral("this system does not know the time zone Mars/Olympus")),
+                 QStringLiteral("dit systeem kent de tijdzone Mars/Olympus niet")),
              qPrintable(result.errors));
 }
 

@@ -176,11 +176,11 @@ void tst_MqttDisplay::troubleIsTold()
     display.setReadChannel(QProcess::StandardError);
     display.start(QStringLiteral(DISPLAY_PROGRAM), arguments);
     QByteArray errors;
-    while (!errors.contains("cannot be connected to")) {
+    while (!errors.contains("er komt geen verbinding tot stand")) {
         QVERIFY(display.waitForReadyRead(ZemTest::hangs));
         errors += display.readAllStandardError();
     }
-    QVERIFY2(errors.contains(broker->url().toUtf8() + ": cannot be connected to: "),
+    QVERIFY2(errors.contains(broker->url().toUtf8() + ": er komt geen verbinding tot stand: "),
              errors.constData());
     QVERIFY(!errors.contains("secret"));
     display.kill();

@@ -167,7 +167,7 @@ void tst_Profile::quantitiesHaveUnitsAndLimits()
             const Quantity quantity = column.meterRegister.quantity;
             QCOMPARE(quantityInfo(quantity).quantity, quantity);
             QVERIFY(quantityInfo(quantity).mostPerHour > 0.0);
-            QVERIFY(!quantityInfo(quantity).name.isEmpty());
+            QVERIFY(!quantityName(quantity).isEmpty());
         }
     }
     QCOMPARE(quantityInfo(Quantity::GridImport).unit, QStringLiteral("kWh"));

@@ -258,7 +258,7 @@ void tst_SimulatedHouse::yearsArePlausible()
         const auto verify = [&](Quantity quantity, double least, double most) {
             const double amount = amountOf(household, quantity, first, end);
             if (amount < least || amount > most) {
-                qInfo("%s in %d: %f", qPrintable(quantityInfo(quantity).name), year, amount);
+                qInfo("%s in %d: %f", quantityInfo(quantity).name, year, amount);
                 return false;
             }
             return true;

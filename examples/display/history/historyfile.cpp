@@ -99,7 +99,8 @@ Trouble HistoryFile::open(const QString &path)
     }
     if (found > version) {
         return fail(Trouble::Newer,
-                    QStringLiteral("it has version %1, and %2 is the newest known here")
+                    QCoreApplication::translate(
+                        "HistoryFile", "it has version %1, and %2 is the newest known here")
                         .arg(found)
                         .arg(version));
     }

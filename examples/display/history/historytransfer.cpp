@@ -46,7 +46,7 @@ QString contradiction(const Household &known, const Household &files)
         for (const auto &[there, itsMeter] : known.meters) {
             if (added.quantity == there.quantity
                 && (added.tariff == Tariff::Single) != (there.tariff == Tariff::Single)) {
-                return Readings::quantityInfo(added.quantity).name;
+                return Readings::quantityName(added.quantity);
             }
         }
     }

@@ -7,6 +7,7 @@
 #include "mqttpayload.h"
 #include "problemlist.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -195,8 +196,9 @@ void MqttReadings::takeValue(const MqttSource &source, Told &told, const MqttMes
     const bool isUnknown = answer.kind == MqttAnswer::Kind::Unknown;
     if (!isUnknown && (!number || (isRegister && *number < 0.0))) {
         note(message,
-             isRegister && number ? QStringLiteral("a counter is not below 0")
-                                  : QStringLiteral("there is no number"));
+             isRegister && number
+                 ? QCoreApplication::translate("MqttReadings", "a counter is not below 0")
+                 : QCoreApplication::translate("MqttReadings", "there is no number"));
         return;
     }
     heard = true;
@@ -227,7 +229,8 @@ void MqttReadings::takeUnit(const MqttSource &source, MqttUnit unit, Told &told,
     told.factor = mqttFactor(QString::fromUtf8(answer.text), unit);
     pending = true;
     if (!told.factor) {
-        note(message, QStringLiteral("that is no unit of what is mapped"));
+        note(message,
+             QCoreApplication::translate("MqttReadings", "that is no unit of what is mapped"));
     }
 }
 
@@ -240,7 +243,7 @@ void MqttReadings::note(const MqttMessage &message, const QString &what)
     isNoted = true;
     ++unreadables;
     unreadable =
-        QStringLiteral("%1 told %2: %3")
+        QCoreApplication::translate("MqttReadings", "%1 told %2: %3")
             .arg(QString::fromUtf8(message.topic),
                  quoted({message.payload.constData(), std::size_t(message.payload.size())}), what);
 }
@@ -255,8 +258,9 @@ std::optional<qint64> MqttReadings::timeIn(const MqttPlace &place, const MqttMes
     const std::optional<qint64> told = mqttTime(answer.text);
     if (!told || *told - now > farthestAhead) {
         note(message,
-             told ? QStringLiteral("that time is still to come")
-                  : QStringLiteral("there is no time with its offset from UTC"));
+             told ? QCoreApplication::translate("MqttReadings", "that time is still to come")
+                  : QCoreApplication::translate("MqttReadings",
+                                                "there is no time with its offset from UTC"));
         return std::nullopt;
     }
     return told;

@@ -8,6 +8,7 @@
 #include "p1time.h"
 #include "problemlist.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -61,7 +62,8 @@ struct Content
 void note(Content &content, const P1Line &line)
 {
     if (content.unreadable.isEmpty()) {
-        content.unreadable = QStringLiteral("%1 cannot be read").arg(quoted(line.text));
+        content.unreadable =
+            QCoreApplication::translate("P1Telegram", "%1 cannot be read").arg(quoted(line.text));
     }
 }
 
@@ -323,7 +325,7 @@ QString checkChecksum(P1Telegram &telegram, std::string_view throughMark, std::s
         return QString();
     }
     telegram.checksum = P1Telegram::Checksum::Wrong;
-    return QStringLiteral("its checksum is %1 and should be %2")
+    return QCoreApplication::translate("P1Telegram", "its checksum is %1 and should be %2")
         .arg(quoted(written),
              QStringLiteral("%1").arg(computed, 4, 16, QLatin1Char('0')).toUpper());
 }
@@ -332,7 +334,7 @@ QString problemOf(const P1Telegram &telegram, const Content &content)
 {
     if (telegram.checksum == P1Telegram::Checksum::None) {
         if (content.hasTime || !content.versionCode.isEmpty()) {
-            return QStringLiteral("it has no checksum");
+            return QCoreApplication::translate("P1Telegram", "it has no checksum");
         }
         if (!content.unreadable.isEmpty()) {
             return content.unreadable;
@@ -343,7 +345,7 @@ QString problemOf(const P1Telegram &telegram, const Content &content)
     };
     const bool hasCounter = isKnown(content.imported) || isKnown(content.exported);
     if (!hasCounter && !content.importPower && content.channels.empty()) {
-        return QStringLiteral("it holds no reading that is known here");
+        return QCoreApplication::translate("P1Telegram", "it holds no reading that is known here");
     }
     return QString();
 }
@@ -383,7 +385,7 @@ P1Telegram parseP1Telegram(const QByteArray &bytes)
     const std::string_view text(bytes.constData(), std::size_t(bytes.size()));
     const std::size_t mark = text.find('!');
     if (text.empty() || text.front() != '/' || mark == std::string_view::npos) {
-        telegram.problem = QStringLiteral("it is no telegram");
+        telegram.problem = QCoreApplication::translate("P1Telegram", "it is no telegram");
         return telegram;
     }
     const std::string_view body = text.substr(1, mark - 1);

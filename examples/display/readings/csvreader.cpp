@@ -3,6 +3,7 @@
 
 #include "csvreader.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
 #include <charconv>
@@ -23,13 +24,14 @@ QString CsvReader::open()
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("no such file");
+        return QCoreApplication::translate("Readings", "no such file");
     }
     if (info.isDir()) {
-        return QStringLiteral("is a directory");
+        return QCoreApplication::translate("Readings", "is a directory");
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("cannot be opened: %1").arg(file.errorString());
+        return QCoreApplication::translate("Readings", "cannot be opened: %1")
+            .arg(file.errorString());
     }
     return {};
 }

@@ -3,6 +3,7 @@
 
 #include "problemlist.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 
@@ -19,15 +20,17 @@ QString moreOf(ProblemList::Kind kind)
     case ProblemList::Kind::File:
         break;
     case ProblemList::Kind::BrokenRow:
-        return QStringLiteral("%1 more broken rows, left out");
+        return QCoreApplication::translate("Readings", "%1 more broken rows, left out");
     case ProblemList::Kind::SkippedTime:
-        return QStringLiteral("%1 more rows at times that the clock skips, left out");
+        return QCoreApplication::translate("Readings",
+                                           "%1 more rows at times that the clock skips, left out");
     case ProblemList::Kind::Contradiction:
-        return QStringLiteral("%1 more values that contradict earlier ones, left out");
+        return QCoreApplication::translate("Readings",
+                                           "%1 more values that contradict earlier ones, left out");
     case ProblemList::Kind::WrongReading:
-        return QStringLiteral("%1 more readings that do not fit in");
+        return QCoreApplication::translate("Readings", "%1 more readings that do not fit in");
     }
-    return QStringLiteral("%1 more problems");
+    return QCoreApplication::translate("Readings", "%1 more problems");
 }
 
 } // namespace

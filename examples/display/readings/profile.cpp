@@ -6,6 +6,7 @@
 #include "csvreader.h"
 #include "problemlist.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace Readings {
@@ -198,16 +199,17 @@ bool recognises(const Profile &profile, const Fields &fields)
 QString problemOf(const Profile &profile, const Fields &fields)
 {
     if (fields.size() < 2) {
-        return QStringLiteral("there is no column but \"%1\"")
+        return QCoreApplication::translate("Readings", "there is no column but \"%1\"")
             .arg(QString::fromUtf8(profile.timeColumn));
     }
     for (auto field = fields.cbegin() + 1; field != fields.cend(); ++field) {
         if (!columnNamed(profile, *field) && *field != viewOf(profile.lengthColumn)
             && *field != viewOf(profile.zoneColumn)) {
-            return QStringLiteral("unknown column %1").arg(quoted(*field));
+            return QCoreApplication::translate("Readings", "unknown column %1").arg(quoted(*field));
         }
         if (std::find(fields.cbegin(), field, *field) != field) {
-            return QStringLiteral("column %1 comes twice").arg(quoted(*field));
+            return QCoreApplication::translate("Readings", "column %1 comes twice")
+                .arg(quoted(*field));
         }
     }
     return {};
@@ -258,10 +260,11 @@ HeaderMatch matchHeader(std::string_view header)
         return matchProfile(profile, fields);
     }
     HeaderMatch match;
-    match.problem =
-        QStringLiteral("no known kind of file has the header %1; docs/readings.md tells "
-                       "of those that there are")
-            .arg(quoted(header));
+    match.problem = QCoreApplication::translate(
+                        "Readings",
+                        "no known kind of file has the header %1; docs/readings.md tells "
+                        "of those that there are")
+                        .arg(quoted(header));
     return match;
 }
 

@@ -3,6 +3,7 @@
 
 #include "quantity.h"
 
+#include <QCoreApplication>
 #include <array>
 
 namespace Readings {
@@ -26,29 +27,38 @@ const QuantityInfo &quantityInfo(Quantity quantity)
     static const QString cubicMetre = QString::fromUtf8("m³");
     static const QString gigajoule = QStringLiteral("GJ");
     static const std::array<QuantityInfo, quantityCount> table = {{
-        {Quantity::GridImport, QStringLiteral("electricity import"), kWh, mostElectricityPerHour},
-        {Quantity::GridExport, QStringLiteral("electricity export"), kWh, mostElectricityPerHour},
-        {Quantity::SolarProduction, QStringLiteral("solar production"), kWh,
+        {Quantity::GridImport, QT_TRANSLATE_NOOP("Readings", "electricity import"), kWh,
          mostElectricityPerHour},
-        {Quantity::Gas, QStringLiteral("gas"), cubicMetre, mostGasPerHour},
-        {Quantity::Water, QStringLiteral("water"), cubicMetre, mostWaterPerHour},
-        {Quantity::Heating, QStringLiteral("heating"), gigajoule, mostHeatPerHour},
-        {Quantity::HeatPump, QStringLiteral("heat pump"), kWh, mostElectricityPerHour},
-        {Quantity::ElectricCar, QStringLiteral("electric car"), kWh, mostElectricityPerHour},
+        {Quantity::GridExport, QT_TRANSLATE_NOOP("Readings", "electricity export"), kWh,
+         mostElectricityPerHour},
+        {Quantity::SolarProduction, QT_TRANSLATE_NOOP("Readings", "solar production"), kWh,
+         mostElectricityPerHour},
+        {Quantity::Gas, QT_TRANSLATE_NOOP("Readings", "gas"), cubicMetre, mostGasPerHour},
+        {Quantity::Water, QT_TRANSLATE_NOOP("Readings", "water"), cubicMetre, mostWaterPerHour},
+        {Quantity::Heating, QT_TRANSLATE_NOOP("Readings", "heating"), gigajoule, mostHeatPerHour},
+        {Quantity::HeatPump, QT_TRANSLATE_NOOP("Readings", "heat pump"), kWh,
+         mostElectricityPerHour},
+        {Quantity::ElectricCar, QT_TRANSLATE_NOOP("Readings", "electric car"), kWh,
+         mostElectricityPerHour},
     }};
     return table.at(static_cast<std::size_t>(quantity));
 }
 
+QString quantityName(Quantity quantity)
+{
+    return QCoreApplication::translate("Readings", quantityInfo(quantity).name);
+}
+
 QString registerName(const Register &meterRegister)
 {
-    QString name = quantityInfo(meterRegister.quantity).name;
+    const QString name = quantityName(meterRegister.quantity);
     switch (meterRegister.tariff) {
     case Tariff::Single:
         return name;
     case Tariff::Low:
-        return name + QStringLiteral(" (low tariff)");
+        return QCoreApplication::translate("Readings", "%1 (low tariff)").arg(name);
     case Tariff::Normal:
-        return name + QStringLiteral(" (normal tariff)");
+        return QCoreApplication::translate("Readings", "%1 (normal tariff)").arg(name);
     }
     return name;
 }

@@ -48,8 +48,8 @@ inline bool operator<(const Register &left, const Register &right)
 struct QuantityInfo
 {
     Quantity quantity;
-    /** A name for messages, in English and lower case: "electricity import". */
-    QString name;
+    /** A name for messages, in English and lower case; see quantityName(). */
+    const char *name;
     /** The unit of every amount of this quantity: "kWh", "m³" or "GJ". */
     QString unit;
     /**
@@ -60,6 +60,9 @@ struct QuantityInfo
 };
 
 const QuantityInfo &quantityInfo(Quantity quantity);
+
+/** A name for messages, in their language and lower case: "electricity import". */
+QString quantityName(Quantity quantity);
 
 /** The name of a register for messages: "gas", "electricity import (low tariff)". */
 QString registerName(const Register &meterRegister);

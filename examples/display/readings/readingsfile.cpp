@@ -8,6 +8,7 @@
 #include "profile.h"
 #include "wallclock.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -128,10 +129,11 @@ bool FileLoader::load()
     const QString error = reader.readError();
     if (!error.isEmpty()) {
         problems.add(file, reader.lineNumber() + 1, Kind::File,
-                     QStringLiteral("reading stopped: %1").arg(error));
+                     QCoreApplication::translate("Readings", "reading stopped: %1").arg(error));
     }
     if (rows.empty()) {
-        problems.add(file, 0, Kind::File, QStringLiteral("there are no readings in it"));
+        problems.add(file, 0, Kind::File,
+                     QCoreApplication::translate("Readings", "there are no readings in it"));
     }
     if (isWallClock(header.profile->timeFormat)) {
         resolveWallClock();
@@ -144,9 +146,11 @@ bool FileLoader::readHeader()
 {
     if (!reader.nextLine()) {
         const QString error = reader.readError();
-        problems.add(file, 0, Kind::File,
-                     error.isEmpty() ? QStringLiteral("the file is empty")
-                                     : QStringLiteral("cannot be read: %1").arg(error));
+        problems.add(
+            file, 0, Kind::File,
+            error.isEmpty()
+                ? QCoreApplication::translate("Readings", "the file is empty")
+                : QCoreApplication::translate("Readings", "cannot be read: %1").arg(error));
         return false;
     }
     header = matchHeader(reader.line());
@@ -161,7 +165,8 @@ bool FileLoader::readHeader()
         const QByteArray named = id.isEmpty() ? qgetenv("TZ") : id;
         if (!header.zoneField) {
             problems.add(file, 0, Kind::File,
-                         QStringLiteral("this system does not know the time zone %1; UTC is used")
+                         QCoreApplication::translate(
+                             "Readings", "this system does not know the time zone %1; UTC is used")
                              .arg(QString::fromUtf8(named)));
         }
         zone = QTimeZone::utc();
@@ -173,7 +178,7 @@ void FileLoader::readRows()
 {
     while (reader.nextLine()) {
         if (reader.isTooLong()) {
-            broken(QStringLiteral("the line is too long"));
+            broken(QCoreApplication::translate("Readings", "the line is too long"));
         } else if (!trimmed(reader.line()).empty()) {
             readRow(reader.line());
         }
@@ -184,11 +189,12 @@ void FileLoader::readRow(std::string_view line)
 {
     const Profile &profile = *header.profile;
     if (!CsvReader::split(line, profile.separator, fields)) {
-        broken(QStringLiteral("a quote is not closed where its field ends"));
+        broken(
+            QCoreApplication::translate("Readings", "a quote is not closed where its field ends"));
         return;
     }
     if (fields.size() != header.fieldCount) {
-        broken(QStringLiteral("the number of fields is %1, not %2")
+        broken(QCoreApplication::translate("Readings", "the number of fields is %1, not %2")
                    .arg(fields.size())
                    .arg(header.fieldCount));
         return;
@@ -196,7 +202,7 @@ void FileLoader::readRow(std::string_view line)
     const std::string_view stamp = trimmed(fields[header.timeField]);
     const std::optional<qint64> time = parseStamp(stamp, profile.timeFormat);
     if (!time) {
-        broken(QStringLiteral("bad time stamp %1").arg(quoted(stamp)));
+        broken(QCoreApplication::translate("Readings", "bad time stamp %1").arg(quoted(stamp)));
         return;
     }
     const std::optional<qint64> length = readLength();
@@ -217,7 +223,8 @@ std::optional<qint64> FileLoader::readLength()
     const std::string_view text = trimmed(fields[*header.lengthField]);
     const std::optional<double> seconds = parseNumber(text, header.profile->decimalSign);
     if (!seconds || *seconds < 1.0 || *seconds > longest || std::floor(*seconds) != *seconds) {
-        broken(QStringLiteral("bad length %1 of an interval").arg(quoted(text)));
+        broken(QCoreApplication::translate("Readings", "bad length %1 of an interval")
+                   .arg(quoted(text)));
         return std::nullopt;
     }
     return qint64(*seconds);
@@ -231,7 +238,7 @@ bool FileLoader::readZone()
     const std::string_view text = trimmed(fields[*header.zoneField]);
     const QTimeZone told(QByteArray(text.data(), int(text.size())));
     if (!told.isValid()) {
-        broken(QStringLiteral("unknown time zone %1").arg(quoted(text)));
+        broken(QCoreApplication::translate("Readings", "unknown time zone %1").arg(quoted(text)));
         return false;
     }
     zone = told;
@@ -250,7 +257,7 @@ bool FileLoader::readValues()
         }
         const std::optional<double> number = parseNumber(text, header.profile->decimalSign);
         if (!number || *number < 0.0 || *number > mostOnAMeter) {
-            broken(QStringLiteral("bad number %1 in column \"%2\"")
+            broken(QCoreApplication::translate("Readings", "bad number %1 in column \"%2\"")
                        .arg(quoted(text), QString::fromUtf8(used.column->name)));
             return false;
         }
@@ -297,7 +304,8 @@ void FileLoader::resolveWallClock()
         }
         if (moment.occurrences == 0) {
             problems.add(file, row.line, Kind::SkippedTime,
-                         QStringLiteral("a time that the clock in %1 skips; row left out")
+                         QCoreApplication::translate(
+                             "Readings", "a time that the clock in %1 skips; row left out")
                              .arg(QString::fromUtf8(zone.id())));
             row.leftOut = true;
         }
@@ -347,7 +355,7 @@ void FileLoader::feed()
     }
     for (const auto &entry : leftOut) {
         problems.add(file, 1, Kind::File,
-                     QStringLiteral("left out: %1; %2")
+                     QCoreApplication::translate("Readings", "left out: %1; %2")
                          .arg(entry.second.join(QStringLiteral(", ")), entry.first));
     }
     feedPower();
@@ -364,10 +372,11 @@ QString FileLoader::obstacleFor(const Column &column) const
         if (known.quantity != wanted.quantity || sameTariffs) {
             continue;
         }
-        return QStringLiteral("%1 is known already %2")
-            .arg(quantityInfo(wanted.quantity).name,
-                 known.tariff == Tariff::Single ? QStringLiteral("by one register")
-                                                : QStringLiteral("by tariff"));
+        return QCoreApplication::translate("Readings", "%1 is known already %2")
+            .arg(quantityName(wanted.quantity),
+                 known.tariff == Tariff::Single
+                     ? QCoreApplication::translate("Readings", "by one register")
+                     : QCoreApplication::translate("Readings", "by tariff"));
     }
     return {};
 }
@@ -433,7 +442,7 @@ double FileLoader::value(std::size_t row, std::size_t column) const
 void FileLoader::broken(const QString &what)
 {
     problems.add(file, reader.lineNumber(), Kind::BrokenRow,
-                 what + QStringLiteral("; row left out"));
+                 what + QCoreApplication::translate("Readings", "; row left out"));
 }
 
 QString textOf(const Fault &fault, const Register &meterRegister)
@@ -442,20 +451,31 @@ QString textOf(const Fault &fault, const Register &meterRegister)
         + QString::number(fault.value, 'g', 12) + QLatin1Char(' ');
     switch (fault.kind) {
     case Fault::Kind::Contradiction:
-        return subject + QStringLiteral("contradicts an earlier value for this time; left out");
+        return subject
+            + QCoreApplication::translate("Readings",
+                                          "contradicts an earlier value for this time; left out");
     case Fault::Kind::Overlap:
-        return subject + QStringLiteral("is for a part of an interval known already; left out");
+        return subject
+            + QCoreApplication::translate("Readings",
+                                          "is for a part of an interval known already; left out");
     case Fault::Kind::StepBack:
-        return subject + QStringLiteral("is less than before, and the next is not; left out");
+        return subject
+            + QCoreApplication::translate("Readings",
+                                          "is less than before, and the next is not; left out");
     case Fault::Kind::Leap:
-        return subject + QStringLiteral("is more than what follows; left out");
+        return subject
+            + QCoreApplication::translate("Readings", "is more than what follows; left out");
     case Fault::Kind::Break:
-        return subject + QStringLiteral("does not follow from before: another meter or a reset");
+        return subject
+            + QCoreApplication::translate("Readings",
+                                          "does not follow from before: another meter or a reset");
     case Fault::Kind::Undecided:
         return subject
-            + QStringLiteral("does not follow from before; left out until more is known");
+            + QCoreApplication::translate(
+                   "Readings", "does not follow from before; left out until more is known");
     case Fault::Kind::TooMuch:
-        return subject + QStringLiteral("is more than a household can use; left out");
+        return subject
+            + QCoreApplication::translate("Readings", "is more than a household can use; left out");
     }
     return subject;
 }
@@ -506,12 +526,13 @@ Household loadReadings(const QStringList &files)
             household.timeZone = loader.timeZone();
             zoneIsSet = true;
         } else if (loader.knowsTimeZone() && loader.timeZone().id() != household.timeZone.id()) {
-            problems.add(
-                file, 0, Kind::File,
-                QStringLiteral("is of the time zone %1; its readings are shown by the clock "
-                               "in %2")
-                    .arg(QString::fromUtf8(loader.timeZone().id()),
-                         QString::fromUtf8(household.timeZone.id())));
+            problems.add(file, 0, Kind::File,
+                         QCoreApplication::translate(
+                             "Readings",
+                             "is of the time zone %1; its readings are shown by the clock "
+                             "in %2")
+                             .arg(QString::fromUtf8(loader.timeZone().id()),
+                                  QString::fromUtf8(household.timeZone.id())));
         }
     }
     tellFaults(household, problems);

@@ -3,6 +3,7 @@
 
 #include "backlight.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -36,7 +37,7 @@ QString Backlight::setLit(bool lit)
     const QByteArray value(lit ? lightOn : lightOff);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
         || file.write(value) != value.size()) {
-        return QStringLiteral("%1: the backlight cannot be switched: %2")
+        return QCoreApplication::translate("Backlight", "%1: the backlight cannot be switched: %2")
             .arg(switchFile, file.errorString());
     }
     return QString();
