@@ -47,6 +47,13 @@
     </message>
 </context>
 <context>
+    <name>MeterSource</name>
+    <message>
+        <source>the clock of the meter is %1 minutes ahead of that of the display; bars stand where the meter&apos;s clock has them</source>
+        <translation>de klok van de meter loopt %1 minuten voor op die van het scherm; de staven staan op de tijd van de meter</translation>
+    </message>
+</context>
+<context>
     <name>MqttLink</name>
     <message>
         <source>the host is not found</source>

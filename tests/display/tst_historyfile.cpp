@@ -68,6 +68,7 @@ private Q_SLOTS:
     void registersAreNamedAsInTheFormat();
     void everyRegisterHasAName();
     void firstReadingOfAnInstantHolds();
+    void laterReadingOfAnInstantHoldsOnDemand();
     void newFileIsEmpty();
     void emptyFileIsANewOne();
     void amountsComeBack();
@@ -160,6 +161,18 @@ void tst_HistoryFile::firstReadingOfAnInstantHolds()
     QCOMPARE(file.read(&household), Trouble::None);
     QCOMPARE(household.meters.at(gas).readingAt(noon), std::optional<double>(1.0));
     QCOMPARE(household.meters.at(importLow).readingAt(noon), std::optional<double>(3.0));
+}
+
+void tst_HistoryFile::laterReadingOfAnInstantHoldsOnDemand()
+{
+    HistoryFile file;
+    QCOMPARE(file.open(path()), Trouble::None);
+    QCOMPARE(file.write({{gas, noon, 1.0}}), Trouble::None);
+    QCOMPARE(file.write({{gas, noon, 2.0}, {gas, noon, 3.0}}, HistoryFile::Known::IsReplaced),
+             Trouble::None);
+    Household household;
+    QCOMPARE(file.read(&household), Trouble::None);
+    QCOMPARE(household.meters.at(gas).readingAt(noon), std::optional<double>(3.0));
 }
 
 void tst_HistoryFile::newFileIsEmpty()

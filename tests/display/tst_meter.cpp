@@ -5,9 +5,11 @@
 #include "meter.h"
 #include "quantity.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 #include <algorithm>
 #include <limits>
+#include <map>
 
 using namespace Readings;
 
@@ -69,6 +71,8 @@ private Q_SLOTS:
     void leapIsMeasuredAgainstTheTimeThatPassed();
     void shortStepsAreGrantedAnHoursWorth();
     void firstOfTwoReadingsForAnInstantHolds();
+    void readingThatIsSetHolds();
+    void readingsThatAreSetAgreeWithTheModel();
     void lateReadingTurnsABreakIntoAWrongReading();
     void amountsAddUpWhereTheyCoverTheSlot();
     void amountsAreNeverSplit();
@@ -278,6 +282,53 @@ void tst_Meter::firstOfTwoReadingsForAnInstantHolds()
 
     meter.addReading(2 * oneHour, 12.0, 8);
     QCOMPARE(meter.amount(oneHour, 2 * oneHour), std::optional<double>(1.0));
+}
+
+void tst_Meter::readingThatIsSetHolds()
+{
+    Meter meter = hourly({100.0, 101.0, 102.0, 103.0});
+    QVERIFY(meter.setReading(oneHour, 100.5));
+    QVERIFY(meter.setReading(3 * oneHour, 102.25));
+    QVERIFY(meter.setReading(4 * oneHour, 104.0));
+    QVERIFY(!meter.setReading(4 * oneHour, -1.0));
+    QVERIFY(!amounts().setReading(0, 1.0));
+    QCOMPARE(meter.readingAt(oneHour), std::optional<double>(100.5));
+    QCOMPARE(meter.amount(2 * oneHour, 3 * oneHour), std::optional<double>(0.25));
+    QCOMPARE(meter.readingAt(4 * oneHour), std::optional<double>(104.0));
+    QVERIFY(meter.faults().empty());
+    // One that is only added afterwards does not.
+    meter.addReading(oneHour, 101.0);
+    QCOMPARE(meter.readingAt(oneHour), std::optional<double>(100.5));
+    QCOMPARE(meter.faults().size(), std::size_t(1));
+}
+
+void tst_Meter::readingsThatAreSetAgreeWithTheModel()
+{
+    QRandomGenerator random(20);
+    for (int round = 0; round < 200; ++round) {
+        Meter meter = counter();
+        std::map<qint64, double> model;
+        for (int i = 0; i < 60; ++i) {
+            const qint64 instant = random.bounded(30) * oneHour;
+            // All follow from one another, so that none is wrong.
+            const double value = double(instant) / oneHour + random.generateDouble();
+            if (random.bounded(2) == 0) {
+                meter.setReading(instant, value);
+                model[instant] = value;
+            } else {
+                meter.addReading(instant, value);
+                model.emplace(instant, value);
+            }
+            if (random.bounded(4) == 0) {
+                QCOMPARE(meter.total(), model.rbegin()->second - model.begin()->second);
+            }
+        }
+        for (int hour = 0; hour < 30; ++hour) {
+            const auto known = model.find(hour * oneHour);
+            QCOMPARE(meter.readingAt(hour * oneHour),
+                     known == model.end() ? std::nullopt : std::optional<double>(known->second));
+        }
+    }
 }
 
 void tst_Meter::lateReadingTurnsABreakIntoAWrongReading()

@@ -75,6 +75,8 @@ private Q_SLOTS:
     void panelsWithoutAMeterHideTheConsumption();
     void powerThatIsNotToldIsNotKnown();
     void replacedMeterIsToldOnce();
+    void clockThatIsAheadIsTold();
+    void clockThatWasAheadLeavesNothingInTheHistory();
 
 private:
     /** Plays telegrams from @p from to @p to into a source that is then gone. */
@@ -261,6 +263,58 @@ void tst_MeterSource::replacedMeterIsToldOnce()
     source.start();
     meter->count(ten + 5 * hour, 3.75);
     QCOMPARE(problems.count(), 0);
+}
+
+void tst_MeterSource::clockThatIsAheadIsTold()
+{
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    MeterSource source(std::move(told), QString());
+    QSignalSpy problems(&source, &MeterSource::problem);
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    meter->count(now - 30 * 24 * hour, 0.0);
+    meter->count(now, 1.0);
+    QCOMPARE(problems.count(), 0);
+    meter->count(now + 2 * hour, 1.1);
+    meter->count(now + 2 * hour + 10, 1.2);
+    QCOMPARE(problems.count(), 1);
+    QVERIFY(problems.constFirst().constFirst().toString().startsWith(
+        QLatin1String("the clock of the meter is ")));
+    // Right again, and wrong again.
+    meter->count(now + 20, 1.3);
+    meter->count(now + 2 * hour + 30, 1.4);
+    QCOMPARE(problems.count(), 2);
+}
+
+void tst_MeterSource::clockThatWasAheadLeavesNothingInTheHistory()
+{
+    const auto isRight = [](const Household &household) {
+        for (int i = 0; i < 6; ++i) {
+            const Interval slot {ten + i * hour, ten + (i + 1) * hour};
+            if (household.amount(Quantity::GridImport, slot) != std::optional<double>(0.25)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    const auto counterAfter = [](int steps) { return 1000.0 + 0.25 * steps / 12; };
+    auto told = std::make_unique<ToldMeter>();
+    ToldMeter *meter = told.get();
+    {
+        MeterSource source(std::move(told), historyDirectory());
+        QSignalSpy problems(&source, &MeterSource::problem);
+        source.prepare();
+        source.start();
+        for (int step = 0; step <= 6 * 12; ++step) {
+            const bool isAhead = step > 14 && step < 20;
+            meter->count(ten + 300 * step + (isAhead ? 2 * hour : 0), counterAfter(step));
+        }
+        QCOMPARE(problems.count(), 0);
+        QVERIFY(isRight(source.household()));
+    }
+    MeterSource source(QStringLiteral("/dev/null"), P1Settings(), historyDirectory());
+    source.prepare();
+    QVERIFY(isRight(source.household()));
 }
 
 QTEST_GUILESS_MAIN(tst_MeterSource)

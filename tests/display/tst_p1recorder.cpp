@@ -73,6 +73,7 @@ private Q_SLOTS:
     void telegramWithAProblemChangesNothing();
     void receivedTimeStandsInForAMissingOne();
     void clockThatIsPutBackBeginsAnew();
+    void clockThatWasAheadLeavesNothingBehind();
     void hourlyGasIsEnteredAtItsHour();
     void gasOfFiveMinutes();
     void gasThatIsMissingLeavesAGap();
@@ -259,6 +260,25 @@ void tst_P1Recorder::clockThatIsPutBackBeginsAnew()
     recorder.add(electricity(ten - 10, 5.2), never);
     recorder.add(electricity(ten + 30, 5.3), never);
     QCOMPARE(reading(household, importLow, ten), QStringLiteral("5.200"));
+}
+
+void tst_P1Recorder::clockThatWasAheadLeavesNothingBehind()
+{
+    Household household;
+    P1Recorder recorder(&household);
+    const auto counterAt = [](qint64 instant) { return 100.0 + double(instant - ten) / hour; };
+    for (qint64 at = ten; at <= ten + 5 * hour; at += 10) {
+        const bool isAhead = at > ten + 65 * minute && at < ten + 95 * minute;
+        recorder.add(electricity(at + (isAhead ? 2 * hour : 0), counterAt(at)), never);
+    }
+    const auto amount = [&](int from, int to) {
+        return household.amount(Quantity::GridImport, {ten + from * hour, ten + to * hour});
+    };
+    for (int i = 0; i < 5; ++i) {
+        const std::optional<double> known = amount(i, i + 1);
+        QVERIFY2(known && std::abs(*known - 1.0) < 1e-6, qPrintable(QString::number(i)));
+    }
+    QVERIFY(std::abs(household.total(Quantity::GridImport, {ten, ten + 5 * hour}) - 5.0) < 1e-6);
 }
 
 void tst_P1Recorder::hourlyGasIsEnteredAtItsHour()

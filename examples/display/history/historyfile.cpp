@@ -6,6 +6,7 @@
 #include "profile.h"
 #include "thinning.h"
 
+#include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QUuid>
@@ -169,10 +170,11 @@ Trouble HistoryFile::readAmounts(const std::map<int, Meter *> &meters)
     return query.lastError().isValid() ? fail(query) : Trouble::None;
 }
 
-Trouble HistoryFile::write(const std::vector<KeptReading> &readings)
+Trouble HistoryFile::write(const std::vector<KeptReading> &readings, Known known)
 {
     added = 0;
-    return readings.empty() ? Trouble::None : inTransaction([&] { return insert(readings); });
+    return readings.empty() ? Trouble::None
+                            : inTransaction([&] { return insert(readings, known); });
 }
 
 Trouble HistoryFile::writeAmounts(const std::vector<KeptAmount> &amounts)
@@ -307,10 +309,12 @@ Trouble HistoryFile::inTransaction(Work work)
     return trouble;
 }
 
-Trouble HistoryFile::insert(const std::vector<KeptReading> &readings)
+Trouble HistoryFile::insert(const std::vector<KeptReading> &readings, Known known)
 {
     QSqlQuery query(database);
-    if (!query.prepare(QStringLiteral("INSERT OR IGNORE INTO reading VALUES (?, ?, ?)"))) {
+    if (!query.prepare(QStringLiteral("INSERT OR %1 INTO reading VALUES (?, ?, ?)")
+                           .arg(known == Known::Holds ? QStringLiteral("IGNORE")
+                                                      : QStringLiteral("REPLACE")))) {
         return fail(query);
     }
     for (const KeptReading &reading : readings) {

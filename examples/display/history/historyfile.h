@@ -37,7 +37,7 @@ struct KeptAmount
  * The SQLite file in which a household's readings are kept.
  *
  * A reading is there once for a register and an instant, and an amount once for a register and an
- * interval: the one that was written first holds.
+ * interval: the one that was written first holds, unless write() is told otherwise.
  * Values are whole numbers of Wh, dm³ or MJ. The table "register" names the registers as the
  * columns of the program's own CSV format are called. Writing is safe against power cuts: when
  * write() returns, a transaction is on the disk, or not there at all.
@@ -68,8 +68,10 @@ public:
 
     /** Enters all readings into @p household. With trouble, some of them may have been entered. */
     Trouble read(Readings::Household *household);
+    /** What becomes of a reading whose register and instant are there. */
+    enum class Known { Holds, IsReplaced };
     /** Writes @p readings in one transaction. */
-    Trouble write(const std::vector<KeptReading> &readings);
+    Trouble write(const std::vector<KeptReading> &readings, Known known = Known::Holds);
     /** Writes @p amounts in one transaction. */
     Trouble writeAmounts(const std::vector<KeptAmount> &amounts);
     /** How many rows the last write added: those that were not there before. */
@@ -95,7 +97,7 @@ private:
     Trouble findRegister(const Readings::Register &meterRegister, int *id);
     template <typename Work>
     Trouble inTransaction(Work work);
-    Trouble insert(const std::vector<KeptReading> &readings);
+    Trouble insert(const std::vector<KeptReading> &readings, Known known);
     Trouble insert(const std::vector<KeptAmount> &amounts);
     Trouble insert(QSqlQuery *query);
     Trouble thinRegister(int id, double mostPerHour, qint64 from, qint64 to, qint64 step);

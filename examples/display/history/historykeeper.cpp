@@ -90,7 +90,7 @@ void HistoryKeeper::keep(qint64 now, Household *household)
         openFile();
     }
     if (state == State::Writing) {
-        Trouble trouble = file.write(waiting);
+        Trouble trouble = file.write(waiting, HistoryFile::Known::IsReplaced);
         if (trouble == Trouble::None) {
             waiting.clear();
             lastTold.clear();

@@ -77,7 +77,7 @@ void P1Recorder::enter(const Register &meterRegister, Latest &latest, qint64 ins
     }
     latest.entered = instant;
     household->makeWayFor(meterRegister);
-    if (household->meter(meterRegister, Meter::Kind::Counter).addReading(instant, latest.value)
+    if (household->meter(meterRegister, Meter::Kind::Counter).setReading(instant, latest.value)
         && entered) {
         entered(meterRegister, instant, latest.value);
     }

@@ -49,7 +49,8 @@ public:
      * Enters a telegram, and its power as the household's. A telegram with a problem changes
      * nothing. @p receivedAt, in seconds since 1970-01-01 UTC, is the time of a telegram that does
      * not tell its own. What the household counted by other tariffs makes way, see
-     * Readings::Household::makeWayFor().
+     * Readings::Household::makeWayFor(). Of an instant that is told twice, since the clock was put
+     * back, the later telegram holds.
      */
     void add(const P1Telegram &telegram, qint64 receivedAt);
 

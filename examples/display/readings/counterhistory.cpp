@@ -11,16 +11,25 @@ CounterHistory::CounterHistory(double most) : mostPerHour(most), filter(most) { 
 
 void CounterHistory::add(const Reading &reading)
 {
-    if (late.empty() && (!newest || reading.instant > newest->instant)) {
+    if (isSettled() && (!newest || reading.instant > newest->instant)) {
         filter.append(reading);
         newest = reading;
-    } else if (late.empty() && reading.instant == newest->instant) {
+    } else if (isSettled() && reading.instant == newest->instant) {
         if (reading.value != newest->value) {
             contradictions.push_back(
                 {Fault::Kind::Contradiction, reading.instant, reading.value, reading.tag});
         }
     } else {
         late.push_back(reading);
+    }
+}
+
+void CounterHistory::replace(const Reading &reading)
+{
+    if (isSettled() && (!newest || reading.instant > newest->instant)) {
+        add(reading);
+    } else {
+        retold[reading.instant] = reading;
     }
 }
 
@@ -186,11 +195,12 @@ std::vector<Fault> CounterHistory::faults() const
 // looked like a break into a single wrong reading and the other way round.
 void CounterHistory::settle() const
 {
-    if (late.empty()) {
+    if (isSettled()) {
         return;
     }
     const std::vector<Reading> all = collected();
     late.clear();
+    retold.clear();
     filter = ReadingFilter(mostPerHour);
     const Reading *previous = nullptr;
     for (const Reading &reading : all) {
@@ -216,6 +226,12 @@ std::vector<Reading> CounterHistory::collected() const
         all.push_back(*filter.undecided());
     }
     all.insert(all.end(), late.cbegin(), late.cend());
+    all.erase(std::remove_if(all.begin(), all.end(),
+                             [&](const Reading &known) { return retold.count(known.instant) > 0; }),
+              all.end());
+    for (const auto &[instant, reading] : retold) {
+        all.push_back(reading);
+    }
     std::stable_sort(all.begin(), all.end(), [](const Reading &left, const Reading &right) {
         return left.instant < right.instant;
     });

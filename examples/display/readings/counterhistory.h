@@ -7,6 +7,7 @@
 #include "interval.h"
 #include "readingfilter.h"
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,8 @@ public:
      * the next question sort the whole history.
      */
     void add(const Reading &reading);
+    /** As add(), but it takes the place of a reading of the same instant. */
+    void replace(const Reading &reading);
 
     /** All readings in the order of time, the wrong ones too. */
     std::vector<Reading> all() const;
@@ -58,6 +61,7 @@ public:
 private:
     using KeptReading = std::vector<Reading>::const_iterator;
 
+    bool isSettled() const { return late.empty() && retold.empty(); }
     void settle() const;
     std::vector<Reading> collected() const;
     KeptReading notBefore(qint64 instant) const;
@@ -70,6 +74,7 @@ private:
     // comes late waits for the next question, which is why a question may change these.
     mutable ReadingFilter filter;
     mutable std::vector<Reading> late;
+    mutable std::map<qint64, Reading> retold;
     mutable std::vector<Fault> contradictions;
     mutable std::optional<Reading> newest;
 };

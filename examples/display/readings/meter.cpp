@@ -109,6 +109,15 @@ bool Meter::addReading(qint64 instant, double value, qint64 tag)
     return true;
 }
 
+bool Meter::setReading(qint64 instant, double value)
+{
+    if (!counter || !isQuantity(value)) {
+        return false;
+    }
+    counter->replace({instant, value, 0});
+    return true;
+}
+
 bool Meter::addAmount(const Interval &interval, double amount, qint64 tag)
 {
     if (interval.isEmpty() || !isQuantity(amount)) {

@@ -74,6 +74,12 @@ public:
     bool addReading(qint64 instant, double value, qint64 tag = 0);
 
     /**
+     * As addReading(), but the reading takes the place of one for the same instant: what a meter
+     * that is followed tells later holds, since its clock may have been wrong before.
+     */
+    bool setReading(qint64 instant, double value);
+
+    /**
      * Adds what was used in an interval. Returns false and changes nothing if the interval is
      * empty, or if the amount is negative or not finite.
      *

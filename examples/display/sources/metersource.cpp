@@ -5,10 +5,12 @@
 
 #include <QDateTime>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr double mostOfCar = 11000.0; // watts
+constexpr qint64 mostAhead = 600; // seconds that clocks may differ
 
 P1Recorder::Listener listenerOf(HistoryKeeper *keeper)
 {
@@ -62,9 +64,9 @@ void MeterSource::prepare()
 
 void MeterSource::start()
 {
+    breaks.start(readings);
     meter->goOnFrom(readings);
     meter->start();
-    breaks.start(readings);
 }
 
 std::optional<PowerReport> MeterSource::power() const
@@ -97,6 +99,7 @@ bool MeterSource::isMetering() const
 void MeterSource::take(const P1Telegram &telegram)
 {
     const qint64 now = telegram.instant.value_or(QDateTime::currentSecsSinceEpoch());
+    compareClocks(now);
     const bool wasFirst = !readings.firstInstant();
     const std::size_t metersBefore = readings.meters.size();
     recorder.add(telegram, now);
@@ -116,9 +119,22 @@ void MeterSource::take(const P1Telegram &telegram)
         if (keeper) {
             keeper->keep(now, &readings);
         }
-        Q_EMIT historyChanged();
-    }
-}
         for (const QString &line : breaks.news(readings, now)) {
             Q_EMIT problem(line);
         }
+        Q_EMIT historyChanged();
+    }
+}
+
+void MeterSource::compareClocks(qint64 toldTime)
+{
+    // The past is what files tell.
+    const qint64 ahead = toldTime - QDateTime::currentSecsSinceEpoch();
+    const bool wasAhead = std::exchange(isClockAhead, ahead > mostAhead);
+    if (isClockAhead && !wasAhead) {
+        Q_EMIT problem(tr("the clock of the meter is %1 minutes ahead of that of the display; bars "
+                          "stand where the meter's clock has them")
+                           .arg(ahead / 60),
+                       QStringLiteral("clock"));
+    }
+}

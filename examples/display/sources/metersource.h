@@ -52,14 +52,16 @@ Q_SIGNALS:
 
 private:
     void take(const P1Telegram &telegram);
+    void compareClocks(qint64 toldTime);
 
     Readings::Household readings;
     const std::unique_ptr<HistoryKeeper> keeper;
     P1Recorder recorder;
-    const std::unique_ptr<LiveMeter> meter;
     Readings::BreakWatch breaks;
+    const std::unique_ptr<LiveMeter> meter;
     double mostProduced = 0.0; ///< watts; without a meter of the panels, what was delivered
     qint64 knownStep = 0;
+    bool isClockAhead = false;
 };
 
 #endif
