@@ -3,6 +3,7 @@
 
 #include "lineicon.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace LineIcon {
@@ -15,7 +16,9 @@ constexpr double lineWidth = 2.0;
 
 QPixmap draw(const QPainterPath &path, double scale)
 {
-    QPixmap picture(QSize(size, size) * scale);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap picture(QSize(size, size) * scale * ratio);
+    picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);

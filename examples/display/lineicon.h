@@ -14,7 +14,7 @@ constexpr int size = 26; // pixels
 
 /**
  * Draws @p path, which lies in a square of 26 by 26, in white lines of 2, into a picture of 26 by
- * 26 pixels times @p scale.
+ * 26 pixels times @p scale, as sharp as the sharpest screen.
  */
 QPixmap draw(const QPainterPath &path, double scale = 1.0);
 

@@ -32,7 +32,7 @@ ZEMButton *makeTileButton(const QPixmap &icon, const char *name)
     auto *button = new ZEMButton;
     button->setObjectName(QLatin1String(name));
     button->setIcon(QIcon(icon));
-    button->setIconSize(icon.size());
+    button->setIconSize(icon.size() / icon.devicePixelRatio());
     button->setFixedSize(tileSize, tileSize);
     return button;
 }
