@@ -10,10 +10,12 @@ find_program(ZEM_LUPDATE lupdate HINTS "${ZEM_QT_TOOLS}" "/usr/lib/qt${ZEMKIT_QT
 
 # zem_add_catalogues(<variable> <name> <file.ts>...)
 #   Compiles the catalogues and puts them into a resource, as :/zemkit/translations/<file>.qm. <variable>
-#   holds the source file to build, and Q_INIT_RESOURCE(<name>) makes the resource known.
+#   holds the source file to build, <variable>_files the compiled catalogues, and in a static library
+#   Q_INIT_RESOURCE(<name>) makes the resource known.
 function(zem_add_catalogues variable name)
     set(directory "${CMAKE_CURRENT_BINARY_DIR}/${name}")
     set(entries "")
+    set(files "")
     foreach(source IN LISTS ARGN)
         get_filename_component(base "${source}" NAME_WE)
         set(catalogue "${directory}/${base}.qm")
@@ -21,10 +23,12 @@ function(zem_add_catalogues variable name)
             COMMAND "${ZEM_LRELEASE}" -silent "${source}" -qm "${catalogue}"
             DEPENDS "${source}"
             VERBATIM)
+        list(APPEND files "${catalogue}")
         string(APPEND entries "<file>${base}.qm</file>")
     endforeach()
     file(CONFIGURE OUTPUT "${directory}/${name}.qrc" CONTENT
         "<RCC><qresource prefix=\"/zemkit/translations\">${entries}</qresource></RCC>\n")
     qt_add_resources(resource "${directory}/${name}.qrc")
     set(${variable} ${resource} PARENT_SCOPE)
+    set(${variable}_files ${files} PARENT_SCOPE)
 endfunction()

@@ -1,0 +1,400 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="nl_NL">
+<context>
+    <name>ZEMAnimatedArrows</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetails</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal nu</source>
+        <translation>jetzt gesamt</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>Verbrauch</translation>
+    </message>
+    <message>
+        <source>3040 W</source>
+        <translation>3.040 W</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>Erzeugung</translation>
+    </message>
+    <message>
+        <source>250 W</source>
+        <translation>250 W</translation>
+    </message>
+    <message>
+        <source>totaal</source>
+        <translation>gesamt</translation>
+    </message>
+    <message>
+        <source>2790 W</source>
+        <translation>2.790 W</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetailsItem</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>huidige status</source>
+        <translation>aktueller Status</translation>
+    </message>
+    <message>
+        <source>999,9 kW</source>
+        <translation>999,9 kW</translation>
+    </message>
+    <message>
+        <source>3,0 kW</source>
+        <translation>3,0 kW</translation>
+    </message>
+    <message>
+        <source>2,8 kW</source>
+        <translation>2,8 kW</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogPopup</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Are you sure?</source>
+        <translation>Sind Sie sicher?</translation>
+    </message>
+    <message>
+        <source>&lt;throbber&gt;</source>
+        <translation>&lt;throbber&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogShowText</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTab</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTabWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogram</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>jaar</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>maand</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>dag</source>
+        <translation>Tag</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabeledButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEdit</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditSearchDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMenuOverlay</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>afsluiten</source>
+        <translation>beenden</translation>
+    </message>
+    <message>
+        <source>standby</source>
+        <translation>Standby</translation>
+    </message>
+    <message>
+        <source>annuleren</source>
+        <translation>abbrechen</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>Status</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMultiLineDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Select Farm</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMNumericKeypad</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageBackground</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeader</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>startscherm</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>zaterdag 25 februari 2011, 15:15</source>
+        <translation>Freitag, 25. Februar 2011, 15:15</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeaderButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPasswordDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPixmap</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMProfileButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSimpleListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartDayHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>bis</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartMonthHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>bis</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartWeekHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>bis</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTextLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTotalsTodayWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal vandaag</source>
+        <translation>heute gesamt</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>Verbrauch</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>Erzeugung</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWeekHistogram</name>
+    <message>
+        <source>weekoverzicht</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>t/m</source>
+        <translation>bis</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWidgetLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+</TS>

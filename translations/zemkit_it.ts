@@ -1,0 +1,400 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="nl_NL">
+<context>
+    <name>ZEMAnimatedArrows</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetails</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal nu</source>
+        <translation>totale ora</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>consumo</translation>
+    </message>
+    <message>
+        <source>3040 W</source>
+        <translation>3040 W</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>produzione</translation>
+    </message>
+    <message>
+        <source>250 W</source>
+        <translation>250 W</translation>
+    </message>
+    <message>
+        <source>totaal</source>
+        <translation>totale</translation>
+    </message>
+    <message>
+        <source>2790 W</source>
+        <translation>2790 W</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetailsItem</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>huidige status</source>
+        <translation>stato attuale</translation>
+    </message>
+    <message>
+        <source>999,9 kW</source>
+        <translation>999,9 kW</translation>
+    </message>
+    <message>
+        <source>3,0 kW</source>
+        <translation>3,0 kW</translation>
+    </message>
+    <message>
+        <source>2,8 kW</source>
+        <translation>2,8 kW</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogPopup</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Are you sure?</source>
+        <translation>Sei sicuro?</translation>
+    </message>
+    <message>
+        <source>&lt;throbber&gt;</source>
+        <translation>&lt;throbber&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogShowText</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTab</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTabWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogram</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>jaar</source>
+        <translation>anno</translation>
+    </message>
+    <message>
+        <source>maand</source>
+        <translation>mese</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>sett.</translation>
+    </message>
+    <message>
+        <source>dag</source>
+        <translation>giorno</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabeledButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEdit</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditSearchDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Testo</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMenuOverlay</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>afsluiten</source>
+        <translation>esci</translation>
+    </message>
+    <message>
+        <source>standby</source>
+        <translation>standby</translation>
+    </message>
+    <message>
+        <source>annuleren</source>
+        <translation>annulla</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>stato</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMultiLineDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Select Farm</source>
+        <translation>Scegli</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMNumericKeypad</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageBackground</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeader</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>startscherm</source>
+        <translation>inizio</translation>
+    </message>
+    <message>
+        <source>zaterdag 25 februari 2011, 15:15</source>
+        <translation>venerdì 25 febbraio 2011, 15:15</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeaderButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPasswordDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPixmap</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMProfileButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Testo</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSimpleListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Testo</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartDayHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>al</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartMonthHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>al</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartWeekHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>al</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTextLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTotalsTodayWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal vandaag</source>
+        <translation>totale oggi</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>consumo</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>produzione</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWeekHistogram</name>
+    <message>
+        <source>weekoverzicht</source>
+        <translation>settimana</translation>
+    </message>
+    <message>
+        <source>t/m</source>
+        <translation>al</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWidgetLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+</context>
+</TS>

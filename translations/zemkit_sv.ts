@@ -1,0 +1,400 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv_SE" sourcelanguage="nl_NL">
+<context>
+    <name>ZEMAnimatedArrows</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetails</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal nu</source>
+        <translation>totalt nu</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>förbrukning</translation>
+    </message>
+    <message>
+        <source>3040 W</source>
+        <translation>3 040 W</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>produktion</translation>
+    </message>
+    <message>
+        <source>250 W</source>
+        <translation>250 W</translation>
+    </message>
+    <message>
+        <source>totaal</source>
+        <translation>totalt</translation>
+    </message>
+    <message>
+        <source>2790 W</source>
+        <translation>2 790 W</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusDetailsItem</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMCurrentStatusWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>huidige status</source>
+        <translation>status nu</translation>
+    </message>
+    <message>
+        <source>999,9 kW</source>
+        <translation>999,9 kW</translation>
+    </message>
+    <message>
+        <source>3,0 kW</source>
+        <translation>3,0 kW</translation>
+    </message>
+    <message>
+        <source>2,8 kW</source>
+        <translation>2,8 kW</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogPopup</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Are you sure?</source>
+        <translation>Är du säker?</translation>
+    </message>
+    <message>
+        <source>&lt;throbber&gt;</source>
+        <translation>&lt;throbber&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMDialogShowText</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTab</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMEnergyTabWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogram</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMHistogramWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>jaar</source>
+        <translation>år</translation>
+    </message>
+    <message>
+        <source>maand</source>
+        <translation>månad</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>vecka</translation>
+    </message>
+    <message>
+        <source>dag</source>
+        <translation>dag</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLabeledButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEdit</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMLineEditSearchDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMenuOverlay</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>afsluiten</source>
+        <translation>avsluta</translation>
+    </message>
+    <message>
+        <source>standby</source>
+        <translation>viloläge</translation>
+    </message>
+    <message>
+        <source>annuleren</source>
+        <translation>avbryt</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>status</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMMultiLineDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Select Farm</source>
+        <translation>Välj</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMNumericKeypad</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageBackground</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeader</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>startscherm</source>
+        <translation>startsida</translation>
+    </message>
+    <message>
+        <source>zaterdag 25 februari 2011, 15:15</source>
+        <translation>fredag 25 februari 2011, 15:15</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPageHeaderButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPasswordDialog</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Visa</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMPixmap</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMProfileButton</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSimpleListView</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Text label</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartDayHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>till</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartMonthHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>till</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMSmartWeekHistogram</name>
+    <message>
+        <source>t/m</source>
+        <translation>till</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTextLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMTotalsTodayWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>totaal vandaag</source>
+        <translation>totalt i dag</translation>
+    </message>
+    <message>
+        <source>verbruik</source>
+        <translation>förbrukning</translation>
+    </message>
+    <message>
+        <source>productie</source>
+        <translation>produktion</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWeekHistogram</name>
+    <message>
+        <source>weekoverzicht</source>
+        <translation>vecka</translation>
+    </message>
+    <message>
+        <source>t/m</source>
+        <translation>till</translation>
+    </message>
+</context>
+<context>
+    <name>ZEMWidgetLabel</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+</TS>
