@@ -11,6 +11,7 @@
 #include <QLoggingCategory>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTranslator>
 #include <ZEMStyle>
 
 namespace {
@@ -37,10 +38,20 @@ void setLook()
     ZEMStyle::setApplicationFonts();
     // A blinking cursor would make a picture differ from the next.
     QApplication::setCursorFlashTime(0);
-    // Texts of the library are Dutch, and so are the dates and numbers in them.
-    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     // The chart page and the keyboards of the library trace what they do.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+}
+
+/** Texts of the library, and the dates and numbers in them. */
+void speak(const QString &language)
+{
+    QLocale::setDefault(QLocale(language));
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    // Dutch is what the texts are without one.
+    if (translator->load(QLocale(), QStringLiteral("zemkit"), QStringLiteral("_"),
+                         QStringLiteral(":/zemkit/translations"))) {
+        QCoreApplication::installTranslator(translator);
+    }
 }
 
 /** Beside the program where it is installed, else those of the sources. */
@@ -71,6 +82,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     nameApplication();
     setLook();
+    speak(options.language);
 
     if (!options.screenshots.isEmpty()) {
         const QString problem = writePictures(options.screenshots, keyboardDirectory());

@@ -7,6 +7,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 
 namespace {
 
@@ -29,6 +30,18 @@ Options answer(const QString &text)
     options.action = Options::Action::PrintAndEnd;
     options.text = text;
     return options;
+}
+
+/** Dutch, which needs no catalogue, and those of the library. */
+QStringList languages()
+{
+    QStringList all {QStringLiteral("nl")};
+    const QStringList catalogues = QDir(QStringLiteral(":/zemkit/translations")).entryList();
+    for (const QString &catalogue : catalogues) {
+        all << catalogue.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    }
+    all.sort();
+    return all;
 }
 
 QString listOfClasses()
@@ -62,7 +75,12 @@ Options readOptions(const QStringList &arguments)
         QStringLiteral("screenshots"),
         QStringLiteral("Write the sample of each class as a PNG to this directory, and end."),
         QStringLiteral("DIR"));
-    parser.addOptions({page, list, screenshots});
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("Let the library speak %1; Dutch unless given.")
+            .arg(languages().join(QStringLiteral(", "))),
+        QStringLiteral("LANGUAGE"), QStringLiteral("nl"));
+    parser.addOptions({page, list, language, screenshots});
 
     if (!parser.parse(arguments)) {
         return refusal(parser.errorText());
@@ -90,8 +108,14 @@ Options readOptions(const QStringList &arguments)
                        exitNothingToShow);
     }
 
+    if (!languages().contains(parser.value(language))) {
+        return refusal(QStringLiteral("no language '%1'; there is %2")
+                           .arg(parser.value(language), languages().join(QStringLiteral(", "))));
+    }
+
     Options options;
     options.page = parser.value(page);
+    options.language = parser.value(language);
     options.screenshots = parser.value(screenshots);
     return options;
 }

@@ -21,6 +21,7 @@ struct Options
     int status = 0;
 
     QString page; ///< the class whose page is to be opened; empty: the index
+    QString language; ///< "de"; those of the library are there, and "nl"
     QString screenshots; ///< directory for the pictures of all samples; empty: show the gallery
 };
 

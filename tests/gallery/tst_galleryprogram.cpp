@@ -67,7 +67,8 @@ void tst_GalleryProgram::help()
 {
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.status, 0);
-    for (const char *option : {"--page", "--list", "--screenshots", "--help", "--version"}) {
+    for (const char *option :
+         {"--page", "--list", "--language", "--screenshots", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QCOMPARE(result.errors, QString());
@@ -107,6 +108,9 @@ void tst_GalleryProgram::refusals_data()
                               << "unexpected argument 'ZEMButton'";
     QTest::newRow("no directory") << QStringList {"--screenshots="} << 1
                                   << "--screenshots wants a directory";
+    QTest::newRow("unknown language")
+        << QStringList {"--language", "el"} << 1
+        << "no language 'el'; there is de, en, es, fr, it, nl, pl, sv";
     QTest::newRow("no value") << QStringList {"--page"} << 1 << "page";
 }
 
