@@ -7,7 +7,6 @@
 
 #include <QFile>
 #include <QJsonDocument>
-#include <algorithm>
 
 // Where the resources of a static library are asked for, no namespace may be open.
 static void addReadyMappings()
@@ -42,22 +41,10 @@ constexpr UnitName unitNames[] = {
     {"MJ", MqttUnit::Gigajoule, 0.001},
 };
 
-/** "line:column" of the byte before the @p offset, at which a parser gave up; both from 1 on. */
-QString placeOf(const QByteArray &text, int offset)
-{
-    const QByteArray before = text.left(std::max(offset - 1, 0));
-    return QStringLiteral("%1:%2")
-        .arg(before.count('\n') + 1)
-        .arg(QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1);
-}
-
 MqttMapping parseMapping(const QString &name, const QByteArray &text, QString *problem)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        *problem =
-            QStringLiteral("%1:%2: %3").arg(name, placeOf(text, error.offset), error.errorString());
+    const QJsonDocument document = Readings::parseJson(name, text, problem);
+    if (document.isNull()) {
         return {};
     }
     MqttMappingReader reader;

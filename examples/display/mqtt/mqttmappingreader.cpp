@@ -43,11 +43,6 @@ const std::vector<Column> &columns()
     return Readings::profiles().front().columns;
 }
 
-QString below(const QString &place, const QString &key)
-{
-    return place.isEmpty() ? key : place + QLatin1Char('.') + key;
-}
-
 template <typename Names>
 QString listOf(const Names &names)
 {
@@ -91,24 +86,6 @@ MqttMapping MqttMappingReader::read(const QJsonDocument &document)
     }
     readValues(object.value(valuesKey), mapping);
     return mapping;
-}
-
-void MqttMappingReader::note(const QString &place, const QString &what)
-{
-    if (firstProblem.isEmpty()) {
-        firstProblem = place.isEmpty() ? what : QStringLiteral("%1: %2").arg(place, what);
-    }
-}
-
-void MqttMappingReader::checkKeys(const QJsonObject &object, const QString &place,
-                                  const QStringList &known)
-{
-    for (const QString &key : object.keys()) {
-        if (key != QLatin1String("comment") && !known.contains(key)) {
-            note(below(place, key),
-                 QStringLiteral("is not known; there is %1").arg(known.join(QStringLiteral(", "))));
-        }
-    }
 }
 
 QString MqttMappingReader::text(const QJsonObject &object, const QString &place, const QString &key)
@@ -177,7 +154,7 @@ void MqttMappingReader::readValues(const QJsonValue &list, MqttMapping &mapping)
             return;
         }
         MqttValue value = readValue(values.at(i).toObject(), where);
-        if (!firstProblem.isEmpty()) {
+        if (!problem().isEmpty()) {
             return;
         }
         checkTwice(mapping, where, value);
@@ -191,7 +168,7 @@ MqttValue MqttMappingReader::readValue(const QJsonObject &object, const QString 
               {registerKey, powerKey, topicKey, pathKey, unitKey, signKey, timeKey, fromKey});
     MqttValue value;
     readMeaning(object, where, value);
-    if (firstProblem.isEmpty()) {
+    if (problem().isEmpty()) {
         readSources(object, where, value);
     }
     return value;

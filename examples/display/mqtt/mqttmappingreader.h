@@ -4,24 +4,18 @@
 #ifndef MQTTMAPPINGREADER_H
 #define MQTTMAPPINGREADER_H
 
+#include "jsonreader.h"
 #include "mqttmapping.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QJsonValue>
 
 /** Reads the JSON of a mapping. Whatever is not as it should be is a problem: the first is told. */
-class MqttMappingReader
+class MqttMappingReader : public Readings::JsonReader
 {
 public:
     MqttMapping read(const QJsonDocument &document);
 
-    /** "values[3].unit: what is wrong", in English; empty if all is well. */
-    QString problem() const { return firstProblem; }
-
 private:
-    void note(const QString &place, const QString &what);
-    void checkKeys(const QJsonObject &object, const QString &place, const QStringList &known);
     QString text(const QJsonObject &object, const QString &place, const QString &key);
     MqttPlace readPlace(const QJsonValue &value, const QString &where);
     std::vector<MqttPlace> readTimes(const QJsonValue &value);
@@ -33,8 +27,6 @@ private:
     MqttSource readSource(const QJsonObject &object, const QString &where, MqttUnit unit);
     void readUnit(const QJsonValue &value, const QString &where, MqttUnit unit, MqttSource &source);
     void checkTwice(const MqttMapping &mapping, const QString &where, const MqttValue &value);
-
-    QString firstProblem;
 };
 
 #endif
