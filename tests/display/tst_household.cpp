@@ -33,6 +33,7 @@ private Q_SLOTS:
     void firstFileGivesTheTimeZone();
     void oldReadingsMeetNewOnes();
     void oneRegisterMakesWayForTwoTariffs();
+    void tariffsOfOneRegisterAreNotTold();
     void registersThatAreThereStay();
     void twoTariffsMakeWayForOneRegister();
     void ownFormatHasNoTimeZoneOfItsOwn();
@@ -356,6 +357,28 @@ void tst_Household::oneRegisterMakesWayForTwoTariffs()
     QCOMPARE(house.amount(quantity, {0, oneHour}), Amount(1.0));
     house.makeWayFor({quantity, Tariff::Normal});
     QCOMPARE(house.amount(quantity, {0, 4 * oneHour}), Amount(10.0));
+}
+
+void tst_Household::tariffsOfOneRegisterAreNotTold()
+{
+    constexpr Quantity quantity = Quantity::GridImport;
+    const Register low {quantity, Tariff::Low};
+    const Register normal {quantity, Tariff::Normal};
+    Household house = ofRegisters({{low, {1, 2, 2}}, {normal, {5, 9, 9}}}, 2 * oneHour);
+    QVERIFY(house.tellsTariffs(quantity, {2 * oneHour, 4 * oneHour}));
+    QVERIFY(!house.tellsTariffs(Quantity::GridExport, {2 * oneHour, 4 * oneHour}));
+    // The third hour is told twice.
+    house.add(ofRegisters({{{quantity}, {10, 11, 13, 18}}}, 0));
+    QVERIFY(!house.tellsTariffs(quantity, {0, oneHour}));
+    QVERIFY(!house.tellsTariffs(quantity, {oneHour, 3 * oneHour}));
+    QVERIFY(house.tellsTariffs(quantity, {2 * oneHour, 3 * oneHour}));
+    QVERIFY(house.tellsTariffs(quantity, {3 * oneHour, 4 * oneHour}));
+    // What a further household is told of is known to the next.
+    Household live = ofRegisters({{low, {2, 2}}, {normal, {9, 11}}}, 4 * oneHour);
+    live.add(house);
+    QVERIFY(!live.tellsTariffs(quantity, {0, oneHour}));
+    QVERIFY(live.tellsTariffs(quantity, {3 * oneHour, 5 * oneHour}));
+    QVERIFY(!ofRegisters({{{quantity}, {10, 11}}}, 0).tellsTariffs(quantity, {0, oneHour}));
 }
 
 void tst_Household::registersThatAreThereStay()

@@ -36,6 +36,20 @@ std::vector<qint64> bordersOf(const Meter &meter)
     return borders;
 }
 
+/** The stretches that rows cover; those of rows that follow each other are one. */
+std::vector<Interval> stretchesOf(const std::vector<IntervalAmount> &rows)
+{
+    std::vector<Interval> stretches;
+    for (const IntervalAmount &row : rows) {
+        if (!stretches.empty() && stretches.back().to == row.interval.from) {
+            stretches.back().to = row.interval.to;
+        } else {
+            stretches.push_back(row.interval);
+        }
+    }
+    return stretches;
+}
+
 /** What meters counted together, from each instant at which all of them know to the next. */
 std::vector<IntervalAmount> sumOfRows(const std::vector<const Meter *> &meters)
 {
@@ -101,6 +115,11 @@ void Household::makeWayFor(const Register &meterRegister)
     for (auto entry = meters.begin(); entry != meters.end();) {
         entry = isOther(*entry) ? meters.erase(entry) : std::next(entry);
     }
+    if (hasTariffs(meterRegister)) {
+        const std::vector<Interval> stretches = stretchesOf(counted);
+        std::vector<Interval> &untold = untoldTariffs[quantity];
+        untold.insert(untold.end(), stretches.cbegin(), stretches.cend());
+    }
     const Tariff whole = hasTariffs(meterRegister) ? Tariff::Normal : Tariff::Single;
     for (const IntervalAmount &row : counted) {
         meter({quantity, whole}, Meter::Kind::Amounts).addAmount(row.interval, row.amount);
@@ -124,7 +143,29 @@ void Household::add(Household older)
             here.addAmount(row.interval, row.amount, row.tag);
         }
     }
+    for (const auto &[quantity, stretches] : older.untoldTariffs) {
+        std::vector<Interval> &untold = untoldTariffs[quantity];
+        untold.insert(untold.end(), stretches.cbegin(), stretches.cend());
+    }
     problems += older.problems;
+}
+
+bool Household::tellsTariffs(Quantity quantity, const Interval &interval) const
+{
+    const auto low = meters.find({quantity, Tariff::Low});
+    const auto normal = meters.find({quantity, Tariff::Normal});
+    if (low == meters.end() || normal == meters.end()) {
+        return false;
+    }
+    if (low->second.isRead(interval) && normal->second.isRead(interval)) {
+        return true;
+    }
+    const auto untold = untoldTariffs.find(quantity);
+    return untold == untoldTariffs.end()
+        || std::none_of(untold->second.cbegin(), untold->second.cend(),
+                        [&](const Interval &stretch) {
+                            return stretch.from < interval.to && interval.from < stretch.to;
+                        });
 }
 
 std::vector<const Meter *> Household::metersOf(Quantity quantity) const

@@ -57,9 +57,15 @@ public:
     /**
      * Makes way for a register of a live meter: where its quantity was counted by one register
      * until now and this is one of two tariffs, or the other way round, what was counted becomes
-     * amounts of the new registers. Of one register that is the normal tariff.
+     * amounts of the new registers. Of one register that is the normal tariff, of which
+     * tellsTariffs() knows.
      */
     void makeWayFor(const Register &meterRegister);
+    /**
+     * Whether the two tariffs of a quantity were counted apart in the whole interval; if so, each
+     * of them has a meter.
+     */
+    bool tellsTariffs(Quantity quantity, const Interval &interval) const;
     /**
      * Adds what another household's meters know; where they contradict each other, this one holds.
      * Its registers are fitted to those here, see makeWayFor(). The time zone stays.
@@ -99,6 +105,10 @@ public:
      * import and (where there is such a meter) export are known. Empty without import.
      */
     std::optional<GridPower> latestPower() const;
+
+private:
+    /** When one register counted what is now told by two. */
+    std::map<Quantity, std::vector<Interval>> untoldTariffs;
 };
 
 } // namespace Readings

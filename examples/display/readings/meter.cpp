@@ -154,6 +154,11 @@ std::optional<double> Meter::amount(qint64 from, qint64 to) const
     return amount(Interval {from, to});
 }
 
+bool Meter::isRead(const Interval &interval) const
+{
+    return counter && counter->amount(interval);
+}
+
 std::optional<Measured> Meter::measured(const Interval &interval) const
 {
     if (const std::optional<double> known = amount(interval)) {

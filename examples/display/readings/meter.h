@@ -107,6 +107,9 @@ public:
     std::optional<double> amount(const Interval &interval) const;
     std::optional<double> amount(qint64 from, qint64 to) const;
 
+    /** Whether amount() is what its readings tell, without any amount that was fed. */
+    bool isRead(const Interval &interval) const;
+
     /**
      * What is known of an interval: amount(), or else, marked as incomplete, total(). Empty if
      * nothing is known, which a reading alone does not change.
