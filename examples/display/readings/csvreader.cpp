@@ -106,6 +106,17 @@ void CsvReader::skipRestOfLine()
     }
 }
 
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && text.front() == ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
 std::optional<double> parseNumber(std::string_view text, char decimalSign)
 {
     static constexpr std::string_view letters = "0123456789+-eE";

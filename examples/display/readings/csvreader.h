@@ -57,6 +57,9 @@ private:
     bool tooLong = false;
 };
 
+/** The text without the blanks before and behind it. */
+std::string_view trimmed(std::string_view text);
+
 /**
  * Reads a decimal number, with @p decimalSign between whole and fraction. Empty unless the whole
  * text is a number that a double can hold: digits with an optional sign, fraction and exponent.

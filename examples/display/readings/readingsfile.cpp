@@ -41,17 +41,6 @@ int lineOf(qint64 tag)
     return static_cast<int>(tag & ((qint64(1) << lineBits) - 1));
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 Meter::Kind kindOf(const Column &column)
 {
     return column.role == Column::Role::Counter ? Meter::Kind::Counter : Meter::Kind::Amounts;
