@@ -20,6 +20,7 @@
 #include <QAction>
 #include <QRegularExpression>
 #include <ZEMMenuOverlay>
+#include <utility>
 
 namespace {
 
@@ -62,6 +63,15 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
     connect(&source, &EnergySource::meteringChanged, this, [this](bool metering) {
         addMessage(metering ? tr("De meter is er weer.") : tr("De meter zwijgt."));
     });
+}
+
+void DisplayWindow::setCostRules(Costs::CostRules rules)
+{
+    costs = std::move(rules);
+    for (const QString &problem : std::as_const(costs.problems)) {
+        addMessage(withPlaceBehind(problem));
+    }
+    months->setCostRules(&costs);
 }
 
 QStringList DisplayWindow::pageNames()
@@ -123,11 +133,12 @@ void DisplayWindow::makePages(const EnergySource &source)
 {
     auto *overview = new OverviewPage(source);
     charts = new ChartsPage(source, settings);
+    months = new MonthsPage(source);
     addPage(overview, overviewName);
     addPage(charts, chartsName);
     addPage(new DevicesPage(source), devicesName);
     addPage(new AnalysisPage(source), analysisName);
-    addPage(new MonthsPage(source), monthsName);
+    addPage(months, monthsName);
     addPage(new GoalsPage(source, settings, &dialogs), goalsName);
     addPage(new SettingsPage(source, settings, &dialogs), settingsName);
     makeOverview(overview);

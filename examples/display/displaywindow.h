@@ -4,6 +4,7 @@
 #ifndef DISPLAYWINDOW_H
 #define DISPLAYWINDOW_H
 
+#include "contract.h"
 #include "inputdialogs.h"
 #include "messagelist.h"
 
@@ -16,6 +17,7 @@ class ChartsPage;
 class DisplayPage;
 class DisplaySettings;
 class EnergySource;
+class MonthsPage;
 class OverviewPage;
 class StandbyKeeper;
 class ZEMMenuOverlay;
@@ -35,6 +37,9 @@ public:
      */
     DisplayWindow(const EnergySource &source, DisplaySettings *settings,
                   const QString &keyboardDirectory, QWidget *parent = nullptr);
+
+    /** Shows what things cost by @p rules, on the page of months; what is wrong is a message. */
+    void setCostRules(Costs::CostRules rules);
 
     /** The names of the pages, as on the command line; the first is the start page. */
     static QStringList pageNames();
@@ -80,6 +85,8 @@ private:
     ZEMActionListModel pageGrid;
     QList<QAction *> gridActions;
     ChartsPage *charts = nullptr;
+    MonthsPage *months = nullptr;
+    Costs::CostRules costs;
     ZEMMenuOverlay *menu = nullptr;
     QWidget *standby = nullptr;
     StandbyKeeper *keeper = nullptr;

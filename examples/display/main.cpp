@@ -43,6 +43,13 @@ void printError(const QString &line)
     QTextStream(stderr) << line << '\n';
 }
 
+void printErrors(const QStringList &lines)
+{
+    for (const QString &line : lines) {
+        printError(line);
+    }
+}
+
 void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("zemkit-display"));
@@ -86,9 +93,7 @@ std::unique_ptr<MeterSource> meterSource(const Options &options)
 std::optional<Readings::Household> readHousehold(const QStringList &files)
 {
     Readings::Household household = Readings::loadReadings(files);
-    for (const QString &problem : std::as_const(household.problems)) {
-        printError(problem);
-    }
+    printErrors(household.problems);
     if (energiesOf(household).empty()) {
         const bool isUsable = household.firstInstant().has_value();
         printError(isUsable ? QStringLiteral("zemkit-display: nothing to show, as the readings are "
@@ -157,9 +162,7 @@ int transfer(const Options &options, int argc, char *argv[])
     const Transfer done = options.imports.isEmpty()
         ? exportReadings(options.exportTo, options.history, p1TimeZone())
         : importReadings(options.imports, options.history, p1TimeZone());
-    for (const QString &problem : done.problems) {
-        printError(problem);
-    }
+    printErrors(done.problems);
     const QString line = QStringLiteral("zemkit-display: %1").arg(done.text);
     if (!done.succeeded) {
         printError(line);
@@ -167,6 +170,42 @@ int transfer(const Options &options, int argc, char *argv[])
     }
     QTextStream(stdout) << line << '\n';
     return 0;
+}
+
+/** Shows the display until it ends, or writes its pictures. Returns the status of the program. */
+int show(const Options &options, EnergySource *source)
+{
+    DisplaySettings settings;
+    DisplayWindow display(*source, &settings, keyboardDirectory());
+    if (options.costs) {
+        printErrors(options.costs->problems);
+        display.setCostRules(*options.costs);
+    }
+    Backlight backlight;
+    const auto light = [&](bool isDark) {
+        const QString problem = backlight.setLit(!isDark);
+        if (!problem.isEmpty()) {
+            printError(problem);
+            display.addMessage(problem);
+        }
+    };
+    // Whoever ended the display last may have left it dark.
+    light(false);
+    QObject::connect(&display, &DisplayWindow::standbyChanged, &display, light);
+    display.openPage(options.page);
+    display.show();
+    source->start();
+
+    if (!options.screenshots.isEmpty()) {
+        waitForPictures(source);
+        const QString problem = writeScreenshots(options.screenshots, &display);
+        if (!problem.isEmpty()) {
+            printError(QStringLiteral("zemkit-display: %1").arg(problem));
+            return exitFailure;
+        }
+        return 0;
+    }
+    return QApplication::exec();
 }
 
 } // namespace
@@ -196,40 +235,12 @@ int main(int argc, char *argv[])
 
     const QStringList problems = KeyboardFiles::problemsIn(keyboardDirectory());
     if (!problems.isEmpty()) {
-        for (const QString &problem : problems) {
-            printError(problem);
-        }
+        printErrors(problems);
         return exitFailure;
     }
     const std::unique_ptr<EnergySource> source = makeSource(options);
     if (!source) {
         return exitNothingToShow;
     }
-    DisplaySettings settings;
-    DisplayWindow display(*source, &settings, keyboardDirectory());
-    Backlight backlight;
-    const auto light = [&](bool isDark) {
-        const QString problem = backlight.setLit(!isDark);
-        if (!problem.isEmpty()) {
-            printError(problem);
-            display.addMessage(problem);
-        }
-    };
-    // Whoever ended the display last may have left it dark.
-    light(false);
-    QObject::connect(&display, &DisplayWindow::standbyChanged, &display, light);
-    display.openPage(options.page);
-    display.show();
-    source->start();
-
-    if (!options.screenshots.isEmpty()) {
-        waitForPictures(source.get());
-        const QString problem = writeScreenshots(options.screenshots, &display);
-        if (!problem.isEmpty()) {
-            printError(QStringLiteral("zemkit-display: %1").arg(problem));
-            return exitFailure;
-        }
-        return 0;
-    }
-    return QApplication::exec();
+    return show(options, source.get());
 }

@@ -3,6 +3,7 @@
 
 #include "options.h"
 
+#include "costoptions.h"
 #include "historykeeper.h"
 #include "houseclock.h"
 #include "mqttoptions.h"
@@ -82,6 +83,10 @@ public:
     {
         return mqtt.read(parser, problem);
     }
+    std::optional<Costs::CostRules> costs(QString *problem) const
+    {
+        return costOptions.read(parser, problem);
+    }
 
 private:
     QString missingValue() const;
@@ -104,6 +109,7 @@ private:
                        "serial port as /dev/ttyUSB0, or [tcp://]host:port."),
         QStringLiteral("SOURCE")};
     const MqttOptions mqtt;
+    const CostOptions costOptions;
     const QCommandLineOption importFiles {
         QStringLiteral("import"),
         QStringLiteral("Keep the readings of these CSV files in the history, and end."),
@@ -141,6 +147,7 @@ CommandLine::CommandLine(const QStringList &pages)
                        "simulated one, or a real one with --readings, --p1 or --mqtt."));
     parser.addOptions({help, version, readings, meter});
     parser.addOptions(mqtt.all());
+    parser.addOptions(costOptions.all());
     parser.addOptions({importFiles, exportFile, data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings or --import."),
@@ -251,5 +258,8 @@ Options readOptions(const QStringList &arguments, const QStringList &pages)
     }
     Options options = line.options();
     options.mqtt = line.publisher(&problem);
+    if (problem.isEmpty()) {
+        options.costs = line.costs(&problem);
+    }
     return problem.isEmpty() ? options : refusal(problem);
 }

@@ -4,6 +4,7 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
+#include "contract.h"
 #include "mqttmeter.h"
 
 #include <QString>
@@ -25,6 +26,7 @@ struct Options
     QStringList readings; ///< CSV files
     QStringList imports; ///< CSV files to be kept in the history
     QString exportTo; ///< CSV file that the history is to be written to
+    std::optional<Costs::CostRules> costs; ///< what things cost
     QString meter; ///< where a smart meter is to be followed; empty: no meter
     std::optional<MqttSettings> mqtt; ///< a publisher that is to be followed
     QString history; ///< directory of the history of a meter; empty: it is not kept

@@ -56,12 +56,18 @@ ZEMButton *makeTextButton(const QString &text)
     return button;
 }
 
-ZEMButton *makeIconButton(const QString &icon)
+ZEMButton *makeSquareButton()
 {
     const QString pictures = QStringLiteral(":/zem/graphics/main/buttons/btn_square_small%1.png");
     auto *button = new ZEMButton;
     button->setBackground(QPixmap(pictures.arg(QString())));
     button->setBackgroundDisabled(QPixmap(pictures.arg(QStringLiteral("_disabled"))));
+    return button;
+}
+
+ZEMButton *makeIconButton(const QString &icon)
+{
+    ZEMButton *button = makeSquareButton();
     button->setIcon(QIcon(QStringLiteral(":/tango/graphics/tango/actions/%1-icon.png").arg(icon)));
     return button;
 }

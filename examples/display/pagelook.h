@@ -34,7 +34,9 @@ ZEMTextLabel *makeLabel(const QString &text, int pointSize);
 
 /** A wide button with a text, 152 by 75 pixels. */
 ZEMButton *makeTextButton(const QString &text);
-/** A square button of 75 by 75 pixels with the icon of that name, as "go-up". */
+/** A square button of 75 by 75 pixels. */
+ZEMButton *makeSquareButton();
+/** One with the icon of that name, as "go-up". */
 ZEMButton *makeIconButton(const QString &icon);
 
 /** A field to touch, which shows what was entered, 233 by 50 pixels. */

@@ -11,6 +11,7 @@
 #include <QEventLoop>
 #include <QPixmap>
 #include <QTimer>
+#include <ZEMButton>
 #include <ZEMDialogPopup>
 #include <ZEMDialogShowText>
 #include <ZEMLineEditButton>
@@ -100,6 +101,18 @@ void writeCharts(PictureWriter &writer, DisplayWindow *display)
     }
 }
 
+/** The page of months once more, with what they cost. */
+void writeCosts(PictureWriter &writer, DisplayWindow *display)
+{
+    display->openPage(QStringLiteral("months"));
+    auto *change = display->currentWidget()->findChild<ZEMButton *>(QStringLiteral("change"));
+    if (change && change->isVisible()) {
+        change->click();
+        writer.write(QStringLiteral("months-costs"));
+        change->click();
+    }
+}
+
 /** What the header opens, and what each field of a page asks. */
 void writeOverlays(PictureWriter &writer, DisplayWindow *display)
 {
@@ -126,6 +139,7 @@ QString writeScreenshots(const QString &directory, DisplayWindow *display)
         display->openPage(name);
         writer.write(name);
     }
+    writeCosts(writer, display);
     writeCharts(writer, display);
     writeOverlays(writer, display);
     return writer.firstProblem();

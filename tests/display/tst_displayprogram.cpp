@@ -108,7 +108,7 @@ void tst_DisplayProgram::help()
     for (const char *option :
          {"--readings", "--p1", "--mqtt", "--mapping", "--mqtt-credentials", "--mqtt-ca",
           "--print-mapping", "--import", "--export", "--data", "--no-history", "--speed",
-          "--screenshots", "--page", "--help", "--version"}) {
+          "--screenshots", "--page", "--contract", "--prices", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QVERIFY(!result.output.contains(QStringLiteral("--help-all")));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "contract.h"
 #include "household.h"
 #include "monthstable.h"
 
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void monthOfWhichAPartWasMeasuredIsALeast();
     void columnsAreWhatIsMeasured();
     void tariffsAreOneColumn();
+    void costsHaveColumnsOfTheirOwn();
+    void standingChargeIsAColumnWhereThereIsOne();
 
 private:
     static void count(Household *household, const Readings::Register &meterRegister,
@@ -129,6 +132,53 @@ void tst_MonthsTable::tariffsAreOneColumn()
     table.show(household);
     QCOMPARE(table.columnCount(), 2);
     QCOMPARE(table.index(0, 1).data().toString(), QStringLiteral("93,0"));
+}
+
+void tst_MonthsTable::costsHaveColumnsOfTheirOwn()
+{
+    Household household;
+    count(&household, {Quantity::GridImport}, QDate(2024, 1, 1), QDate(2024, 2, 1), 10.0);
+    count(&household, {Quantity::GridExport}, QDate(2024, 1, 5), QDate(2024, 2, 1), 1.0);
+    count(&household, {Quantity::Water}, QDate(2024, 1, 1), QDate(2024, 2, 1), 1.0);
+    const Costs::CostRules rules {{{QDate(2024, 1, 1),
+                                    {{Quantity::GridImport, {30000, 30000}},
+                                     {Quantity::GridExport, {10000, 10000}},
+                                     {Quantity::Gas, {100000, 100000}}}}}};
+    MonthsTable table;
+    const QAbstractItemModelTester tester(&table);
+    table.show(household);
+    QCOMPARE(table.columnCount(), 4);
+    table.showCosts(household, rules);
+    QStringList titles;
+    QStringList texts;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        titles.append(table.headerData(column, Qt::Horizontal).toString());
+        texts.append(table.index(0, column).data().toString());
+    }
+    QCOMPARE(titles,
+             (QStringList {QStringLiteral("maand"), QStringLiteral("verbruik\n€"),
+                           QStringLiteral("terug\n€"), QStringLiteral("gas\n€"),
+                           QStringLiteral("totaal\n€")}));
+    // That the gas costs something and the rest of the export brings something in, leaves no total.
+    QCOMPARE(texts,
+             (QStringList {QStringLiteral("jan. 2024"), QStringLiteral("93,00"),
+                           QStringLiteral("≤ -2,70"), QStringLiteral("–"), QStringLiteral("–")}));
+    table.show(household);
+    QCOMPARE(table.columnCount(), 4);
+}
+
+void tst_MonthsTable::standingChargeIsAColumnWhereThereIsOne()
+{
+    Household household;
+    count(&household, {Quantity::GridImport}, QDate(2024, 1, 1), QDate(2024, 2, 1), 10.0);
+    const Costs::CostRules rules {
+        {{QDate(2024, 1, 1), {{Quantity::GridImport, {30000, 30000}}}, 1250000}}};
+    MonthsTable table;
+    table.showCosts(household, rules);
+    QCOMPARE(table.columnCount(), 4);
+    QCOMPARE(table.headerData(2, Qt::Horizontal).toString(), QStringLiteral("vast\n€"));
+    QCOMPARE(table.index(0, 2).data().toString(), QStringLiteral("12,50"));
+    QCOMPARE(table.index(0, 3).data().toString(), QStringLiteral("105,50"));
 }
 
 QTEST_GUILESS_MAIN(tst_MonthsTable)

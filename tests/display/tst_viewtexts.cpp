@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QTest>
 
+Q_DECLARE_METATYPE(Costs::Cost)
 Q_DECLARE_METATYPE(Period)
 
 class tst_ViewTexts : public QObject
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void slotNames_data();
     void slotNames();
     void amounts();
+    void euros_data();
+    void euros();
 };
 
 void tst_ViewTexts::initTestCase()
@@ -65,6 +68,36 @@ void tst_ViewTexts::amounts()
     QCOMPARE(text(1234.56, false, "kWh"), QStringLiteral("≥ 1.234,6 kWh"));
     QCOMPARE(text(0.0124, true, "GJ"), QStringLiteral("0,012 GJ"));
     QCOMPARE(ViewTexts::amount(std::nullopt, QStringLiteral("kWh")), QStringLiteral("–"));
+}
+
+void tst_ViewTexts::euros_data()
+{
+    QTest::addColumn<Costs::Cost>("cost");
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char *row, const Costs::Cost &cost, const char *text) {
+        QTest::newRow(row) << cost << QString::fromUtf8(text);
+    };
+    add("euros", {123456000000, true}, "1.234,56");
+    add("half a cent", {500000, true}, "0,01");
+    add("less than that", {-499999, true}, "0,00");
+    add("income", {-1234000000, true}, "-12,34");
+    add("least", {1234000000, true, true}, "≥ 12,34");
+    add("most", {-1234000000, true, false, true}, "≤ -12,34");
+    add("either", {1234000000, true, true, true}, "–");
+    add("nothing known", {0, false, true}, "–");
+    add("nothing", {}, "–");
+}
+
+void tst_ViewTexts::euros()
+{
+    QFETCH(Costs::Cost, cost);
+    QFETCH(QString, text);
+    QCOMPARE(ViewTexts::euro(cost), text);
+    const QString whole = text.section(QLatin1Char(','), 0, 0);
+    QCOMPARE(ViewTexts::euro({cost.known / 100000000 * 100000000, cost.isPartKnown, cost.mayBeMore,
+                              cost.mayBeLess},
+                             0),
+             whole);
 }
 
 QTEST_GUILESS_MAIN(tst_ViewTexts)

@@ -3,8 +3,10 @@
 
 #include "monthstable.h"
 
-#include "chartvalues.h"
+#include "calendar.h"
 #include "household.h"
+#include "monthlist.h"
+#include "periodcosts.h"
 #include "viewtexts.h"
 
 #include <QLocale>
@@ -12,11 +14,6 @@
 using Readings::Quantity;
 
 namespace {
-
-/** The columns, from left to right. */
-constexpr Quantity shownQuantities[] = {Quantity::GridImport,      Quantity::GridExport,
-                                        Quantity::SolarProduction, Quantity::Gas,
-                                        Quantity::Heating,         Quantity::Water};
 
 QString titleOf(Quantity quantity)
 {
@@ -36,6 +33,16 @@ QString titleOf(Quantity quantity)
     }
 }
 
+QString heading(const QString &title, const QString &unit)
+{
+    return QStringLiteral("%1\n%2").arg(title, unit);
+}
+
+QString euroHeading(const QString &title)
+{
+    return heading(title, QStringLiteral("€"));
+}
+
 /** Heat comes in GJ, of which a month has few. */
 int decimalsOf(Quantity quantity)
 {
@@ -47,34 +54,62 @@ int decimalsOf(Quantity quantity)
 void MonthsTable::show(const Readings::Household &household)
 {
     beginResetModel();
-    quantities.clear();
+    headings.clear();
     rows.clear();
-    for (const Quantity quantity : shownQuantities) {
-        if (household.total(quantity) > 0.0) {
-            quantities.push_back(quantity);
-        }
+    const std::vector<Quantity> quantities = Costs::countedQuantities(household);
+    for (const Quantity quantity : quantities) {
+        headings.append(heading(titleOf(quantity), Readings::quantityInfo(quantity).unit));
     }
     const Readings::Calendar calendar(household.timeZone);
-    const DateRange dates = datesOf(household);
-    for (QDate month(dates.last.year(), dates.last.month(), 1);
-         !quantities.empty() && month.addMonths(1) > dates.first; month = month.addMonths(-1)) {
-        rows.push_back({month, {}});
+    for (const QDate &month : Costs::monthsOf(household)) {
+        QStringList cells;
         for (const Quantity quantity : quantities) {
-            rows.back().totals.push_back(
-                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month)));
+            cells.append(ViewTexts::number(
+                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month)),
+                decimalsOf(quantity)));
         }
+        rows.push_back({month, cells});
+    }
+    endResetModel();
+}
+
+void MonthsTable::showCosts(const Readings::Household &household, const Costs::CostRules &rules,
+                            int decimals)
+{
+    beginResetModel();
+    headings.clear();
+    rows.clear();
+    const std::vector<Quantity> quantities = Costs::pricedQuantities(household, rules);
+    for (const Quantity quantity : quantities) {
+        headings.append(euroHeading(titleOf(quantity)));
+    }
+    if (rules.hasStanding()) {
+        headings.append(euroHeading(tr("vast")));
+    }
+    headings.append(euroHeading(tr("totaal")));
+    for (const QDate &month : Costs::monthsOf(household)) {
+        const Costs::MonthCosts costs = Costs::costsOfMonth(household, rules, month);
+        QStringList cells;
+        for (const Quantity quantity : quantities) {
+            cells.append(ViewTexts::euro(costs.lines.at(quantity), decimals));
+        }
+        if (rules.hasStanding()) {
+            cells.append(ViewTexts::euro(costs.standing, decimals));
+        }
+        cells.append(ViewTexts::euro(costs.total, decimals));
+        rows.push_back({month, cells});
     }
     endResetModel();
 }
 
 int MonthsTable::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(rows.size());
+    return parent.isValid() || headings.isEmpty() ? 0 : int(rows.size());
 }
 
 int MonthsTable::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(quantities.size()) + 1;
+    return parent.isValid() ? 0 : headings.size() + 1;
 }
 
 QVariant MonthsTable::data(const QModelIndex &index, int role) const
@@ -90,8 +125,7 @@ QVariant MonthsTable::data(const QModelIndex &index, int role) const
     if (isMonth) {
         return QLocale().toString(row.month, QStringLiteral("MMM yyyy"));
     }
-    const auto column = std::size_t(index.column() - 1);
-    return ViewTexts::number(row.totals.at(column), decimalsOf(quantities.at(column)));
+    return row.cells.at(index.column() - 1);
 }
 
 QVariant MonthsTable::headerData(int section, Qt::Orientation orientation, int role) const
@@ -105,9 +139,5 @@ QVariant MonthsTable::headerData(int section, Qt::Orientation orientation, int r
     if (role != Qt::DisplayRole) {
         return {};
     }
-    if (section == 0) {
-        return tr("maand");
-    }
-    const Quantity quantity = quantities.at(std::size_t(section - 1));
-    return QStringLiteral("%1\n%2").arg(titleOf(quantity), Readings::quantityInfo(quantity).unit);
+    return section == 0 ? tr("maand") : headings.at(section - 1);
 }

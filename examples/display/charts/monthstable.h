@@ -4,22 +4,24 @@
 #ifndef MONTHSTABLE_H
 #define MONTHSTABLE_H
 
-#include "meter.h"
-#include "quantity.h"
-
 #include <QAbstractTableModel>
 #include <QDate>
-#include <optional>
+#include <QStringList>
 #include <vector>
 
 namespace Readings {
 class Household;
 }
 
+namespace Costs {
+struct CostRules;
+}
+
 /**
- * The totals of all months, newest first: the month, and a column for each quantity that the house
- * measures. A month of which only a part was measured is told with "≥", one of which nothing is
- * known by a dash; the present one counts so far.
+ * What all months come to, newest first: the month, and a column for each quantity that the house
+ * measures, or for each that it pays for. A month of which only a part is known is told with "≥"
+ * (or "≤", where what is missing makes it less), one of which nothing can be told by a dash; the
+ * present one counts so far.
  */
 class MonthsTable : public QAbstractTableModel
 {
@@ -28,7 +30,11 @@ class MonthsTable : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    /** Shows the amounts. */
     void show(const Readings::Household &household);
+    /** Shows what they cost, in euro with so many decimals. */
+    void showCosts(const Readings::Household &household, const Costs::CostRules &rules,
+                   int decimals = 2);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -40,10 +46,11 @@ private:
     struct Row
     {
         QDate month;
-        std::vector<std::optional<Readings::Measured>> totals;
+        QStringList cells;
     };
 
-    std::vector<Readings::Quantity> quantities;
+    /** Without the month. */
+    QStringList headings;
     std::vector<Row> rows;
 };
 

@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr double centsPerEuro = 100.0;
 constexpr double manyDigits = 9.995; // from here on one decimal tells enough
 
 QString tr(const char *text)
@@ -64,6 +65,16 @@ QString amount(const std::optional<Readings::Measured> &measured, const QString 
     // Heat comes in GJ, of which an hour has few.
     const int decimals = unit == QLatin1String("GJ") ? 3 : measured->amount < manyDigits ? 2 : 1;
     return QStringLiteral("%1 %2").arg(number(measured, decimals), unit);
+}
+
+QString euro(const Costs::Cost &cost, int decimals)
+{
+    if (!cost.isTold()) {
+        return number(std::nullopt, 0);
+    }
+    const double euros = double(cost.cents()) / centsPerEuro;
+    const QString text = number(Readings::Measured {euros, !cost.mayBeMore}, decimals);
+    return cost.mayBeLess ? QStringLiteral("≤ %1").arg(text) : text;
 }
 
 } // namespace ViewTexts

@@ -4,6 +4,7 @@
 #ifndef VIEWTEXTS_H
 #define VIEWTEXTS_H
 
+#include "cost.h"
 #include "meter.h"
 #include "period.h"
 
@@ -22,6 +23,12 @@ QString number(const std::optional<Readings::Measured> &measured, int decimals);
 
 /** "12,3 kWh", "≥ 12,3 kWh" of which a part is not known, "–" of nothing. */
 QString amount(const std::optional<Readings::Measured> &measured, const QString &unit);
+
+/**
+ * "12,34" euro (or "12" without @p decimals), "≥ 12,34" or "≤ 12,34" of which a part is not known
+ * that makes it more or less, "–" where that may be both, or of nothing.
+ */
+QString euro(const Costs::Cost &cost, int decimals = 2);
 
 } // namespace ViewTexts
 

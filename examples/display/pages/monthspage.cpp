@@ -4,11 +4,11 @@
 #include "monthspage.h"
 
 #include "energysource.h"
+#include "fittedtableview.h"
 #include "pagelook.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QTableView>
 #include <ZEMButton>
 #include <ZEMStyle>
 #include <ZEMTableViewLogic>
@@ -18,7 +18,6 @@ namespace {
 constexpr int rowsOfPage = 10;
 constexpr int rowHeight = 32; // pixels
 constexpr int headingHeight = 48; // pixels, for two lines
-constexpr int monthWidth = 92; // pixels
 constexpr int buttonGap = 12; // pixels
 
 } // namespace
@@ -36,6 +35,13 @@ MonthsPage::MonthsPage(const EnergySource &source, QWidget *parent)
     connect(&source, &EnergySource::historyChanged, this, &MonthsPage::handleHistory);
 }
 
+void MonthsPage::setCostRules(const Costs::CostRules *costRules)
+{
+    rules = costRules;
+    change->show();
+    handleHistory();
+}
+
 void MonthsPage::showEvent(QShowEvent *event)
 {
     DisplayPage::showEvent(event);
@@ -44,7 +50,8 @@ void MonthsPage::showEvent(QShowEvent *event)
 
 void MonthsPage::makeTable()
 {
-    view = new QTableView;
+    view = new FittedTableView;
+    view->setObjectName(QStringLiteral("table"));
     view->setFont(PageLook::textFont(13));
     view->setFixedHeight(headingHeight + rowsOfPage * rowHeight);
     view->setFrameShape(QFrame::NoFrame);
@@ -56,7 +63,7 @@ void MonthsPage::makeTable()
     view->verticalHeader()->hide();
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(rowHeight);
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->horizontalHeader()->setSectionsClickable(false);
     view->horizontalHeader()->setFixedHeight(headingHeight);
     PageLook::makeTransparent(view);
@@ -69,14 +76,14 @@ void MonthsPage::makeTable()
     pages = new ZEMTableViewLogic(view);
     pages->setNrPageItems(rowsOfPage);
     pages->setModel(&months);
-    view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
-    view->horizontalHeader()->resizeSection(0, monthWidth);
 }
 
 QWidget *MonthsPage::makeButtons()
 {
     ZEMButton *up = PageLook::makeIconButton(QStringLiteral("go-up"));
     ZEMButton *down = PageLook::makeIconButton(QStringLiteral("go-down"));
+    up->setObjectName(QStringLiteral("up"));
+    down->setObjectName(QStringLiteral("down"));
     connect(up, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_previous);
     connect(down, &ZEMButton::clicked, pages, &ZEMTableViewLogic::page_next);
     connect(pages, &ZEMTableViewLogic::has_page, this, [up, down](bool before, bool after) {
@@ -84,10 +91,18 @@ QWidget *MonthsPage::makeButtons()
         down->setEnabled(after);
     });
 
+    change = PageLook::makeSquareButton();
+    change->setObjectName(QStringLiteral("change"));
+    change->setFont(PageLook::textFont(18));
+    change->hide();
+    connect(change, &ZEMButton::clicked, this, &MonthsPage::changeTable);
+
     auto *buttons = new QWidget;
     auto *column = new QVBoxLayout(buttons);
     column->setContentsMargins(0, headingHeight, 0, 0);
     column->addWidget(up);
+    column->addStretch();
+    column->addWidget(change);
     column->addStretch();
     column->addWidget(down);
     return buttons;
@@ -101,6 +116,12 @@ void MonthsPage::handleHistory()
     }
 }
 
+void MonthsPage::changeTable()
+{
+    showsCosts = !showsCosts;
+    handleHistory();
+}
+
 void MonthsPage::feed()
 {
     if (isFed) {
@@ -109,6 +130,15 @@ void MonthsPage::feed()
     isFed = true;
     // The page in view stays, as the table chooses its row again.
     const int row = view->currentIndex().row();
-    months.show(energySource().household());
+    const Readings::Household &household = energySource().household();
+    if (showsCosts) {
+        months.showCosts(household, *rules);
+        if (!view->fits()) {
+            months.showCosts(household, *rules, 0);
+        }
+    } else {
+        months.show(household);
+    }
+    change->setText(showsCosts ? QStringLiteral("kWh") : QStringLiteral("€"));
     pages->setIndex(row > 0 ? row : 0);
 }

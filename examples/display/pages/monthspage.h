@@ -7,17 +7,30 @@
 #include "displaypage.h"
 #include "monthstable.h"
 
-class QTableView;
+namespace Costs {
+struct CostRules;
+}
+
+class FittedTableView;
 class ZEMButton;
 class ZEMTableViewLogic;
 
-/** The totals of all months in a table that is paged with two buttons. */
+/**
+ * The totals of all months in a table that is paged with two buttons; where it is known what they
+ * cost, a third button changes between the two.
+ */
 class MonthsPage : public DisplayPage
 {
     Q_OBJECT
 
 public:
     explicit MonthsPage(const EnergySource &source, QWidget *parent = nullptr);
+
+    /**
+     * Shows what the months cost by @p rules, as soon as the button is touched. They must live as
+     * long as the page does; to be called again when they have changed.
+     */
+    void setCostRules(const Costs::CostRules *rules);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -26,11 +39,15 @@ private:
     void makeTable();
     QWidget *makeButtons();
     void handleHistory();
+    void changeTable();
     void feed();
 
+    const Costs::CostRules *rules = nullptr;
+    bool showsCosts = false;
     MonthsTable months;
-    QTableView *view = nullptr;
+    FittedTableView *view = nullptr;
     ZEMTableViewLogic *pages = nullptr;
+    ZEMButton *change = nullptr;
     bool isFed = false;
 };
 

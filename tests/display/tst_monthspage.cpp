@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "costhouse.h"
+#include "paintcounter.h"
+#include "playedsource.h"
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <ZEMButton>
+#include <ZEMStyle>
+
+using namespace CostHouse;
+
+/** The page of months, whose table a button changes from amounts to costs. */
+class tst_MonthsPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void withoutAContractThereIsNoButton();
+    void buttonChangesTheTable();
+    void changePaintsTheTable();
+    void pageInViewStays();
+    void longNumbersAreWhole();
+    void costsFollowTheMeter();
+
+private:
+    static QStringList row(const PlayedDisplay &display, int index)
+    {
+        const auto *table = display.onPage<QTableView>("table");
+        QStringList texts;
+        for (int column = 0; column < table->model()->columnCount(); ++column) {
+            texts.append(table->model()->index(index, column).data().toString());
+        }
+        return texts;
+    }
+    static ZEMButton *button(const PlayedDisplay &display)
+    {
+        return display.onPage<ZEMButton>("change");
+    }
+
+    std::unique_ptr<PlayedSource> source;
+};
+
+void tst_MonthsPage::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    ZEMStyle::setApplicationFonts();
+}
+
+void tst_MonthsPage::init()
+{
+    source = std::make_unique<PlayedSource>();
+    countDays(&source->readings, {Quantity::GridImport}, QDate(2015, 1, 1), QDate(2016, 3, 9),
+              10.0);
+    countDays(&source->readings, {Quantity::Gas}, QDate(2016, 1, 15), QDate(2016, 3, 9), 2.0);
+}
+
+/** € 0.30 for a kWh, € 1.20 for a m³, and € 12.50 a month. */
+static Costs::CostRules rules()
+{
+    return {{{QDate(2015, 1, 1),
+              {{Quantity::GridImport, {30000, 30000}}, {Quantity::Gas, {120000, 120000}}},
+              1250000}}};
+}
+
+void tst_MonthsPage::withoutAContractThereIsNoButton()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    QVERIFY(!button(display)->isVisible());
+    QCOMPARE(row(display, 1),
+             (QStringList {QStringLiteral("feb. 2016"), QStringLiteral("290,0"),
+                           QStringLiteral("58,0")}));
+}
+
+void tst_MonthsPage::buttonChangesTheTable()
+{
+    PlayedDisplay display(*source);
+    display.window.setCostRules(rules());
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    QVERIFY(button(display)->isVisible());
+    QCOMPARE(button(display)->text(), QStringLiteral("€"));
+    const QStringList amounts = row(display, 2);
+    QCOMPARE(amounts,
+             (QStringList {QStringLiteral("jan. 2016"), QStringLiteral("310,0"),
+                           QStringLiteral("≥ 34,0")}));
+
+    PlayedDisplay::tap(button(display));
+    QCOMPARE(button(display)->text(), QStringLiteral("kWh"));
+    QCOMPARE(
+        row(display, 1),
+        (QStringList {QStringLiteral("feb. 2016"), QStringLiteral("87,00"), QStringLiteral("69,60"),
+                      QStringLiteral("12,50"), QStringLiteral("169,10")}));
+    QCOMPARE(row(display, 2),
+             (QStringList {QStringLiteral("jan. 2016"), QStringLiteral("93,00"),
+                           QStringLiteral("≥ 40,80"), QStringLiteral("12,50"),
+                           QStringLiteral("≥ 146,30")}));
+    PlayedDisplay::tap(button(display));
+    QCOMPARE(row(display, 2), amounts);
+}
+
+void tst_MonthsPage::changePaintsTheTable()
+{
+    PlayedDisplay display(*source);
+    display.window.setCostRules(rules());
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    auto *table = display.onPage<QTableView>("table");
+    ZemTest::PaintCounter cells(table->viewport());
+    ZemTest::PaintCounter heading(table->horizontalHeader()->viewport());
+    QTRY_VERIFY(!table->visibleRegion().isEmpty());
+    QCoreApplication::processEvents();
+    cells.count = 0;
+    heading.count = 0;
+    button(display)->click();
+    QTRY_VERIFY(cells.count > 0 && heading.count > 0);
+}
+
+void tst_MonthsPage::pageInViewStays()
+{
+    PlayedDisplay display(*source);
+    display.window.setCostRules(rules());
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    auto *table = display.onPage<QTableView>("table");
+    const auto firstRow = [table] { return table->rowAt(0); };
+    // 15 months are two pages, of which the second is opened.
+    PlayedDisplay::tap(display.onPage<ZEMButton>("down"));
+    QTRY_VERIFY(firstRow() > 0);
+    const int before = firstRow();
+    PlayedDisplay::tap(button(display));
+    QTRY_COMPARE(firstRow(), before);
+    PlayedDisplay::tap(display.onPage<ZEMButton>("up"));
+    QTRY_COMPARE(firstRow(), 0);
+}
+
+void tst_MonthsPage::longNumbersAreWhole()
+{
+    // A large house, with panels and gas for heating.
+    source = std::make_unique<PlayedSource>();
+    const QDate first(2015, 1, 2);
+    const QDate last(2016, 3, 9);
+    countDays(&source->readings, {Quantity::GridImport}, first, last, 60.0);
+    countDays(&source->readings, {Quantity::GridExport}, first, last, 20.0);
+    countDays(&source->readings, {Quantity::Gas}, first, last, 60.0);
+    countDays(&source->readings, {Quantity::Water}, first, last, 1.0);
+    Costs::CostRules dear = rules();
+    dear.contracts.front().standing = 1000000;
+    dear.contracts.front().rates = {{Quantity::GridImport, {75000, 75000}},
+                                    {Quantity::GridExport, {25000, 25000}},
+                                    {Quantity::Gas, {150000, 150000}},
+                                    {Quantity::Water, {150000, 150000}}};
+    PlayedDisplay display(*source);
+    display.window.setCostRules(dear);
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    PlayedDisplay::tap(button(display));
+    const auto *table = display.onPage<QTableView>("table");
+    // Where cents have no room there are none. The last row, which is not in view, is the longest.
+    QCOMPARE(row(display, 14).at(3), QStringLiteral("≥ 2.700"));
+    QCOMPARE(row(display, 13).last(), QStringLiteral("3.692"));
+    int width = 0;
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+        width += table->columnWidth(column);
+        QVERIFY(table->horizontalHeader()->sectionSizeHint(column) <= table->columnWidth(column));
+        for (int line = 0; line < table->model()->rowCount(); ++line) {
+            const int wanted = table->sizeHintForIndex(table->model()->index(line, column)).width();
+            QVERIFY2(wanted <= table->columnWidth(column),
+                     qPrintable(QStringLiteral("%1, column %2: %3 of %4")
+                                    .arg(line)
+                                    .arg(column)
+                                    .arg(wanted)
+                                    .arg(table->columnWidth(column))));
+        }
+    }
+    QCOMPARE(width, table->viewport()->width());
+}
+
+void tst_MonthsPage::costsFollowTheMeter()
+{
+    PlayedDisplay display(*source);
+    display.window.setCostRules(rules());
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    PlayedDisplay::tap(button(display));
+    QCOMPARE(row(display, 0).at(1), QStringLiteral("24,00"));
+    source->readings.meter({Quantity::GridImport}, Meter::Kind::Counter)
+        .addReading(at(QDate(2016, 3, 9), 12), 1000.0 + 433 * 10 + 5);
+    Q_EMIT source->historyChanged();
+    QCOMPARE(row(display, 0).at(1), QStringLiteral("25,50"));
+}
+
+QTEST_MAIN(tst_MonthsPage)
+#include "tst_monthspage.moc"
