@@ -11,6 +11,7 @@
 #include "keyboardfiles.h"
 #include "language.h"
 #include "metersource.h"
+#include "monthstransfer.h"
 #include "mqttmeter.h"
 #include "options.h"
 #include "p1time.h"
@@ -154,14 +155,28 @@ void waitForPictures(const EnergySource *source)
     loop.exec();
 }
 
-/** Fills the history or writes it to a file, which needs no display. */
+bool isTransfer(const Options &options)
+{
+    return !options.imports.isEmpty() || !options.exportTo.isEmpty()
+        || !options.exportMonthsTo.isEmpty();
+}
+
+Transfer transfer(const Options &options)
+{
+    if (!options.imports.isEmpty()) {
+        return importReadings(options.imports, options.history, p1TimeZone());
+    }
+    return options.exportTo.isEmpty()
+        ? exportMonths(options, p1TimeZone())
+        : exportReadings(options.exportTo, options.history, p1TimeZone());
+}
+
+/** Fills the history or writes a file, which needs no display. */
 int transfer(const Options &options, int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     nameApplication();
-    const Transfer done = options.imports.isEmpty()
-        ? exportReadings(options.exportTo, options.history, p1TimeZone())
-        : importReadings(options.imports, options.history, p1TimeZone());
+    const Transfer done = transfer(options);
     printErrors(done.problems);
     const QString line = QStringLiteral("zemkit-display: %1").arg(done.text);
     if (!done.succeeded) {
@@ -221,7 +236,7 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << options.text;
         return exitFailure;
     }
-    if (!options.imports.isEmpty() || !options.exportTo.isEmpty()) {
+    if (isTransfer(options)) {
         return transfer(options, argc, argv);
     }
 

@@ -57,7 +57,14 @@ QString clashIn(const QCommandLineParser &parser)
                                                                  {"speed", "export"},
                                                                  {"mqtt", "p1"},
                                                                  {"import", "mqtt"},
-                                                                 {"export", "mqtt"}};
+                                                                 {"export", "mqtt"},
+                                                                 {"export-months", "no-history"},
+                                                                 {"export-months", "import"},
+                                                                 {"export-months", "export"},
+                                                                 {"export-months", "p1"},
+                                                                 {"export-months", "mqtt"},
+                                                                 {"export-months", "screenshots"},
+                                                                 {"export-months", "speed"}};
     for (const auto &[one, other] : clashes) {
         if (parser.isSet(QLatin1String(one)) && parser.isSet(QLatin1String(other))) {
             return QStringLiteral("--%1 and --%2 do not go together")
@@ -118,6 +125,11 @@ private:
         QStringLiteral("export"),
         QStringLiteral("Write the history to this file as CSV, by the hour, and end."),
         QStringLiteral("FILE")};
+    const QCommandLineOption exportMonths {
+        QStringLiteral("export-months"),
+        QStringLiteral("Write the table of months to this file as CSV, of --readings or else of "
+                       "the history, with what they cost by --contract, and end."),
+        QStringLiteral("FILE")};
     const QCommandLineOption data {
         QStringLiteral("data"),
         QStringLiteral("Keep the history of the meter in this directory, instead of %1.")
@@ -148,7 +160,8 @@ CommandLine::CommandLine(const QStringList &pages)
     parser.addOptions({help, version, readings, meter});
     parser.addOptions(mqtt.all());
     parser.addOptions(costOptions.all());
-    parser.addOptions({importFiles, exportFile, data, noHistory, speed, page, screenshots});
+    parser.addOptions(
+        {importFiles, exportFile, exportMonths, data, noHistory, speed, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings or --import."),
                                  QStringLiteral("[FILE...]"));
@@ -176,6 +189,7 @@ QString CommandLine::missingValue() const
 {
     const std::pair<const QCommandLineOption &, QString> wants[] = {
         {exportFile, QStringLiteral("--export wants a file")},
+        {exportMonths, QStringLiteral("--export-months wants a file")},
         {data, QStringLiteral("--data wants a directory")},
         {meter, QStringLiteral("--p1 wants a file, a serial port, host:port or -")},
         {screenshots, QStringLiteral("--screenshots wants a directory")}};
@@ -239,6 +253,7 @@ Options CommandLine::options() const
     (parser.isSet(importFiles) ? options.imports : options.readings) =
         parser.values(importFiles) + parser.values(readings) + parser.positionalArguments();
     options.exportTo = parser.value(exportFile);
+    options.exportMonthsTo = parser.value(exportMonths);
     options.page = parser.value(page);
     options.screenshots = parser.value(screenshots);
     return options;

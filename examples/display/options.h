@@ -26,6 +26,7 @@ struct Options
     QStringList readings; ///< CSV files
     QStringList imports; ///< CSV files to be kept in the history
     QString exportTo; ///< CSV file that the history is to be written to
+    QString exportMonthsTo; ///< CSV file that the table of months is to be written to
     std::optional<Costs::CostRules> costs; ///< what things cost
     QString meter; ///< where a smart meter is to be followed; empty: no meter
     std::optional<MqttSettings> mqtt; ///< a publisher that is to be followed

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
-#include "zemtest.h"
+#include "displayrun.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +9,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+
+using DisplayRun::Result;
+using DisplayRun::run;
 
 /** Runs zemkit-display as a user would. */
 class tst_DisplayProgram : public QObject
@@ -47,35 +50,10 @@ private Q_SLOTS:
     void screenshotsIntoAFile();
 
 private:
-    struct Result
-    {
-        int status = -1;
-        QString output;
-        QString errors;
-    };
-    static Result run(const QStringList &arguments);
     QString writeReadings(const QString &name, const QByteArray &text) const;
 
     QTemporaryDir dir;
 };
-
-tst_DisplayProgram::Result tst_DisplayProgram::run(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(DISPLAY_PROGRAM), arguments);
-    Result result;
-    if (process.waitForFinished(ZemTest::hangs) && process.exitStatus() == QProcess::NormalExit) {
-        result.status = process.exitCode();
-    }
-    result.output = QString::fromUtf8(process.readAllStandardOutput());
-    for (const QByteArray &line : process.readAllStandardError().split('\n')) {
-        // What the offscreen platform says of each window with a fixed size.
-        if (!line.isEmpty() && !line.contains("propagateSizeHints")) {
-            result.errors += QString::fromUtf8(line) + QLatin1Char('\n');
-        }
-    }
-    return result;
-}
 
 QString tst_DisplayProgram::writeReadings(const QString &name, const QByteArray &text) const
 {
@@ -107,8 +85,8 @@ void tst_DisplayProgram::help()
     QCOMPARE(result.status, 0);
     for (const char *option :
          {"--readings", "--p1", "--mqtt", "--mapping", "--mqtt-credentials", "--mqtt-ca",
-          "--print-mapping", "--import", "--export", "--data", "--no-history", "--speed",
-          "--screenshots", "--page", "--contract", "--prices", "--help", "--version"}) {
+          "--print-mapping", "--import", "--export", "--export-months", "--contract", "--prices",
+          "--data", "--no-history", "--speed", "--screenshots", "--page", "--help", "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QVERIFY(!result.output.contains(QStringLiteral("--help-all")));

@@ -175,19 +175,38 @@ Transfer importReadings(const QStringList &files, const QString &directory, cons
 
 Transfer exportReadings(const QString &path, const QString &directory, const QTimeZone &zone)
 {
+    Transfer failed;
+    const std::optional<Household> household = readHistory(directory, zone, &failed);
+    return household
+        ? writeRows(path,
+                    [&](QIODevice *device) { return Readings::writeOwnFormat(*household, device); })
+        : failed;
+}
+
+std::optional<Household> readHistory(const QString &directory, const QTimeZone &zone,
+                                     Transfer *failed)
+{
     const QString history = HistoryKeeper::pathIn(directory);
     if (!QFileInfo::exists(history)) {
-        return failure(QStringLiteral("%1: there is no history").arg(history));
+        *failed = failure(QStringLiteral("%1: there is no history").arg(history));
+        return std::nullopt;
     }
     HistoryFile file;
     Household household;
     if (file.open(history) != Trouble::None || file.read(&household) != Trouble::None) {
-        return failure(history, file);
+        *failed = failure(history, file);
+        return std::nullopt;
     }
     household.timeZone = zone;
     if (!household.firstInstant()) {
-        return failure(QStringLiteral("%1: there are no readings in it").arg(history));
+        *failed = failure(QStringLiteral("%1: there are no readings in it").arg(history));
+        return std::nullopt;
     }
+    return household;
+}
+
+Transfer writeRows(const QString &path, const std::function<int(QIODevice *)> &write)
+{
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) {
         return failure(QStringLiteral("%1: is not a file").arg(path));
     }
@@ -195,7 +214,7 @@ Transfer exportReadings(const QString &path, const QString &directory, const QTi
     if (!output.open(QIODevice::WriteOnly)) {
         return failure(QStringLiteral("%1: %2").arg(path, output.errorString()));
     }
-    const int rows = Readings::writeOwnFormat(household, &output);
+    const int rows = write(&output);
     if (!output.commit()) {
         return failure(QStringLiteral("%1: %2").arg(path, output.errorString()));
     }

@@ -4,9 +4,15 @@
 #ifndef HISTORYTRANSFER_H
 #define HISTORYTRANSFER_H
 
+#include "household.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTimeZone>
+#include <functional>
+#include <optional>
+
+class QIODevice;
 
 /** What readings that go into or out of a history come to. */
 struct Transfer
@@ -34,5 +40,15 @@ Transfer importReadings(const QStringList &files, const QString &directory, cons
  * reading and amount of which less would make the charts others. A file is complete or not there.
  */
 Transfer exportReadings(const QString &path, const QString &directory, const QTimeZone &zone);
+
+/** The history of a directory in the clock of @p zone; empty for the reason in @p failed. */
+std::optional<Readings::Household> readHistory(const QString &directory, const QTimeZone &zone,
+                                               Transfer *failed);
+
+/**
+ * Writes a file with @p write, which returns how many rows it wrote. A file is complete or not
+ * there.
+ */
+Transfer writeRows(const QString &path, const std::function<int(QIODevice *)> &write);
 
 #endif
