@@ -13,6 +13,7 @@
 #include "overviewpage.h"
 #include "pageicons.h"
 #include "pagelook.h"
+#include "pricefile.h"
 #include "settingspage.h"
 #include "standbykeeper.h"
 #include "standbypage.h"
@@ -68,10 +69,10 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
 void DisplayWindow::setCostRules(Costs::CostRules rules)
 {
     costs = std::move(rules);
-    for (const QString &problem : std::as_const(costs.problems)) {
-        addMessage(withPlaceBehind(problem));
-    }
-    months->setCostRules(&costs);
+    priceWatch = Costs::FileWatch(costs.priceFiles);
+    showCosts();
+    connect(&shownSource, &EnergySource::historyChanged, this, &DisplayWindow::readPricesAgain,
+            Qt::UniqueConnection);
 }
 
 QStringList DisplayWindow::pageNames()
@@ -233,4 +234,28 @@ void DisplayWindow::handlePageChange()
         keeper->start();
     }
     Q_EMIT standbyChanged(isDark);
+}
+
+void DisplayWindow::showCosts()
+{
+    for (const QString &problem : std::as_const(costs.problems)) {
+        addMessage(withPlaceBehind(problem));
+    }
+    months->setCostRules(&costs);
+}
+
+void DisplayWindow::readPricesAgain()
+{
+    if (!priceWatch.hasChanged()) {
+        return;
+    }
+    Costs::LoadedPrices loaded = Costs::loadPrices(costs.priceFiles);
+    if (loaded.failure.isEmpty()) {
+        costs.prices = std::move(loaded.prices);
+        costs.problems = loaded.problems;
+    } else {
+        // What was known before is better than nothing.
+        costs.problems = QStringList(loaded.failure);
+    }
+    showCosts();
 }

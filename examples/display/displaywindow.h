@@ -5,6 +5,7 @@
 #define DISPLAYWINDOW_H
 
 #include "contract.h"
+#include "filewatch.h"
 #include "inputdialogs.h"
 #include "messagelist.h"
 
@@ -38,7 +39,10 @@ public:
     DisplayWindow(const EnergySource &source, DisplaySettings *settings,
                   const QString &keyboardDirectory, QWidget *parent = nullptr);
 
-    /** Shows what things cost by @p rules, on the page of months; what is wrong is a message. */
+    /**
+     * Shows what things cost by @p rules, on the page of months; what is wrong is a message. From
+     * now on files of prices are read again when they were written, as the meters count on.
+     */
     void setCostRules(Costs::CostRules rules);
 
     /** The names of the pages, as on the command line; the first is the start page. */
@@ -77,6 +81,8 @@ private:
     void makeStandby(const EnergySource &source);
     void withdrawOverlays();
     void handlePageChange();
+    void showCosts();
+    void readPricesAgain();
 
     const EnergySource &shownSource;
     DisplaySettings *settings;
@@ -87,6 +93,7 @@ private:
     ChartsPage *charts = nullptr;
     MonthsPage *months = nullptr;
     Costs::CostRules costs;
+    Costs::FileWatch priceWatch {{}};
     ZEMMenuOverlay *menu = nullptr;
     QWidget *standby = nullptr;
     StandbyKeeper *keeper = nullptr;

@@ -4,11 +4,13 @@
 #include "costhouse.h"
 #include "paintcounter.h"
 #include "playedsource.h"
+#include "pricefile.h"
 
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
 #include <ZEMButton>
+#include <ZEMNotificationButton>
 #include <ZEMStyle>
 
 using namespace CostHouse;
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void pageInViewStays();
     void longNumbersAreWhole();
     void costsFollowTheMeter();
+    void newPricesAreRead();
+    void uselessPricesLeaveThoseThatWereKnown();
 
 private:
     static QStringList row(const PlayedDisplay &display, int index)
@@ -42,8 +46,10 @@ private:
     {
         return display.onPage<ZEMButton>("change");
     }
+    Costs::CostRules hourlyRules(const QByteArray &price);
 
     std::unique_ptr<PlayedSource> source;
+    QTemporaryDir directory;
 };
 
 void tst_MonthsPage::initTestCase()
@@ -195,6 +201,53 @@ void tst_MonthsPage::costsFollowTheMeter()
         .addReading(at(QDate(2016, 3, 9), 12), 1000.0 + 433 * 10 + 5);
     Q_EMIT source->historyChanged();
     QCOMPARE(row(display, 0).at(1), QStringLiteral("25,50"));
+}
+
+Costs::CostRules tst_MonthsPage::hourlyRules(const QByteArray &price)
+{
+    const QString path = directory.filePath(QStringLiteral("prices.csv"));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        qFatal("the test cannot write its file");
+    }
+    file.write("time,eur_per_kwh\n2016-03-09T00:00+01:00," + price + "\n");
+    file.close();
+    Costs::CostRules hourly {{{QDate(2016, 3, 9), {{Quantity::GridImport, {0, 0, true}}}}}};
+    hourly.priceFiles = QStringList(path);
+    hourly.prices = Costs::loadPrices(hourly.priceFiles).prices;
+    return hourly;
+}
+
+void tst_MonthsPage::newPricesAreRead()
+{
+    source = std::make_unique<PlayedSource>();
+    countHours(&source->readings, {Quantity::GridImport}, at(QDate(2016, 3, 9)), 1, 2.0);
+    PlayedDisplay display(*source);
+    display.window.setCostRules(hourlyRules("0.10"));
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    PlayedDisplay::tap(button(display));
+    QCOMPARE(row(display, 0).last(), QStringLiteral("0,20"));
+    hourlyRules("0.250");
+    Q_EMIT source->historyChanged();
+    QCOMPARE(row(display, 0).last(), QStringLiteral("0,50"));
+}
+
+void tst_MonthsPage::uselessPricesLeaveThoseThatWereKnown()
+{
+    source = std::make_unique<PlayedSource>();
+    countHours(&source->readings, {Quantity::GridImport}, at(QDate(2016, 3, 9)), 1, 2.0);
+    PlayedDisplay display(*source);
+    display.window.setCostRules(hourlyRules("0.10"));
+    QVERIFY(display.show());
+    display.window.openPage(QStringLiteral("months"));
+    PlayedDisplay::tap(button(display));
+    const auto *bell = display.window.currentWidget()->findChild<ZEMNotificationButton *>();
+    QCOMPARE(bell->getNotifyCount(), 0);
+    hourlyRules("nothing");
+    Q_EMIT source->historyChanged();
+    QCOMPARE(row(display, 0).last(), QStringLiteral("0,20"));
+    QCOMPARE(bell->getNotifyCount(), 1);
 }
 
 QTEST_MAIN(tst_MonthsPage)
