@@ -135,13 +135,15 @@ void DisplayWindow::makePages(const EnergySource &source)
     auto *overview = new OverviewPage(source);
     charts = new ChartsPage(source, settings);
     months = new MonthsPage(source);
+    goals = new GoalsPage(source, settings, &dialogs);
+    settingsPage = new SettingsPage(source, settings, &dialogs);
     addPage(overview, overviewName);
     addPage(charts, chartsName);
     addPage(new DevicesPage(source), devicesName);
     addPage(new AnalysisPage(source), analysisName);
     addPage(months, monthsName);
-    addPage(new GoalsPage(source, settings, &dialogs), goalsName);
-    addPage(new SettingsPage(source, settings, &dialogs), settingsName);
+    addPage(goals, goalsName);
+    addPage(settingsPage, settingsName);
     makeOverview(overview);
 }
 
@@ -242,6 +244,8 @@ void DisplayWindow::showCosts()
         addMessage(withPlaceBehind(problem));
     }
     months->setCostRules(&costs);
+    goals->setCostRules(&costs);
+    settingsPage->setPricedByContract();
 }
 
 void DisplayWindow::readPricesAgain()

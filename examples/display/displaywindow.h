@@ -18,8 +18,10 @@ class ChartsPage;
 class DisplayPage;
 class DisplaySettings;
 class EnergySource;
+class GoalsPage;
 class MonthsPage;
 class OverviewPage;
+class SettingsPage;
 class StandbyKeeper;
 class ZEMMenuOverlay;
 
@@ -40,8 +42,9 @@ public:
                   const QString &keyboardDirectory, QWidget *parent = nullptr);
 
     /**
-     * Shows what things cost by @p rules, on the page of months; what is wrong is a message. From
-     * now on files of prices are read again when they were written, as the meters count on.
+     * Shows what things cost by @p rules, on the pages of months and goals; what is wrong is a
+     * message. From now on files of prices are read again when they were written, as the meters
+     * count on.
      */
     void setCostRules(Costs::CostRules rules);
 
@@ -92,6 +95,8 @@ private:
     QList<QAction *> gridActions;
     ChartsPage *charts = nullptr;
     MonthsPage *months = nullptr;
+    GoalsPage *goals = nullptr;
+    SettingsPage *settingsPage = nullptr;
     Costs::CostRules costs;
     Costs::FileWatch priceWatch {{}};
     ZEMMenuOverlay *menu = nullptr;

@@ -25,12 +25,14 @@ private Q_SLOTS:
     void init();
     void barAndStars();
     void oldReadingsAreNotOfToday();
+    void contractTellsWhatTodayCosts();
     void profileIsChosenByATap();
     void yearGoalIsTyped();
     void yearGoalOfNothingIsRefused();
 
 private:
     QList<ZEMProfileButton *> profiles() const;
+    bool hasText(const QString &text) const;
 
     PlayedSource source;
     std::unique_ptr<PlayedDisplay> display;
@@ -49,6 +51,13 @@ void tst_GoalsPage::init()
     display = std::make_unique<PlayedDisplay>(source);
     display->window.openPage(QStringLiteral("goals"));
     QVERIFY(display->show());
+}
+
+bool tst_GoalsPage::hasText(const QString &text) const
+{
+    const auto labels = display->window.currentWidget()->findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&](const QLabel *label) { return label->text() == text; });
 }
 
 QList<ZEMProfileButton *> tst_GoalsPage::profiles() const
@@ -73,11 +82,6 @@ void tst_GoalsPage::barAndStars()
 
 void tst_GoalsPage::oldReadingsAreNotOfToday()
 {
-    const auto hasText = [this](const QString &text) {
-        const auto labels = display->window.currentWidget()->findChildren<QLabel *>();
-        return std::any_of(labels.begin(), labels.end(),
-                           [&](const QLabel *label) { return label->text() == text; });
-    };
     QVERIFY(hasText(QStringLiteral("budget van vandaag")));
     QVERIFY(hasText(QStringLiteral("gisteren")));
     const QDateTime before = source.time;
@@ -86,6 +90,17 @@ void tst_GoalsPage::oldReadingsAreNotOfToday()
     QVERIFY(hasText(QStringLiteral("budget van 9 mrt. 2016")));
     QVERIFY(hasText(QStringLiteral("8 mrt. 2016")));
     source.time = before;
+}
+
+void tst_GoalsPage::contractTellsWhatTodayCosts()
+{
+    QVERIFY(hasText(QStringLiteral("tot nu toe € 3,60")));
+    Costs::CostRules rules {{{QDate(2016, 1, 1), {{Quantity::GridImport, {25000, 25000}}}}}};
+    display->window.setCostRules(rules);
+    QVERIFY(hasText(QStringLiteral("tot nu toe 3,00 euro")));
+    rules.contracts.front().rates.at(Quantity::GridImport).normal = 30000;
+    display->window.setCostRules(rules);
+    QVERIFY(hasText(QStringLiteral("tot nu toe – euro")));
 }
 
 void tst_GoalsPage::profileIsChosenByATap()

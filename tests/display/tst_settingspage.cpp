@@ -27,6 +27,7 @@ private Q_SLOTS:
     void cancelChangesNothing();
     void priceIsANumber();
     void fullStopIsADecimalSignToo();
+    void priceOfAContractIsNotEntered();
     void contractIsChosen();
     void keyboardFollowsTheLanguage();
     void standbyIsChosen();
@@ -129,6 +130,17 @@ void tst_SettingsPage::priceIsANumber()
     tapButton(dialog, "btnOK");
     QCOMPARE(display->settings.price(), 0.2198);
     QCOMPARE(field("price")->text(), QStringLiteral("€ 0,2198"));
+}
+
+void tst_SettingsPage::priceOfAContractIsNotEntered()
+{
+    display->window.setCostRules({});
+    QCOMPARE(field("price")->text(), QStringLiteral("volgens contract"));
+    display->whenOpen<ZEMDialogPopup>([](ZEMDialogPopup *popup) { popup->reset(); });
+    PlayedDisplay::tap(field("price"));
+    QVERIFY(!display->overlay<ZEMDialogPopup>());
+    QVERIFY(!display->overlay<ZEMNumericKeypad>());
+    QCOMPARE(field("price")->text(), QStringLiteral("volgens contract"));
 }
 
 void tst_SettingsPage::fullStopIsADecimalSignToo()

@@ -8,6 +8,7 @@
 #include "energysource.h"
 #include "inputdialogs.h"
 #include "pagelook.h"
+#include "periodcosts.h"
 #include "viewtexts.h"
 
 #include <QButtonGroup>
@@ -84,6 +85,12 @@ GoalsPage::GoalsPage(const EnergySource &source, DisplaySettings *theSettings,
 
     connect(&source, &EnergySource::historyChanged, this, &GoalsPage::refresh);
     connect(settings, &DisplaySettings::changed, this, &GoalsPage::refresh);
+}
+
+void GoalsPage::setCostRules(const Costs::CostRules *costRules)
+{
+    rules = costRules;
+    refresh();
 }
 
 void GoalsPage::showEvent(QShowEvent *event)
@@ -195,9 +202,7 @@ void GoalsPage::showToday()
     const std::optional<Readings::Measured> used = Budget::takenOn(household, today);
     const double amount = used ? used->amount : 0.0;
     todayText->setText(ofBudget(used, budget));
-    todayCosts->setText(
-        used ? tr("tot nu toe € %1").arg(QLocale().toString(amount * settings->price(), 'f', 2))
-             : QString());
+    todayCosts->setText(used ? costsText(today, amount) : QString());
 
     budgetBar->setMaxValue(budget);
     budgetBar->setValue(amount);
@@ -209,6 +214,17 @@ void GoalsPage::showToday()
         QDateTime::fromSecsSinceEpoch(household.lastInstant().value_or(0), household.timeZone)
             .time();
     budgetBar->setMidValue(budget * known.msecsSinceStartOfDay() / millisecondsPerDay);
+}
+
+/** What was taken on a day costs by the contract, or else at the price that was entered. */
+QString GoalsPage::costsText(const QDate &day, double amount) const
+{
+    if (!rules) {
+        return tr("tot nu toe € %1").arg(QLocale().toString(amount * settings->price(), 'f', 2));
+    }
+    const Costs::Cost cost = Costs::costOf(energySource().household(), *rules,
+                                           Readings::Quantity::GridImport, {day, day.addDays(1)});
+    return tr("tot nu toe %1 euro").arg(ViewTexts::euro(cost));
 }
 
 void GoalsPage::showYesterday()

@@ -9,6 +9,10 @@
 
 #include <map>
 
+namespace Costs {
+struct CostRules;
+}
+
 class InputDialogs;
 class ZEMBarIndicator;
 class ZEMLineEditButton;
@@ -26,6 +30,9 @@ public:
     GoalsPage(const EnergySource &source, DisplaySettings *settings, InputDialogs *dialogs,
               QWidget *parent = nullptr);
 
+    /** Tells what today costs by @p rules, which must live as long as the page does. */
+    void setCostRules(const Costs::CostRules *rules);
+
 protected:
     void showEvent(QShowEvent *event) override;
     void handleNewDay() override { refresh(); }
@@ -39,9 +46,11 @@ private:
     void refresh();
     void showToday();
     void showYesterday();
+    QString costsText(const QDate &day, double amount) const;
 
     DisplaySettings *settings;
     InputDialogs *dialogs;
+    const Costs::CostRules *rules = nullptr;
     ZEMTextLabel *todayCaption = nullptr;
     ZEMTextLabel *todayText = nullptr;
     ZEMTextLabel *todayCosts = nullptr;

@@ -106,6 +106,12 @@ SettingsPage::SettingsPage(const EnergySource &source, DisplaySettings *theSetti
     refresh();
 }
 
+void SettingsPage::setPricedByContract()
+{
+    isPricedByContract = true;
+    refresh();
+}
+
 ZEMLineEditButton *SettingsPage::addField(QGridLayout *grid, const QString &caption,
                                           const char *name, void (SettingsPage::*ask)())
 {
@@ -132,6 +138,10 @@ void SettingsPage::askHouseName()
 
 void SettingsPage::askPrice()
 {
+    if (isPricedByContract) {
+        dialogs->inform(tr("De prijzen staan in het contract"));
+        return;
+    }
     const auto inEuro = [](double euro) { return QLocale().toString(euro, 'f', priceDecimals); };
     dialogs->askNumber(
         tr("Prijs van een kWh in euro"), inEuro(settings->price()),
@@ -221,8 +231,9 @@ void SettingsPage::refresh()
         return text.isEmpty() ? QStringLiteral("–") : shortened(text);
     };
     houseName->setText(orDash(settings->houseName()));
-    price->setText(
-        QStringLiteral("€ %1").arg(QLocale().toString(settings->price(), 'f', priceDecimals)));
+    price->setText(isPricedByContract ? tr("volgens contract")
+                                      : QStringLiteral("€ %1").arg(QLocale().toString(
+                                          settings->price(), 'f', priceDecimals)));
     contract->setText(contractNames().at(int(settings->contract())));
     keyboard->setText(languageName(settings->keyboardLanguage()));
     const StandbyRule rule = settings->standby();

@@ -21,6 +21,9 @@ public:
     SettingsPage(const EnergySource &source, DisplaySettings *settings, InputDialogs *dialogs,
                  QWidget *parent = nullptr);
 
+    /** From now on the price is not entered here, but told by a contract. */
+    void setPricedByContract();
+
 private:
     ZEMLineEditButton *addField(QGridLayout *grid, const QString &caption, const char *name,
                                 void (SettingsPage::*ask)());
@@ -36,6 +39,7 @@ private:
 
     DisplaySettings *settings;
     InputDialogs *dialogs;
+    bool isPricedByContract = false;
     ZEMLineEditButton *houseName = nullptr;
     ZEMLineEditButton *price = nullptr;
     ZEMLineEditButton *contract = nullptr;
