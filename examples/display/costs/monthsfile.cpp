@@ -58,7 +58,7 @@ public:
             line += QByteArray::number(measured->amount, 'f', amountDecimals);
         }
         if (measured && !measured->isComplete) {
-            atLeast.append(column);
+            leasts.append(column);
         }
     }
 
@@ -70,19 +70,19 @@ public:
         }
         line += QByteArray::number(double(cost.cents()) / centsPerEuro, 'f', euroDecimals);
         if (cost.mayBeMore) {
-            atLeast.append(column);
+            leasts.append(column);
         }
         if (cost.mayBeLess) {
-            atMost.append(column);
+            mosts.append(column);
         }
     }
 
-    QByteArray text() const { return line + ',' + atLeast.join('|') + ',' + atMost.join('|'); }
+    QByteArray text() const { return line + ',' + leasts.join('|') + ',' + mosts.join('|'); }
 
 private:
     QByteArray line;
-    QByteArrayList atLeast;
-    QByteArrayList atMost;
+    QByteArrayList leasts;
+    QByteArrayList mosts;
 };
 
 /** Writes the header and the rows of a household. */
