@@ -233,6 +233,33 @@
     </message>
 </context>
 <context>
+    <name>Prices</name>
+    <message>
+        <source>there are no prices in it</source>
+        <translation>er staan geen prijzen in</translation>
+    </message>
+    <message>
+        <source>%1:1: the header %2 is without the columns &quot;time&quot; and &quot;eur_per_kwh&quot;</source>
+        <translation>%1:1: de kop %2 heeft niet de kolommen &quot;time&quot; en &quot;eur_per_kwh&quot;</translation>
+    </message>
+    <message>
+        <source>it has not the %1 fields of the header</source>
+        <translation>de rij heeft niet de %1 velden van de kop</translation>
+    </message>
+    <message>
+        <source>%1 is no price of a kWh in euro</source>
+        <translation>%1 is geen prijs van een kWh in euro</translation>
+    </message>
+    <message>
+        <source>%1 contradicts an earlier price of this hour; left out</source>
+        <translation>%1 spreekt een eerdere prijs van dit uur tegen; weggelaten</translation>
+    </message>
+    <message>
+        <source>the hour from %1 has a part in another that has a price; left out</source>
+        <translation>het uur vanaf %1 valt deels in een ander uur met een prijs; weggelaten</translation>
+    </message>
+</context>
+<context>
     <name>Readings</name>
     <message>
         <source>%1: the meter goes on at %2 %3, which does not follow from before: it is another one, or was reset</source>

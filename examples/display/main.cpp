@@ -15,6 +15,7 @@
 #include "mqttmeter.h"
 #include "options.h"
 #include "p1time.h"
+#include "pricefile.h"
 #include "readingsfile.h"
 #include "readingssource.h"
 #include "screenshots.h"
@@ -193,8 +194,11 @@ int show(const Options &options, EnergySource *source)
     DisplaySettings settings;
     DisplayWindow display(*source, &settings, keyboardDirectory());
     if (options.costs) {
-        printErrors(options.costs->problems);
-        display.setCostRules(*options.costs);
+        // The command line was told of the files in its own language.
+        Costs::CostRules rules = *options.costs;
+        rules.problems = Costs::loadPrices(rules.priceFiles).problems;
+        printErrors(rules.problems);
+        display.setCostRules(std::move(rules));
     }
     Backlight backlight;
     const auto light = [&](bool isDark) {

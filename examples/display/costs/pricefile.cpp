@@ -7,6 +7,7 @@
 #include "problemlist.h"
 #include "timestamp.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 using Readings::CsvReader;
@@ -69,30 +70,34 @@ QString PriceFile::load()
     }
     while (reader.nextLine()) {
         if (reader.isTooLong()) {
-            broken(QStringLiteral("the line is too long"));
+            broken(QCoreApplication::translate("Readings", "the line is too long"));
         } else if (!trimmed(reader.line()).empty()) {
             readRow();
         }
     }
     const QString error = reader.readError();
     if (!error.isEmpty()) {
-        return failure(QStringLiteral("reading stopped: %1").arg(error));
+        return failure(QCoreApplication::translate("Readings", "reading stopped: %1").arg(error));
     }
-    return goodRows > 0 ? QString() : failure(QStringLiteral("there are no prices in it"));
+    return goodRows > 0
+        ? QString()
+        : failure(QCoreApplication::translate("Prices", "there are no prices in it"));
 }
 
 QString PriceFile::readHeader()
 {
     if (!reader.nextLine()) {
-        return failure(QStringLiteral("the file is empty"));
+        return failure(QCoreApplication::translate("Readings", "the file is empty"));
     }
     const bool isWhole = CsvReader::split(reader.line(), separator, fields);
     std::transform(fields.begin(), fields.end(), fields.begin(), trimmed);
     const auto time = std::find(fields.cbegin(), fields.cend(), timeColumn);
     const auto price = std::find(fields.cbegin(), fields.cend(), priceColumn);
     if (!isWhole || time == fields.cend() || price == fields.cend()) {
-        return QStringLiteral("%1:1: the header %2 is without the columns \"time\" and "
-                              "\"eur_per_kwh\"")
+        return QCoreApplication::translate(
+                   "Prices",
+                   "%1:1: the header %2 is without the columns \"time\" and "
+                   "\"eur_per_kwh\"")
             .arg(path, quoted(reader.line()));
     }
     fieldCount = fields.size();
@@ -104,14 +109,15 @@ QString PriceFile::readHeader()
 void PriceFile::readRow()
 {
     if (!CsvReader::split(reader.line(), separator, fields) || fields.size() != fieldCount) {
-        broken(QStringLiteral("it has not the %1 fields of the header").arg(fieldCount));
+        broken(QCoreApplication::translate("Prices", "it has not the %1 fields of the header")
+                   .arg(fieldCount));
         return;
     }
     const std::string_view stamp = trimmed(fields[timeField]);
     const std::optional<qint64> from =
         Readings::parseStamp(stamp, Readings::TimeFormat::IsoWithOffset);
     if (!from) {
-        broken(QStringLiteral("bad time stamp %1").arg(quoted(stamp)));
+        broken(QCoreApplication::translate("Readings", "bad time stamp %1").arg(quoted(stamp)));
         return;
     }
     const std::string_view number = trimmed(fields[priceField]);
@@ -119,18 +125,22 @@ void PriceFile::readRow()
     const double most = mostOf(Readings::Quantity::GridImport);
     const std::optional<Price> price = euro ? roundedPrice(*euro, most) : std::nullopt;
     if (!price) {
-        broken(QStringLiteral("%1 is no price of a kWh in euro").arg(quoted(number)));
+        broken(QCoreApplication::translate("Prices", "%1 is no price of a kWh in euro")
+                   .arg(quoted(number)));
         return;
     }
     ++goodRows;
     const PriceList::Answer answer = prices->add(*from, *price);
     if (answer == PriceList::Answer::Contradiction) {
-        contradiction(QStringLiteral("%1 contradicts an earlier price of this hour; left out")
+        contradiction(QCoreApplication::translate(
+                          "Prices", "%1 contradicts an earlier price of this hour; left out")
                           .arg(quoted(number)));
     } else if (answer == PriceList::Answer::Overlap) {
-        contradiction(QStringLiteral("the hour from %1 has a part in another that has a price; "
-                                     "left out")
-                          .arg(quoted(stamp)));
+        contradiction(
+            QCoreApplication::translate("Prices",
+                                        "the hour from %1 has a part in another that has a price; "
+                                        "left out")
+                .arg(quoted(stamp)));
     }
 }
 
@@ -142,7 +152,7 @@ void PriceFile::contradiction(const QString &what)
 void PriceFile::broken(const QString &what)
 {
     problems->add(file, reader.lineNumber(), ProblemList::Kind::BrokenRow,
-                  what + QStringLiteral("; row left out"));
+                  what + QCoreApplication::translate("Readings", "; row left out"));
 }
 
 } // namespace
