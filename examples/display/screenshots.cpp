@@ -15,56 +15,101 @@
 #include <ZEMDialogPopup>
 #include <ZEMDialogShowText>
 #include <ZEMLineEditButton>
-#include <functional>
 
 namespace {
 
 constexpr int timeToShow = 150; // milliseconds that a dialog needs to stand
 
-/** Grabs pictures into a directory until one cannot be written. */
-class PictureWriter
+/** Shows one thing after the other and lets somebody look at each. */
+class Tour
 {
 public:
-    PictureWriter(const QString &directory, DisplayWindow *shownDisplay)
-        : dir(directory), display(shownDisplay)
+    Tour(DisplayWindow *shownDisplay, const ScreenVisitor &theVisitor)
+        : display(shownDisplay), visitor(theVisitor)
     {
-        if (!dir.mkpath(QStringLiteral("."))) {
-            problem = QStringLiteral("cannot make the directory %1").arg(directory);
+    }
+
+    void showPages() const
+    {
+        for (const QString &name : DisplayWindow::pageNames()) {
+            display->openPage(name);
+            visit(name);
         }
     }
 
-    void write(const QString &name)
+    void showCharts() const
+    {
+        ChartsPage *charts = display->chartsPage();
+        display->setCurrentWidget(charts);
+        for (const Energy &energy : charts->allEnergies()) {
+            for (const Period period : allPeriods) {
+                const QString name = QStringLiteral("charts-%1-%2")
+                                         .arg(energy.key, QLatin1String(infoOf(period).key));
+                charts->showChart(energy.tab, period);
+                visit(name);
+                // The newest period tends to be unfinished.
+                charts->showPreviousPeriod();
+                visit(name + QStringLiteral("-before"));
+            }
+        }
+    }
+
+    /** The page of months once more, with what they cost. */
+    void showCosts() const
+    {
+        display->openPage(QStringLiteral("months"));
+        auto *change = display->currentWidget()->findChild<ZEMButton *>(QStringLiteral("change"));
+        if (change && change->isVisible()) {
+            change->click();
+            visit(QStringLiteral("months-costs"));
+            change->click();
+        }
+    }
+
+    /** What the header opens, and what each field of a page asks. */
+    void showOverlays() const
+    {
+        display->openPage(DisplayWindow::pageNames().constFirst());
+        showOverlay(QStringLiteral("menu"), [this] { display->openMenu(); });
+        showOverlay(QStringLiteral("pages"), [this] { display->openPageGrid(); });
+        showOverlay(QStringLiteral("messages"), [this] { display->openMessages(); });
+        for (const QString &page : DisplayWindow::pageNames()) {
+            display->openPage(page);
+            const auto fields = display->currentWidget()->findChildren<ZEMLineEditButton *>();
+            for (ZEMLineEditButton *field : fields) {
+                showOverlay(QStringLiteral("%1-%2").arg(page, field->objectName()),
+                            [field] { field->click(); });
+            }
+        }
+    }
+
+private:
+    void visit(const QString &name) const
     {
         // A new headline has asked for room, which it gets in the event loop.
         QCoreApplication::processEvents();
-        const QString path = dir.filePath(name + QStringLiteral(".png"));
-        if (problem.isEmpty() && !display->grab().save(path)) {
-            problem = QStringLiteral("cannot write %1").arg(path);
-        }
+        visitor(name);
     }
 
-    /** Grabs what @p open lays over the page, and closes it again. */
-    void writeOverlay(const QString &name, const std::function<void()> &open)
+    /** Shows what @p open lays over the page, and closes it again. */
+    void showOverlay(const QString &name, const std::function<void()> &open) const
     {
         QEventLoop loop;
-        bool isWritten = false;
+        bool wasShown = false;
         QTimer::singleShot(timeToShow, &loop, [&] {
-            write(name);
+            visit(name);
             closeOverlays();
-            isWritten = true;
+            wasShown = true;
             loop.quit();
         });
         // Questions come back when they are closed, everything else at once.
         open();
-        if (!isWritten) {
+        if (!wasShown) {
             loop.exec();
         }
     }
 
-    QString firstProblem() const { return problem; }
-
-private:
-    void closeOverlays()
+    void closeOverlays() const
     {
         const auto children =
             display->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
@@ -79,68 +124,33 @@ private:
         }
     }
 
-    const QDir dir;
     DisplayWindow *const display;
-    QString problem;
+    const ScreenVisitor &visitor;
 };
-
-void writeCharts(PictureWriter &writer, DisplayWindow *display)
-{
-    ChartsPage *charts = display->chartsPage();
-    display->setCurrentWidget(charts);
-    for (const Energy &energy : charts->allEnergies()) {
-        for (const Period period : allPeriods) {
-            const QString name =
-                QStringLiteral("charts-%1-%2").arg(energy.key, QLatin1String(infoOf(period).key));
-            charts->showChart(energy.tab, period);
-            writer.write(name);
-            // The newest period tends to be unfinished.
-            charts->showPreviousPeriod();
-            writer.write(name + QStringLiteral("-before"));
-        }
-    }
-}
-
-/** The page of months once more, with what they cost. */
-void writeCosts(PictureWriter &writer, DisplayWindow *display)
-{
-    display->openPage(QStringLiteral("months"));
-    auto *change = display->currentWidget()->findChild<ZEMButton *>(QStringLiteral("change"));
-    if (change && change->isVisible()) {
-        change->click();
-        writer.write(QStringLiteral("months-costs"));
-        change->click();
-    }
-}
-
-/** What the header opens, and what each field of a page asks. */
-void writeOverlays(PictureWriter &writer, DisplayWindow *display)
-{
-    display->openPage(DisplayWindow::pageNames().constFirst());
-    writer.writeOverlay(QStringLiteral("menu"), [display] { display->openMenu(); });
-    writer.writeOverlay(QStringLiteral("pages"), [display] { display->openPageGrid(); });
-    writer.writeOverlay(QStringLiteral("messages"), [display] { display->openMessages(); });
-    for (const QString &page : DisplayWindow::pageNames()) {
-        display->openPage(page);
-        const auto fields = display->currentWidget()->findChildren<ZEMLineEditButton *>();
-        for (ZEMLineEditButton *field : fields) {
-            writer.writeOverlay(QStringLiteral("%1-%2").arg(page, field->objectName()),
-                                [field] { field->click(); });
-        }
-    }
-}
 
 } // namespace
 
+void visitScreens(DisplayWindow *display, const ScreenVisitor &visitor)
+{
+    const Tour tour(display, visitor);
+    tour.showPages();
+    tour.showCosts();
+    tour.showCharts();
+    tour.showOverlays();
+}
+
 QString writeScreenshots(const QString &directory, DisplayWindow *display)
 {
-    PictureWriter writer(directory, display);
-    for (const QString &name : DisplayWindow::pageNames()) {
-        display->openPage(name);
-        writer.write(name);
+    const QDir dir(directory);
+    if (!dir.mkpath(QStringLiteral("."))) {
+        return QStringLiteral("cannot make the directory %1").arg(directory);
     }
-    writeCosts(writer, display);
-    writeCharts(writer, display);
-    writeOverlays(writer, display);
-    return writer.firstProblem();
+    QString problem;
+    visitScreens(display, [&](const QString &name) {
+        const QString path = dir.filePath(name + QStringLiteral(".png"));
+        if (problem.isEmpty() && !display->grab().save(path)) {
+            problem = QStringLiteral("cannot write %1").arg(path);
+        }
+    });
+    return problem;
 }
