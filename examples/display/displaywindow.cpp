@@ -6,6 +6,7 @@
 #include "analysispage.h"
 #include "chartspage.h"
 #include "devicespage.h"
+#include "dialogfit.h"
 #include "displaysettings.h"
 #include "energysource.h"
 #include "goalspage.h"
@@ -19,6 +20,7 @@
 #include "standbypage.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QRegularExpression>
 #include <ZEMMenuOverlay>
 #include <utility>
@@ -49,7 +51,9 @@ DisplayWindow::DisplayWindow(const EnergySource &source, DisplaySettings *theSet
       dialogs(keyboardDirectory, theSettings, this)
 {
     setWindowTitle(QStringLiteral("zemkit-display"));
-    setFixedSize(PageLook::pageSize);
+    // A page learns of its size first, and then arranges itself so that it fits.
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    resize(PageLook::pageSize);
     makePages(source);
     makePageGrid();
     makeStandby(source);
@@ -130,6 +134,18 @@ void DisplayWindow::addMessage(const QString &message, const QString &kind)
     messages.add(message, shownSource.now(), kind);
 }
 
+void DisplayWindow::resizeEvent(QResizeEvent *event)
+{
+    QStackedWidget::resizeEvent(event);
+    const auto children = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        // The menu, and what is asked over a page.
+        if (indexOf(child) < 0) {
+            fitDialog(child, size());
+        }
+    }
+}
+
 void DisplayWindow::makePages(const EnergySource &source)
 {
     auto *overview = new OverviewPage(source);
@@ -199,6 +215,7 @@ void DisplayWindow::makeMenu()
 {
     menu = new ZEMMenuOverlay(this);
     menu->hide();
+    fitDialog(menu, size());
     menu->setText1(tr("pagina's"));
     menu->setText4(tr("meldingen"));
     menu->showButton4(true);

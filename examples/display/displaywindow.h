@@ -27,7 +27,8 @@ class ZEMMenuOverlay;
 
 /**
  * The whole display: its pages, the ways between them, and the messages. By itself it goes back to
- * the start page after a while, and dark as the settings have it, until a touch.
+ * the start page after a while, and dark as the settings have it, until a touch. It is 640 by 480
+ * pixels when new; its pages fill any size from that one, or upright from 480 by 800.
  */
 class DisplayWindow : public QStackedWidget
 {
@@ -73,6 +74,9 @@ Q_SIGNALS:
 public Q_SLOTS:
     /** Adds to the messages what happened now; @p kind as told at MessageList::add(). */
     void addMessage(const QString &message, const QString &kind = QString());
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void makePages(const EnergySource &source);

@@ -3,22 +3,23 @@
 
 #include "busynotice.h"
 
-#include "pagelook.h"
+#include "dialogfit.h"
 
 #include <QThread>
 #include <ZEMDialogPopup>
 #include <ZEMPageBackground>
 #include <memory>
 
-void doWithNotice(const QString &text, const std::function<void()> &job)
+void doWithNotice(const QString &text, const std::function<void()> &job, const QSize &size)
 {
     ZEMPageBackground page;
     page.setBackground(PageLook::background());
-    page.setFixedSize(PageLook::pageSize);
+    page.setFixedSize(size);
     ZEMDialogPopup notice(&page);
     notice.clearText();
     notice.setTextLine1(text);
     notice.setTextLine3(QStringLiteral("<throbber>"));
+    fitDialog(&notice, size);
     page.show();
 
     const std::unique_ptr<QThread> thread(QThread::create(job));

@@ -4,14 +4,16 @@
 #ifndef BUSYNOTICE_H
 #define BUSYNOTICE_H
 
+#include "pagelook.h"
+
 #include <QString>
 #include <functional>
 
 /**
  * Does @p job in a thread of its own and returns when it is done. Until then the display shows
- * @p text and a spinner; it is a window of 640 by 480 pixels by itself. The job must not touch
- * widgets.
+ * @p text and a spinner, in a window of its own of that size. The job must not touch widgets.
  */
-void doWithNotice(const QString &text, const std::function<void()> &job);
+void doWithNotice(const QString &text, const std::function<void()> &job,
+                  const QSize &size = PageLook::pageSize);
 
 #endif

@@ -3,6 +3,7 @@
 
 #include "inputdialogs.h"
 
+#include "dialogfit.h"
 #include "displaysettings.h"
 #include "keyboardfiles.h"
 #include "pagelook.h"
@@ -150,6 +151,7 @@ void InputDialogs::read(const QString &title, const QString &text)
     dialog.setTitle(title);
     dialog.setTextFontSize(textSize);
     dialog.setText(text);
+    fitDialog(&dialog, window->size());
     dialog.raise();
     covers.append(&dialog);
     dialog.exec();
@@ -160,6 +162,7 @@ void InputDialogs::inform(const QString &text)
     ZEMDialogPopup dialog(window);
     dialog.clearText();
     dialog.setTextLine1(text);
+    fitDialog(&dialog, window->size());
     dialog.raise();
     covers.append(&dialog);
     dialog.info();
@@ -171,6 +174,7 @@ bool InputDialogs::confirm(const QString &question, const QString &explanation)
     dialog.clearText();
     dialog.setTextLine1(question);
     dialog.setTextLine2(explanation);
+    fitDialog(&dialog, window->size());
     dialog.raise();
     covers.append(&dialog);
     return dialog.exec();
@@ -229,7 +233,7 @@ void InputDialogs::cover(QWidget *dialog)
 {
     covers.removeAll(nullptr);
     covers.append(dialog);
-    dialog->setGeometry(window->rect());
+    fitDialog(dialog, window->size());
     dialog->show();
     dialog->raise();
 }

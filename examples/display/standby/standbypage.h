@@ -17,6 +17,7 @@ public:
     {
         setObjectName(QStringLiteral("standby"));
         setBackgroundColor(QColor(Qt::black));
+        setMinimumSize(0, 0);
     }
 
 Q_SIGNALS:

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "dialogfit.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <ZEMPageBackground>
+#include <ZEMPixmap>
+#include <ZEMVirtualKey>
+#include <ZEMVirtualKeyboard>
+#include <algorithm>
+
+namespace {
+
+constexpr int side = 6; // pixels at the left and right of what was narrowed
+constexpr int gap = 12; // pixels at most between columns
+constexpr int keyGap = 3; // pixels between keys
+
+/** Takes from the layout, and from those in it, the space that is no use to anybody. */
+void narrow(QLayout *layout)
+{
+    QMargins margins = layout->contentsMargins();
+    margins.setLeft(std::min(margins.left(), side));
+    margins.setRight(std::min(margins.right(), side));
+    layout->setContentsMargins(margins);
+    if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
+        grid->setHorizontalSpacing(std::min(grid->horizontalSpacing(), gap));
+    }
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem *item = layout->itemAt(i);
+        if (QSpacerItem *space = item->spacerItem()) {
+            space->changeSize(0, space->sizeHint().height(), space->sizePolicy().horizontalPolicy(),
+                              space->sizePolicy().verticalPolicy());
+        } else if (item->layout()) {
+            narrow(item->layout());
+        }
+    }
+    layout->invalidate();
+}
+
+/** Lets the keys of a keyboard, and what is between them, share @p width as before. */
+void narrowKeys(ZEMVirtualKeyboard *keyboard, int width)
+{
+    const auto rows = keyboard->findChildren<QHBoxLayout *>();
+    int before = 0;
+    for (const QHBoxLayout *row : rows) {
+        before = std::max(before, row->spacing());
+    }
+    const double factor = double(width + keyGap) / (keyboard->sizeHint().width() + before);
+    const auto narrower = [&](int pixels) { return int((pixels + before) * factor) - keyGap; };
+    for (ZEMVirtualKey *key : keyboard->findChildren<ZEMVirtualKey *>()) {
+        const int keyWidth = narrower(std::max(key->width(), key->minimumWidth()));
+        key->setMinimumWidth(keyWidth);
+        key->setMaximumWidth(keyWidth);
+        key->resize(keyWidth, key->height());
+    }
+    for (QHBoxLayout *row : rows) {
+        row->setSpacing(keyGap);
+    }
+}
+
+} // namespace
+
+void fitDialog(QWidget *dialog, const QSize &size)
+{
+    dialog->setMinimumSize(0, 0);
+    if (dialog->layout() && dialog->layout()->totalMinimumSize().width() > size.width()) {
+        for (ZEMVirtualKeyboard *keyboard : dialog->findChildren<ZEMVirtualKeyboard *>()) {
+            const int room = size.width() - 4 * side;
+            if (keyboard->sizeHint().width() > room) {
+                narrowKeys(keyboard, room);
+            }
+        }
+        narrow(dialog->layout());
+        for (QWidget *part : dialog->findChildren<QWidget *>()) {
+            if (part->layout() && !qobject_cast<ZEMVirtualKeyboard *>(part)) {
+                narrow(part->layout());
+            }
+            const bool isPicture = qobject_cast<ZEMPixmap *>(part) != nullptr;
+            if (isPicture || qobject_cast<ZEMPageBackground *>(part)) {
+                part->setMinimumWidth(0);
+                part->setSizePolicy(QSizePolicy::Preferred, part->sizePolicy().verticalPolicy());
+            }
+        }
+    }
+    dialog->setGeometry(QRect(QPoint(0, 0), size));
+}
