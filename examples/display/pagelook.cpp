@@ -4,6 +4,7 @@
 #include "pagelook.h"
 
 #include <QAbstractItemView>
+#include <QFontMetrics>
 #include <QIcon>
 #include <QLinearGradient>
 #include <QPainter>
@@ -82,6 +83,11 @@ ZEMLineEditButton *makeField()
     field->setLayoutRight(fieldMargin);
     field->setFont(textFont(14));
     return field;
+}
+
+QString elided(const QString &text, const QWidget *widget, int width)
+{
+    return QFontMetrics(widget->font()).elidedText(text, Qt::ElideRight, width);
 }
 
 QString powerText(const std::optional<double> &watts)

@@ -19,9 +19,10 @@ class ZEMTextLabel;
 /** What all pages of the display have in common. */
 namespace PageLook {
 
+/** Of a page when it is new. */
 constexpr QSize pageSize(640, 480);
 
-/** The dark ground of a page, of its size. */
+/** The dark ground of a page, which is stretched to its size. */
 QPixmap background();
 
 /** The font of everything but page titles. */
@@ -41,6 +42,9 @@ ZEMButton *makeIconButton(const QString &icon);
 
 /** A field to touch, which shows what was entered, 233 by 50 pixels. */
 ZEMLineEditButton *makeField();
+
+/** @p text, cut with "…" if @p width, in pixels, is too narrow for it in the font of @p widget. */
+QString elided(const QString &text, const QWidget *widget, int width);
 
 /** A power as the tiles of the library word it, and "–" if it is not known. */
 QString powerText(const std::optional<double> &watts);

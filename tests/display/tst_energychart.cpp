@@ -96,7 +96,7 @@ void tst_EnergyChart::init()
 void tst_EnergyChart::show(const Energy &energy)
 {
     widget.reset();
-    chart = std::make_unique<EnergyChart>(energy, Period::Day, PlotHeights {222, 156, 94});
+    chart = std::make_unique<EnergyChart>(energy, Period::Day);
     widget.reset(chart->widget());
     widget->resize(600, 300);
     widget->show();

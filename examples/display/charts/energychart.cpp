@@ -21,38 +21,40 @@
 
 namespace {
 
+constexpr int partOfUpper = 5; // of the height
+constexpr int partOfLower = 3;
 constexpr int valueStepsOfLower = 4; // its labels would touch with more
 
 } // namespace
 
-EnergyChart::EnergyChart(const Energy &energy, Period itsPeriod, const PlotHeights &heights)
+EnergyChart::EnergyChart(const Energy &energy, Period itsPeriod)
     : period(itsPeriod), unit(energy.unit)
 {
     fitTimer.setSingleShot(true);
     QObject::connect(&fitTimer, &QTimer::timeout, &fitTimer, [this] { fitAxes(); });
     switch (period) {
     case Period::Day:
-        make<ZEMSmartDayHistogram>(energy, heights);
+        make<ZEMSmartDayHistogram>(energy);
         break;
     case Period::Week:
-        make<ZEMSmartWeekHistogram>(energy, heights);
+        make<ZEMSmartWeekHistogram>(energy);
         break;
     case Period::Month:
-        make<ZEMSmartMonthHistogram>(energy, heights);
+        make<ZEMSmartMonthHistogram>(energy);
         break;
     case Period::Year:
-        make<YearHistogram>(energy, heights);
+        make<YearHistogram>(energy);
         break;
     }
 }
 
 template <class Base>
-void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
+void EnergyChart::make(const Energy &energy)
 {
     using Chart = FittedHistogram<Base>;
     const bool pair = !energy.consumption.empty() && !energy.yield.empty();
 
-    auto *upperChart = new Chart(Chart::Place::Upper, pair ? heights.upper : heights.alone);
+    auto *upperChart = new Chart(Chart::Place::Upper);
     upper.chart = upperChart;
     upperChart->setYAxisText(energy.unit);
     upperChart->setHeadline([this](const QString &plain, const QwtInterval &itsView) {
@@ -62,7 +64,7 @@ void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
     refreshTitle = [upperChart] { upperChart->refreshTitle(); };
     Chart *lowerChart = nullptr;
     if (pair) {
-        lowerChart = new Chart(Chart::Place::Lower, heights.lower);
+        lowerChart = new Chart(Chart::Place::Lower);
         lower.chart = lowerChart;
         lowerChart->setYAxisText(energy.unit);
         lowerChart->init();
@@ -70,6 +72,9 @@ void EnergyChart::make(const Energy &energy, const PlotHeights &heights)
         upperChart->setChild(lowerChart);
     }
     upperChart->init();
+    if (lowerChart) {
+        upperChart->shareHeight(partOfUpper, lowerChart, partOfLower);
+    }
     upperChart->setScalePeriod(slotsOf(period));
 
     upper.series =

@@ -17,14 +17,6 @@ class QwtPlot;
 class ZEMHistogram;
 class AmountSeries;
 
-/** Heights of the plots of a chart in pixels, x axis included. */
-struct PlotHeights
-{
-    int alone; ///< of a chart without a lower one
-    int upper;
-    int lower;
-};
-
 /**
  * The chart of one energy and one period: consumption, and under it what the house yields, if it
  * does. It shows nothing until it is fed. Below the headline stand the totals of the view, and
@@ -37,7 +29,7 @@ class EnergyChart
 
 public:
     /** The meters of @p energy must outlive the chart, and it must outlive its widget(). */
-    EnergyChart(const Energy &energy, Period period, const PlotHeights &heights);
+    EnergyChart(const Energy &energy, Period period);
 
     /** The widget, which the page takes into its layout. */
     ZEMHistogram *widget() const { return upper.chart; }
@@ -70,7 +62,7 @@ private:
     };
 
     template <class Base>
-    void make(const Energy &energy, const PlotHeights &heights);
+    void make(const Energy &energy);
     static std::vector<Series> addSeries(ZEMHistogram *chart,
                                          const std::vector<EnergySeries> &allSeries);
     void feed(Pane *pane, const DateRange &range);

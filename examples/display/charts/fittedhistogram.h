@@ -6,23 +6,32 @@
 
 #include <ZEMHistogramLegend>
 
+#include <QPixmap>
+#include <QResizeEvent>
 #include <QVBoxLayout>
 #include <QwtPlotMover>
+#include <algorithm>
 #include <functional>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
 #include <utility>
 
-/** One row of legend items, in pixels. */
+/** One row of legend items, in pixels; it has no fewer. */
 constexpr int legendHeight = 30;
+
+/** Between the legend and what is below it, in pixels. */
+constexpr int legendGap = 4;
+
+/** The library gives a plot the height of its picture, of which a page has no two; in pixels. */
+constexpr int leastPlotHeight = 60;
 
 /** Room for the labels of a value axis, so that the canvases of two charts stand in one line. */
 constexpr double valueAxisExtent = 46.0;
 
 /**
- * A chart of the library, @p Base, fitted to a page of 640 by 480: the plot has the height that the
- * page gives it, the legend has one row, and as a lower chart it has neither legend nor labels of
- * its own below the ticks; its series stand in the legend of the upper chart.
+ * A chart of the library, @p Base, fitted to a page: the plot fills it, the legend has the rows
+ * that it needs, and as a lower chart it has no legend of its own; its series stand in that of the
+ * upper chart.
  */
 template <class Base>
 class FittedHistogram : public Base
@@ -30,7 +39,15 @@ class FittedHistogram : public Base
 public:
     enum class Place { Upper, Lower };
 
-    FittedHistogram(Place itsPlace, int plotHeight) : place(itsPlace), height(plotHeight) { }
+    explicit FittedHistogram(Place itsPlace) : place(itsPlace) { }
+
+    /** How much of the height each of two charts has, in parts. After init(). */
+    void shareHeight(int ownPart, QWidget *lower, int partOfLower)
+    {
+        auto *rows = static_cast<QBoxLayout *>(this->layout());
+        rows->setStretchFactor(this->plot, ownPart);
+        rows->setStretchFactor(lower, partOfLower);
+    }
 
     QwtPlot *thePlot() const { return this->plot; }
 
@@ -74,19 +91,46 @@ protected:
     {
         if (place == Place::Upper) {
             Base::setLookAndFeel();
-            this->template findChild<QwtLegend *>()->setMinimumHeight(legendHeight);
+            legend = this->template findChild<QwtLegend *>();
         } else {
             this->setPlotLookAndFeel();
             auto *layout = new QVBoxLayout(this);
             layout->setContentsMargins(0, 0, 0, 0);
             layout->addWidget(this->plot);
         }
-        this->plot->setFixedHeight(height);
+        ground = this->plot->canvasBackground().texture();
+        this->plot->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        this->plot->setMinimumHeight(leastPlotHeight);
+        this->plot->setMaximumHeight(QWIDGETSIZE_MAX);
+        static_cast<QBoxLayout *>(this->layout())->setStretchFactor(this->plot, 1);
+    }
+
+    void resizeEvent(QResizeEvent *event) override
+    {
+        if (legend) {
+            const int rows = legend->heightForWidth(event->size().width());
+            legend->setFixedHeight(std::max(legendHeight, rows + legendGap));
+        }
+        // The library gives all of the room to the plot.
+        Base::resizeEvent(event);
+        this->layout()->invalidate();
+        this->layout()->activate();
+        spreadGround();
     }
 
 private:
+    /** A picture that is lower than the canvas would begin anew in the middle of it. */
+    void spreadGround()
+    {
+        // The canvas itself gets its size later, and is not much smaller.
+        const QSize size = this->plot->size();
+        this->plot->setCanvasBackground(size.height() > ground.height() ? ground.scaled(size)
+                                                                        : ground);
+    }
+
     const Place place;
-    const int height;
+    QPixmap ground;
+    QwtLegend *legend = nullptr;
     Headline headline;
     QwtInterval shown;
 };

@@ -96,6 +96,11 @@ void AnalysisPage::showDate(const QDate &date)
     readDay();
 }
 
+void AnalysisPage::arrange(Shape shape)
+{
+    dayRow->setDirection(shape == Shape::Wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
 void AnalysisPage::showEvent(QShowEvent *event)
 {
     DisplayPage::showEvent(event);
@@ -114,15 +119,21 @@ QWidget *AnalysisPage::makeDayRow()
     dateLabel->setAlignment(Qt::AlignCenter);
     dateLabel->setMinimumWidth(dateWidth);
 
-    auto *row = new QWidget;
-    auto *columns = new QHBoxLayout(row);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->addWidget(previousDay);
-    columns->addWidget(dateLabel);
-    columns->addWidget(nextDay);
-    columns->addStretch();
+    auto *day = new QHBoxLayout;
+    day->addWidget(previousDay);
+    day->addWidget(dateLabel);
+    day->addWidget(nextDay);
+    auto *colors = new QHBoxLayout;
     legend = new QHBoxLayout;
-    columns->addLayout(legend);
+    colors->addLayout(legend);
+    colors->addStretch();
+
+    auto *row = new QWidget;
+    dayRow = new QBoxLayout(QBoxLayout::LeftToRight, row);
+    dayRow->setContentsMargins(0, 0, 0, 0);
+    dayRow->addLayout(day);
+    dayRow->addStretch();
+    dayRow->addLayout(colors);
     return row;
 }
 
@@ -142,6 +153,7 @@ QWidget *AnalysisPage::makePointRow()
     connect(otherCurve, &ZEMButton::clicked, powerPlot, &PowerPlot::pickOtherCurve);
     pointLabel = makeLabel("point", pointSize);
     pointLabel->setAlignment(Qt::AlignCenter);
+    pointLabel->setWordWrap(true);
 
     auto *row = new QWidget;
     auto *columns = new QHBoxLayout(row);

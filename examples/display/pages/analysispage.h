@@ -10,6 +10,7 @@
 #include "powerday.h"
 
 class PowerPlot;
+class QBoxLayout;
 class QHBoxLayout;
 class ZEMButton;
 class ZEMTextLabel;
@@ -31,6 +32,7 @@ public:
     PowerPlot *plot() const { return powerPlot; }
 
 protected:
+    void arrange(Shape shape) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -47,6 +49,7 @@ private:
     ZEMButton *previousDay = nullptr;
     ZEMButton *nextDay = nullptr;
     ZEMTextLabel *dateLabel = nullptr;
+    QBoxLayout *dayRow = nullptr;
     QHBoxLayout *legend = nullptr;
     ZEMButton *previousPoint = nullptr;
     ZEMButton *nextPoint = nullptr;

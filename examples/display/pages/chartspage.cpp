@@ -7,14 +7,12 @@
 #include "displaysettings.h"
 #include "energysource.h"
 
-#include <QVBoxLayout>
+#include <QBoxLayout>
 #include <ZEMButton>
 #include <ZEMHistogram>
 #include <algorithm>
 
 namespace {
-
-constexpr PlotHeights plotHeights {222, 156, 94};
 
 bool sameMeters(const std::vector<EnergySeries> &left, const std::vector<EnergySeries> &right)
 {
@@ -63,6 +61,22 @@ void ChartsPage::showPreviousPeriod()
     currentEntry()->chart->widget()->showPrevPeriod();
 }
 
+/** On an upright page the periods have a row of their own below the headline. */
+void ChartsPage::arrange(Shape shape)
+{
+    pageShape = shape;
+    auto *periods = charts->findChild<QBoxLayout *>(QStringLiteral("horizontalLayout"));
+    auto *headline = charts->findChild<QBoxLayout *>(QStringLiteral("horizontalLayout_2"));
+    auto *rows = charts->findChild<QBoxLayout *>(QStringLiteral("verticalLayout"));
+    headline->removeItem(periods);
+    rows->removeItem(periods);
+    if (shape == Shape::Wide) {
+        headline->addLayout(periods);
+    } else {
+        rows->insertLayout(1, periods);
+    }
+}
+
 void ChartsPage::showEvent(QShowEvent *event)
 {
     DisplayPage::showEvent(event);
@@ -81,10 +95,11 @@ void ChartsPage::makeCharts()
     entries.clear();
     charts = new ZEMHistogramWidget;
     content()->addWidget(charts);
+    ChartsPage::arrange(pageShape);
     ZEM::ZEMTabs tabs;
     for (const Energy &energy : energies) {
         for (const Period period : allPeriods) {
-            auto chart = std::make_unique<EnergyChart>(energy, period, plotHeights);
+            auto chart = std::make_unique<EnergyChart>(energy, period);
             charts->setHistogram(infoOf(period).tab, energy.tab, chart->widget());
             entries.push_back({energy.tab, period, std::move(chart)});
             tabs |= infoOf(period).tab;
@@ -93,7 +108,9 @@ void ChartsPage::makeCharts()
     }
     charts->showTabs(tabs);
     connect(charts, &ZEMHistogramWidget::sigBtnClicked, this, &ChartsPage::handleButton);
-    if (!energies.empty()) {
+    if (energies.empty()) {
+        charts->setTitle(tr("Er is nog geen meter gehoord"));
+    } else {
         showChart(energies.front().tab, Period::Day);
     }
 }

@@ -36,6 +36,7 @@ public:
     void showPreviousPeriod();
 
 protected:
+    void arrange(Shape shape) override;
     void showEvent(QShowEvent *event) override;
     void handleNewDay() override { handleHistory(); }
 
@@ -60,6 +61,7 @@ private:
     std::vector<Entry> entries;
     ZEM::ZEMTab currentEnergy = ZEM::TabElectricity;
     Period currentPeriod = Period::Day;
+    Shape pageShape = Shape::Wide;
     ZEMHistogramWidget *charts = nullptr;
 };
 

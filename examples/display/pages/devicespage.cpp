@@ -9,9 +9,20 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <ZEMAnimatedArrows>
+#include <ZEMButton>
 #include <ZEMCurrentStatusDetails>
 #include <ZEMCurrentStatusDetailsItem>
 #include <cmath>
+
+namespace {
+
+constexpr int wideWidth = 560; // pixels
+constexpr int tallWidth = 448;
+constexpr int wideSpacing = 12; // pixels between devices
+constexpr int tallSpacing = 2;
+constexpr int iconSpacing = 3; // pixels between a device and its power
+
+} // namespace
 
 DevicesPage::DevicesPage(const EnergySource &source, QWidget *parent)
     : DisplayPage(tr("Apparaten"), source, parent), details(new ZEMCurrentStatusDetails)
@@ -19,6 +30,20 @@ DevicesPage::DevicesPage(const EnergySource &source, QWidget *parent)
     content()->addWidget(details, 1, Qt::AlignCenter);
     connect(&source, &EnergySource::powerChanged, this, &DevicesPage::showPower);
     connect(&source, &EnergySource::meteringChanged, this, &DevicesPage::showPower);
+}
+
+/** The picture of the panel is too wide for an upright page, and narrow for four devices. */
+void DevicesPage::arrange(Shape shape)
+{
+    const bool isWide = shape == Shape::Wide;
+    for (QWidget *part :
+         {static_cast<QWidget *>(details), static_cast<QWidget *>(details->getBackgroundWidget()),
+          details->findChild<QWidget *>(QStringLiteral("widget"), Qt::FindDirectChildrenOnly)}) {
+        part->setFixedWidth(isWide ? wideWidth : tallWidth);
+    }
+    details->findChild<QWidget *>(QStringLiteral("widgetConsumption"))
+        ->layout()
+        ->setSpacing(isWide ? wideSpacing : tallSpacing);
 }
 
 void DevicesPage::showEvent(QShowEvent *event)
@@ -34,6 +59,7 @@ ZEMCurrentStatusDetailsItem *DevicesPage::itemOf(const DevicePower &device)
         item = new ZEMCurrentStatusDetailsItem;
         item->setIcon(DeviceIcons::picture(device.device));
         item->setMaxValue(device.most);
+        item->layout()->setSpacing(iconSpacing);
         details->addConsumptionItem(item);
     }
     return item;

@@ -22,6 +22,7 @@ public:
     explicit DevicesPage(const EnergySource &source, QWidget *parent = nullptr);
 
 protected:
+    void arrange(Shape shape) override;
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -7,6 +7,8 @@
 #include "pageicons.h"
 #include "pagelook.h"
 
+#include <QFontMetrics>
+#include <QLabel>
 #include <QLocale>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -17,6 +19,7 @@
 #include <ZEMPageHeader>
 #include <ZEMTextLabel>
 #include <ZEMUtils>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -24,6 +27,8 @@ namespace {
 
 constexpr int margin = 16; // pixels at both sides
 constexpr int tileSize = 54; // pixels, of the square tiles in the header
+constexpr int dotsGap = 2 * 12; // pixels between the title, the dots and what follows
+constexpr int leastTitle = 140; // pixels of a title beside the dots
 constexpr int secondsPerMinute = 60;
 constexpr int millisecondsPerSecond = 1000;
 
@@ -43,6 +48,7 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
     : ZEMPageBackground(parent), shownSource(source), header(new ZEMPageHeader)
 {
     setBackground(PageLook::background());
+    setMinimumSize(0, 0);
 
     auto *actions = new QStackedWidget;
     auto *menu = makeTileButton(PageIcons::menu(), "menu");
@@ -61,6 +67,7 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
     connect(messages, &ZEMNotificationButton::clicked, this, &DisplayPage::messagesClicked);
 
     header->setNrOfPages(0);
+    header->setMinimumWidth(0);
     setTitle(title);
 
     auto *rows = new QVBoxLayout(this);
@@ -81,25 +88,39 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
 
 void DisplayPage::setTitle(const QString &title)
 {
-    header->setTitle(title);
+    wholeTitle = title;
+    fitHeader();
 }
 
 void DisplayPage::setPlace(int index, int count)
 {
     header->setNrOfPages(count);
     header->setCurrentPage(index);
+    fitHeader();
 }
 
 void DisplayPage::addBackButton()
 {
     auto *back = makeTileButton(PageIcons::back(), "back");
     header->setActionButton2(back);
+    fitHeader();
     connect(back, &ZEMButton::clicked, this, &DisplayPage::backClicked);
 }
 
 void DisplayPage::setMessageCount(int count)
 {
     messages->setNotifyCount(count);
+}
+
+void DisplayPage::resizeEvent(QResizeEvent *event)
+{
+    ZEMPageBackground::resizeEvent(event);
+    const Shape now = width() < height() ? Shape::Tall : Shape::Wide;
+    if (now != arrangedFor) {
+        arrangedFor = now;
+        arrange(now);
+    }
+    fitHeader();
 }
 
 void DisplayPage::showEvent(QShowEvent *event)
@@ -148,7 +169,7 @@ QString DisplayPage::dayName(const QDate &date) const
 void DisplayPage::showNow()
 {
     const QDateTime now = shownSource.now();
-    header->setSubtitle(timeText(now));
+    fitHeader();
     minuteTimer.start((secondsPerMinute - now.time().second()) * millisecondsPerSecond);
     const QDate before = std::exchange(shownDay, now.date());
     if (before.isValid() && before != shownDay) {
@@ -156,22 +177,56 @@ void DisplayPage::showNow()
     }
 }
 
-QString DisplayPage::timeText(const QDateTime &now) const
+/** What is told of the time, the best first; the last is the shortest. */
+QStringList DisplayPage::timeTexts(const QDateTime &now) const
 {
     const QLocale locale;
-    // Beside the long names of days and months there is no room.
+    // Beside the long names of days and months there is no room for more.
     const QString inShort = QStringLiteral("ddd d MMM yyyy, HH:mm");
     const std::optional<qint64> last =
         shownSource.isLive() ? std::nullopt : shownSource.household().lastInstant();
     if (last) {
         const QDateTime then =
             QDateTime::fromSecsSinceEpoch(*last, shownSource.household().timeZone);
-        return tr("stand van %1").arg(locale.toString(then, inShort));
+        const QString text = tr("stand van %1");
+        return {text.arg(locale.toString(then, inShort)),
+                text.arg(locale.toString(then, QStringLiteral("d MMM yyyy"))),
+                text.arg(locale.toString(then, QStringLiteral("d-M-yyyy")))};
     }
     if (shownSource.isSimulated()) {
-        return tr("simulatie, %1").arg(locale.toString(now, inShort));
+        const QString text = tr("simulatie, %1");
+        return {text.arg(locale.toString(now, inShort)),
+                text.arg(locale.toString(now, QStringLiteral("d MMM, HH:mm"))),
+                text.arg(locale.toString(now, QStringLiteral("HH:mm")))};
     }
-    return locale.toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm"));
+    return {locale.toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")),
+            locale.toString(now, inShort),
+            locale.toString(now, QStringLiteral("ddd d MMM, HH:mm"))};
+}
+
+/** The width between the buttons of the header. */
+int DisplayPage::textRoom() const
+{
+    constexpr int edges = 12 + 16 + 16 + 12; // pixels, of the form
+    const auto *left = header->findChild<QWidget *>(QStringLiteral("widget_2"));
+    const auto *right = header->findChild<QLayout *>(QStringLiteral("btnLayout"));
+    return width() - edges - left->sizeHint().width() - right->sizeHint().width();
+}
+
+void DisplayPage::fitHeader()
+{
+    const int room = textRoom();
+    const QString dots = QStringLiteral("pageIndicator");
+    const int besideDots = room - header->findChild<QWidget *>(dots)->sizeHint().width() - dotsGap;
+    header->showPageIndicator(besideDots >= leastTitle);
+    header->setTitle(PageLook::elided(wholeTitle, header->getTitleWidget(),
+                                      besideDots >= leastTitle ? besideDots : room));
+    const QStringList texts = timeTexts(shownSource.now());
+    const QFontMetrics metrics(header->getSubtitleWidget()->font());
+    const auto fitting = std::find_if(texts.begin(), texts.end(), [&](const QString &text) {
+        return metrics.horizontalAdvance(text) <= room;
+    });
+    header->setSubtitle(fitting == texts.end() ? texts.last() : *fitting);
 }
 
 void DisplayPage::showGridPower()

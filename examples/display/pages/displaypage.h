@@ -6,8 +6,10 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <ZEMPageBackground>
+#include <optional>
 
 class EnergySource;
 class QVBoxLayout;
@@ -19,8 +21,9 @@ class ZEMTextLabel;
 /**
  * The base of all pages of the display: the dark ground, and a header with the menu, a way back,
  * the title and place of the page, date and time (and that it is a simulation, or of when the
- * readings are that do not go on), the power of the grid and the messages. A page is 640 by 480
- * pixels, of which the header takes 74. Nothing moves on a page that is not in view.
+ * readings are that do not go on), the power of the grid and the messages. It fills any size from
+ * 640 by 480 or, upright, 480 by 800 pixels, of which the header takes 74 in height. Nothing moves
+ * on a page that is not in view.
  */
 class DisplayPage : public ZEMPageBackground
 {
@@ -44,6 +47,8 @@ Q_SIGNALS:
     void messagesClicked();
 
 protected:
+    enum class Shape { Wide, Tall };
+
     const EnergySource &energySource() const { return shownSource; }
     /** The room beneath the header. */
     QVBoxLayout *content() const { return contentLayout; }
@@ -53,18 +58,26 @@ protected:
     /** The page is in view, and the household came to another day since it told of one. */
     virtual void handleNewDay() { }
 
+    /** Puts what is on the page beside each other, or below. Called before the page is seen. */
+    virtual void arrange(Shape /*shape*/) { }
+
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
     QWidget *makePowerTile();
     void showNow();
-    QString timeText(const QDateTime &now) const;
+    void fitHeader();
+    int textRoom() const;
+    QStringList timeTexts(const QDateTime &now) const;
     void showGridPower();
 
     const EnergySource &shownSource;
     QTimer minuteTimer;
     QDate shownDay;
+    QString wholeTitle;
+    std::optional<Shape> arrangedFor;
     ZEMPageHeader *header;
     QVBoxLayout *contentLayout = nullptr;
     ZEMTextLabel *powerCaption = nullptr;

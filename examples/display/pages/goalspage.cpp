@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int cardWidth = 330; // pixels
+constexpr int cardGap = 14; // pixels
 constexpr int barHeight = 18;
 constexpr int barLine = 3;
 constexpr QSize starsSize(100, 84);
@@ -39,9 +39,9 @@ QWidget *makeCard(ZEMTextLabel **caption, QVBoxLayout **rows)
     palette.setColor(QPalette::Window, QColor(0, 0, 0, 90));
     card->setPalette(palette);
     card->setAutoFillBackground(true);
-    card->setFixedWidth(cardWidth);
     *rows = new QVBoxLayout(card);
     (*rows)->setContentsMargins(14, 10, 14, 12);
+    (*rows)->setAlignment(Qt::AlignTop);
     (*rows)->setSpacing(8);
     *caption = PageLook::makeLabel(QString(), 12);
     (*rows)->addWidget(*caption);
@@ -73,14 +73,11 @@ GoalsPage::GoalsPage(const EnergySource &source, DisplaySettings *theSettings,
                      InputDialogs *theDialogs, QWidget *parent)
     : DisplayPage(tr("Doelen"), source, parent), settings(theSettings), dialogs(theDialogs)
 {
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(14);
-    grid->setAlignment(Qt::AlignCenter);
-    grid->addWidget(makeToday(), 0, 0);
-    grid->addWidget(makeYesterday(), 1, 0);
-    grid->addWidget(makeProfiles(), 0, 1, Qt::AlignTop);
-    grid->addWidget(makeYearGoal(), 1, 1, Qt::AlignTop);
+    grid = new QGridLayout;
+    grid->setContentsMargins(0, cardGap, 0, cardGap);
+    grid->setSpacing(cardGap);
+    cards = {makeToday(), makeProfiles(), makeYesterday(), makeYearGoal()};
+    GoalsPage::arrange(Shape::Wide);
     content()->addLayout(grid, 1);
 
     connect(&source, &EnergySource::historyChanged, this, &GoalsPage::refresh);
@@ -91,6 +88,17 @@ void GoalsPage::setCostRules(const Costs::CostRules *costRules)
 {
     rules = costRules;
     refresh();
+}
+
+void GoalsPage::arrange(Shape shape)
+{
+    const int columns = shape == Shape::Wide ? 2 : 1;
+    for (int i = 0; i < cards.size(); ++i) {
+        grid->removeWidget(cards.at(i));
+        grid->addWidget(cards.at(i), i / columns, i % columns);
+    }
+    // The profiles have the width of their picture, and a row of cards one height.
+    grid->setColumnStretch(0, 1);
 }
 
 void GoalsPage::showEvent(QShowEvent *event)
@@ -108,7 +116,8 @@ QWidget *GoalsPage::makeToday()
     rows->addWidget(todayText);
 
     budgetBar = new ZEMBarIndicator;
-    budgetBar->setFixedSize(cardWidth - 28, barHeight);
+    budgetBar->setMinimumSize(0, 0);
+    budgetBar->setFixedHeight(barHeight);
     budgetBar->setMaxValuePen(QPen(style.color(ZEMStyle::WhiteAlpha50), barLine));
     // How much of the day is over.
     budgetBar->setEnableMidValue(true);
@@ -137,11 +146,11 @@ QWidget *GoalsPage::makeYesterday()
 
 QWidget *GoalsPage::makeProfiles()
 {
+    ZEMTextLabel *caption = nullptr;
+    QVBoxLayout *rows = nullptr;
+    QWidget *card = makeCard(&caption, &rows);
+    caption->setText(tr("profiel"));
     auto *group = new QButtonGroup(this);
-    auto *column = new QWidget;
-    auto *rows = new QVBoxLayout(column);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(4);
     for (const Profile profile : {Profile::Home, Profile::Away, Profile::Holiday}) {
         auto *button = new ZEMProfileButton;
         button->setTitle(nameOf(profile));
@@ -151,7 +160,7 @@ QWidget *GoalsPage::makeProfiles()
         connect(button, &ZEMProfileButton::clicked, this,
                 [this, profile] { settings->setProfile(profile); });
     }
-    return column;
+    return card;
 }
 
 QWidget *GoalsPage::makeYearGoal()
@@ -160,13 +169,12 @@ QWidget *GoalsPage::makeYearGoal()
     yearGoal->setObjectName(QStringLiteral("yearGoal"));
     connect(yearGoal, &ZEMLineEditButton::clicked, this, &GoalsPage::askForYearGoal);
 
-    auto *column = new QWidget;
-    auto *rows = new QVBoxLayout(column);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(2);
-    rows->addWidget(PageLook::makeLabel(tr("doel van een jaar"), 12));
+    ZEMTextLabel *caption = nullptr;
+    QVBoxLayout *rows = nullptr;
+    QWidget *card = makeCard(&caption, &rows);
+    caption->setText(tr("doel van een jaar"));
     rows->addWidget(yearGoal);
-    return column;
+    return card;
 }
 
 void GoalsPage::askForYearGoal()

@@ -7,6 +7,7 @@
 #include "displaypage.h"
 #include "displaysettings.h"
 
+#include <QList>
 #include <map>
 
 namespace Costs {
@@ -14,6 +15,7 @@ struct CostRules;
 }
 
 class InputDialogs;
+class QGridLayout;
 class ZEMBarIndicator;
 class ZEMLineEditButton;
 class ZEMProfileButton;
@@ -34,6 +36,7 @@ public:
     void setCostRules(const Costs::CostRules *rules);
 
 protected:
+    void arrange(Shape shape) override;
     void showEvent(QShowEvent *event) override;
     void handleNewDay() override { refresh(); }
 
@@ -48,6 +51,8 @@ private:
     void showYesterday();
     QString costsText(const QDate &day, double amount) const;
 
+    QGridLayout *grid = nullptr;
+    QList<QWidget *> cards;
     DisplaySettings *settings;
     InputDialogs *dialogs;
     const Costs::CostRules *rules = nullptr;

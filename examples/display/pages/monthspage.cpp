@@ -12,13 +12,14 @@
 #include <ZEMButton>
 #include <ZEMStyle>
 #include <ZEMTableViewLogic>
+#include <algorithm>
 
 namespace {
 
-constexpr int rowsOfPage = 10;
 constexpr int rowHeight = 32; // pixels
 constexpr int headingHeight = 48; // pixels, for two lines
 constexpr int buttonGap = 12; // pixels
+constexpr int topMargin = 6; // pixels
 
 } // namespace
 
@@ -26,12 +27,12 @@ MonthsPage::MonthsPage(const EnergySource &source, QWidget *parent)
     : DisplayPage(tr("Maanden"), source, parent)
 {
     makeTable();
-    auto *row = new QHBoxLayout;
-    row->setContentsMargins(0, 6, 0, 0);
-    row->setSpacing(buttonGap);
-    row->addWidget(view, 1, Qt::AlignTop);
-    row->addWidget(makeButtons());
-    content()->addLayout(row);
+    columns = new QBoxLayout(QBoxLayout::LeftToRight);
+    columns->setContentsMargins(0, topMargin, 0, 0);
+    columns->setSpacing(buttonGap);
+    columns->addWidget(view, 1, Qt::AlignTop);
+    columns->addWidget(makeButtons());
+    content()->addLayout(columns);
     connect(&source, &EnergySource::historyChanged, this, &MonthsPage::handleHistory);
 }
 
@@ -40,6 +41,33 @@ void MonthsPage::setCostRules(const Costs::CostRules *costRules)
     rules = costRules;
     change->show();
     handleHistory();
+}
+
+void MonthsPage::arrange(Shape shape)
+{
+    const bool isWide = shape == Shape::Wide;
+    columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    arrows->setDirection(isWide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    arrows->setContentsMargins(0, isWide ? headingHeight : 0, 0, 0);
+}
+
+void MonthsPage::resizeEvent(QResizeEvent *event)
+{
+    DisplayPage::resizeEvent(event);
+    fitRows();
+}
+
+/** Whole rows alone, as many as there is room for. */
+void MonthsPage::fitRows()
+{
+    content()->activate();
+    const bool isWide = columns->direction() == QBoxLayout::LeftToRight;
+    const int below = isWide ? 0 : arrows->sizeHint().height() + buttonGap;
+    const int room = columns->geometry().height() - topMargin - below - headingHeight;
+    const int count = std::max(1, room / rowHeight);
+    view->setFixedHeight(headingHeight + count * rowHeight);
+    pages->setNrPageItems(count);
+    pages->setIndex(std::max(0, view->currentIndex().row()));
 }
 
 void MonthsPage::showEvent(QShowEvent *event)
@@ -53,7 +81,6 @@ void MonthsPage::makeTable()
     view = new FittedTableView;
     view->setObjectName(QStringLiteral("table"));
     view->setFont(PageLook::textFont(13));
-    view->setFixedHeight(headingHeight + rowsOfPage * rowHeight);
     view->setFrameShape(QFrame::NoFrame);
     view->setShowGrid(false);
     view->setSelectionMode(QAbstractItemView::NoSelection);
@@ -74,7 +101,6 @@ void MonthsPage::makeTable()
     view->horizontalHeader()->setPalette(palette);
 
     pages = new ZEMTableViewLogic(view);
-    pages->setNrPageItems(rowsOfPage);
     pages->setModel(&months);
 }
 
@@ -98,13 +124,12 @@ QWidget *MonthsPage::makeButtons()
     connect(change, &ZEMButton::clicked, this, &MonthsPage::changeTable);
 
     auto *buttons = new QWidget;
-    auto *column = new QVBoxLayout(buttons);
-    column->setContentsMargins(0, headingHeight, 0, 0);
-    column->addWidget(up);
-    column->addStretch();
-    column->addWidget(change);
-    column->addStretch();
-    column->addWidget(down);
+    arrows = new QBoxLayout(QBoxLayout::TopToBottom, buttons);
+    arrows->addWidget(up);
+    arrows->addStretch();
+    arrows->addWidget(change);
+    arrows->addStretch();
+    arrows->addWidget(down);
     return buttons;
 }
 

@@ -12,6 +12,7 @@ struct CostRules;
 }
 
 class FittedTableView;
+class QBoxLayout;
 class ZEMButton;
 class ZEMTableViewLogic;
 
@@ -33,11 +34,14 @@ public:
     void setCostRules(const Costs::CostRules *rules);
 
 protected:
+    void arrange(Shape shape) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void makeTable();
     QWidget *makeButtons();
+    void fitRows();
     void handleHistory();
     void changeTable();
     void feed();
@@ -45,6 +49,8 @@ private:
     const Costs::CostRules *rules = nullptr;
     bool showsCosts = false;
     MonthsTable months;
+    QBoxLayout *columns = nullptr;
+    QBoxLayout *arrows = nullptr;
     FittedTableView *view = nullptr;
     ZEMTableViewLogic *pages = nullptr;
     ZEMButton *change = nullptr;

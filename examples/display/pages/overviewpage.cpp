@@ -28,7 +28,6 @@ using Readings::Quantity;
 
 namespace {
 
-constexpr int weekPlotHeight = 132; // pixels, of the 152 of the button
 constexpr double leastLimit = 0.1; // of the value axis, in the unit of the quantity
 
 /** The dates of the newest window of a chart. */
@@ -40,24 +39,43 @@ DateRange newestOnly(Period period, const QDate &last)
 } // namespace
 
 OverviewPage::OverviewPage(const EnergySource &source, QWidget *parent)
-    : DisplayPage(tr("Overzicht"), source, parent), status(new ZEMCurrentStatusWidget)
+    : DisplayPage(tr("Overzicht"), source, parent), tiles(new QGridLayout),
+      status(new ZEMCurrentStatusWidget)
 {
     status->setMaxProduction(source.mostProduction());
     connect(status, &ZEMCurrentStatusWidget::clicked, this, &OverviewPage::devicesClicked);
 
-    auto *tiles = new QGridLayout;
     tiles->setHorizontalSpacing(24);
     tiles->setVerticalSpacing(18);
     tiles->setAlignment(Qt::AlignCenter);
-    tiles->addWidget(status, 0, 0);
-    tiles->addWidget(makeTotals(), 0, 1);
-    tiles->addWidget(makeWeekButton(), 1, 0);
-    tiles->addWidget(makePageButtons(), 1, 1, Qt::AlignBottom);
+    makeTotals();
+    makeWeekButton();
+    makePageButtons();
+    OverviewPage::arrange(Shape::Wide);
     content()->addLayout(tiles, 1);
 
     connect(&source, &EnergySource::powerChanged, this, &OverviewPage::showPower);
     connect(&source, &EnergySource::meteringChanged, this, &OverviewPage::showPower);
     connect(&source, &EnergySource::historyChanged, this, &OverviewPage::handleHistory);
+}
+
+void OverviewPage::arrange(Shape shape)
+{
+    for (QWidget *tile : {static_cast<QWidget *>(status), static_cast<QWidget *>(totals),
+                          static_cast<QWidget *>(weekButton), pageButtons}) {
+        tiles->removeWidget(tile);
+    }
+    if (shape == Shape::Wide) {
+        tiles->addWidget(status, 0, 0);
+        tiles->addWidget(totals, 0, 1);
+        tiles->addWidget(weekButton, 1, 0);
+        tiles->addWidget(pageButtons, 1, 1, Qt::AlignBottom);
+    } else {
+        tiles->addWidget(status, 0, 0, 1, 2);
+        tiles->addWidget(weekButton, 1, 0, 1, 2);
+        tiles->addWidget(totals, 2, 0);
+        tiles->addWidget(pageButtons, 2, 1, Qt::AlignBottom | Qt::AlignRight);
+    }
 }
 
 void OverviewPage::showEvent(QShowEvent *event)
@@ -67,7 +85,7 @@ void OverviewPage::showEvent(QShowEvent *event)
     showPower();
 }
 
-QWidget *OverviewPage::makeTotals()
+void OverviewPage::makeTotals()
 {
     totals = new ZEMTotalsTodayWidget;
     connect(totals, &ZEMTotalsTodayWidget::btn_top_histogram_clicked, this,
@@ -76,13 +94,12 @@ QWidget *OverviewPage::makeTotals()
             &OverviewPage::chartsClicked);
     upperDay = makeSmallChart(totals->getTopHistogram(), Period::Day);
     lowerDay = makeSmallChart(totals->getBottomHistogram(), Period::Day);
-    return totals;
 }
 
-QWidget *OverviewPage::makeWeekButton()
+void OverviewPage::makeWeekButton()
 {
     using Chart = FittedHistogram<ZEMSmartWeekHistogram>;
-    auto *chart = new Chart(Chart::Place::Lower, weekPlotHeight);
+    auto *chart = new Chart(Chart::Place::Lower);
     chart->init();
     chart->setScalePeriod(slotsOf(Period::Week));
     chart->setTouchable(false);
@@ -92,10 +109,9 @@ QWidget *OverviewPage::makeWeekButton()
     weekButton = new ZEMHistogramButton;
     weekButton->setHistogram(chart);
     connect(weekButton, &ZEMHistogramButton::clicked, this, &OverviewPage::chartsClicked);
-    return weekButton;
 }
 
-QWidget *OverviewPage::makePageButtons()
+void OverviewPage::makePageButtons()
 {
     ZEMButton *analysis = PageLook::makeTextButton(tr("Analyse"));
     analysis->setObjectName(QStringLiteral("analysis"));
@@ -104,13 +120,12 @@ QWidget *OverviewPage::makePageButtons()
     goals->setObjectName(QStringLiteral("goals"));
     connect(goals, &ZEMButton::clicked, this, &OverviewPage::goalsClicked);
 
-    auto *buttons = new QWidget;
-    auto *rows = new QVBoxLayout(buttons);
+    pageButtons = new QWidget;
+    auto *rows = new QVBoxLayout(pageButtons);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(2);
     rows->addWidget(analysis);
     rows->addWidget(goals);
-    return buttons;
 }
 
 OverviewPage::SmallChart OverviewPage::makeSmallChart(ZEMHistogram *chart, Period period)

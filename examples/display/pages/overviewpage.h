@@ -12,6 +12,7 @@
 #include <initializer_list>
 #include <optional>
 
+class QGridLayout;
 class QwtPlot;
 class ZEMCurrentStatusWidget;
 class ZEMHistogram;
@@ -37,6 +38,7 @@ Q_SIGNALS:
     void goalsClicked();
 
 protected:
+    void arrange(Shape shape) override;
     void showEvent(QShowEvent *event) override;
     void handleNewDay() override { handleHistory(); }
 
@@ -50,9 +52,9 @@ private:
     };
     using Quantities = std::initializer_list<Readings::Quantity>;
 
-    QWidget *makeTotals();
-    QWidget *makeWeekButton();
-    QWidget *makePageButtons();
+    void makeTotals();
+    void makeWeekButton();
+    void makePageButtons();
     static SmallChart makeSmallChart(ZEMHistogram *chart, Period period);
     std::optional<Readings::Quantity> firstMeasured(Quantities quantities,
                                                     std::optional<Readings::Quantity> butNot) const;
@@ -62,12 +64,14 @@ private:
     ChartValues feed(const SmallChart &small, Readings::Quantity quantity);
     void feedWeek(Readings::Quantity quantity);
 
+    QGridLayout *tiles = nullptr;
     ZEMCurrentStatusWidget *status = nullptr;
     ZEMTotalsTodayWidget *totals = nullptr;
     SmallChart upperDay;
     SmallChart lowerDay;
     SmallChart week;
     ZEMHistogramButton *weekButton = nullptr;
+    QWidget *pageButtons = nullptr;
     QwtPlot *weekPlot = nullptr;
     bool isFed = false;
 };

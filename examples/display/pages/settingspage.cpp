@@ -19,9 +19,8 @@
 
 namespace {
 
-constexpr int columns = 2;
 constexpr int priceDecimals = 4;
-constexpr int longestShown = 24; // characters of a field
+constexpr int fieldRoom = 233 - 2 * 14; // pixels of a field for its text
 
 constexpr int standbyMinutes[] = {0, 1, 2, 5, 10, 30, 60};
 constexpr int nightBegins[] = {20, 21, 22, 23, 0, 1}; // hours
@@ -52,12 +51,6 @@ QString languageName(const QString &language)
     return name.isEmpty() ? language : name.at(0).toUpper() + name.mid(1);
 }
 
-/** What fits a field. */
-QString shortened(const QString &text)
-{
-    return text.size() > longestShown ? text.left(longestShown) + QStringLiteral("…") : text;
-}
-
 QString privacyText()
 {
     return SettingsPage::tr(
@@ -84,22 +77,23 @@ SettingsPage::SettingsPage(const EnergySource &source, DisplaySettings *theSetti
                            InputDialogs *theDialogs, QWidget *parent)
     : DisplayPage(tr("Instellingen"), source, parent), settings(theSettings), dialogs(theDialogs)
 {
-    auto *grid = new QGridLayout;
+    grid = new QGridLayout;
     grid->setHorizontalSpacing(32);
     grid->setVerticalSpacing(10);
     grid->setAlignment(Qt::AlignCenter);
-    houseName = addField(grid, tr("naam van het huis"), "houseName", &SettingsPage::askHouseName);
-    price = addField(grid, tr("prijs van een kWh"), "price", &SettingsPage::askPrice);
-    contract = addField(grid, tr("tarief"), "contract", &SettingsPage::chooseContract);
-    keyboard = addField(grid, tr("toetsenbord"), "keyboard", &SettingsPage::chooseKeyboard);
-    standby = addField(grid, tr("scherm uit na"), "standby", &SettingsPage::chooseStandby);
-    night = addField(grid, tr("scherm 's nachts uit"), "night", &SettingsPage::chooseNight);
-    addField(grid, tr("uitleg"), "privacy", &SettingsPage::readPrivacy)
+    houseName = addField(tr("naam van het huis"), "houseName", &SettingsPage::askHouseName);
+    price = addField(tr("prijs van een kWh"), "price", &SettingsPage::askPrice);
+    contract = addField(tr("tarief"), "contract", &SettingsPage::chooseContract);
+    keyboard = addField(tr("toetsenbord"), "keyboard", &SettingsPage::chooseKeyboard);
+    standby = addField(tr("scherm uit na"), "standby", &SettingsPage::chooseStandby);
+    night = addField(tr("scherm 's nachts uit"), "night", &SettingsPage::chooseNight);
+    addField(tr("uitleg"), "privacy", &SettingsPage::readPrivacy)
         ->setText(tr("Wat bewaart dit scherm?"));
 
-    ZEMLineEditButton *clearButton = addField(grid, QString(), "clear", &SettingsPage::clear);
+    ZEMLineEditButton *clearButton = addField(QString(), "clear", &SettingsPage::clear);
     clearButton->setText(tr("Alles wissen"));
     clearButton->setAlignment(Qt::AlignCenter);
+    SettingsPage::arrange(Shape::Wide);
     content()->addLayout(grid, 1);
 
     connect(settings, &DisplaySettings::changed, this, &SettingsPage::refresh);
@@ -112,8 +106,8 @@ void SettingsPage::setPricedByContract()
     refresh();
 }
 
-ZEMLineEditButton *SettingsPage::addField(QGridLayout *grid, const QString &caption,
-                                          const char *name, void (SettingsPage::*ask)())
+ZEMLineEditButton *SettingsPage::addField(const QString &caption, const char *name,
+                                          void (SettingsPage::*ask)())
 {
     ZEMLineEditButton *field = PageLook::makeField();
     field->setObjectName(QLatin1String(name));
@@ -125,9 +119,17 @@ ZEMLineEditButton *SettingsPage::addField(QGridLayout *grid, const QString &capt
         cell->addWidget(PageLook::makeLabel(caption, 11));
     }
     cell->addWidget(field);
-    const int index = grid->count();
-    grid->addLayout(cell, index / columns, index % columns);
+    cells.append(cell);
     return field;
+}
+
+void SettingsPage::arrange(Shape shape)
+{
+    const int columns = shape == Shape::Wide ? 2 : 1;
+    for (int i = 0; i < cells.size(); ++i) {
+        grid->removeItem(cells.at(i));
+        grid->addLayout(cells.at(i), i / columns, i % columns);
+    }
 }
 
 void SettingsPage::askHouseName()
@@ -227,10 +229,9 @@ void SettingsPage::clear()
 
 void SettingsPage::refresh()
 {
-    const auto orDash = [](const QString &text) {
-        return text.isEmpty() ? QStringLiteral("–") : shortened(text);
-    };
-    houseName->setText(orDash(settings->houseName()));
+    const QString name = settings->houseName();
+    houseName->setText(name.isEmpty() ? QStringLiteral("–")
+                                      : PageLook::elided(name, houseName, fieldRoom));
     price->setText(isPricedByContract ? tr("volgens contract")
                                       : QStringLiteral("€ %1").arg(QLocale().toString(
                                           settings->price(), 'f', priceDecimals)));

@@ -6,9 +6,12 @@
 
 #include "displaypage.h"
 
+#include <QList>
+
 class DisplaySettings;
 class InputDialogs;
 class QGridLayout;
+class QLayout;
 class ZEMLineEditButton;
 
 /** What people can enter; each field opens the dialog or list that suits it. */
@@ -24,8 +27,11 @@ public:
     /** From now on the price is not entered here, but told by a contract. */
     void setPricedByContract();
 
+protected:
+    void arrange(Shape shape) override;
+
 private:
-    ZEMLineEditButton *addField(QGridLayout *grid, const QString &caption, const char *name,
+    ZEMLineEditButton *addField(const QString &caption, const char *name,
                                 void (SettingsPage::*ask)());
     void askHouseName();
     void askPrice();
@@ -37,6 +43,8 @@ private:
     void clear();
     void refresh();
 
+    QGridLayout *grid = nullptr;
+    QList<QLayout *> cells; ///< of the grid, a caption and a field each
     DisplaySettings *settings;
     InputDialogs *dialogs;
     bool isPricedByContract = false;
