@@ -3,6 +3,7 @@
 
 #include "backlight.h"
 #include "busynotice.h"
+#include "displayscale.h"
 #include "displaysettings.h"
 #include "displaywindow.h"
 #include "energy.h"
@@ -15,6 +16,7 @@
 #include "mqttmeter.h"
 #include "options.h"
 #include "p1time.h"
+#include "pagelook.h"
 #include "pricefile.h"
 #include "readingsfile.h"
 #include "readingssource.h"
@@ -25,6 +27,7 @@
 #include <QEventLoop>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QScreen>
 #include <QStyleFactory>
 #include <QTextStream>
 #include <QTimer>
@@ -64,6 +67,24 @@ Options optionsOf(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     nameApplication();
     return readOptions(application.arguments(), DisplayWindow::pageNames());
+}
+
+/** Whether the display takes the whole screen, whatever size that has. */
+bool takesScreen(const Options &options)
+{
+    return !options.size && DisplayScale::isWholeScreen(qEnvironmentVariable("QT_QPA_PLATFORM"));
+}
+
+/** How many pixels the display is to fill. */
+QSize screenOf(const Options &options, int argc, char *argv[])
+{
+    if (takesScreen(options)) {
+        // By how much everything is larger has to be known before there is an application.
+        const QGuiApplication look(argc, argv);
+        const QScreen *whole = QGuiApplication::primaryScreen();
+        return whole->size() * whole->devicePixelRatio();
+    }
+    return options.size.value_or(PageLook::pageSize);
 }
 
 void setLook()
@@ -110,12 +131,13 @@ std::optional<Readings::Household> readHousehold(const QStringList &files)
 
 /** The source that the command line asks for, ready to be shown. Null if there is nothing to show.
  */
-std::unique_ptr<EnergySource> makeSource(const Options &options)
+std::unique_ptr<EnergySource> makeSource(const Options &options, const QSize &pageSize)
 {
     std::optional<Readings::Household> household;
     if (!options.readings.isEmpty()) {
-        doWithNotice(QCoreApplication::translate("main", "Standen lezen …"),
-                     [&] { household = readHousehold(options.readings); });
+        doWithNotice(
+            QCoreApplication::translate("main", "Standen lezen …"),
+            [&] { household = readHousehold(options.readings); }, pageSize);
         if (!household) {
             return nullptr;
         }
@@ -131,8 +153,9 @@ std::unique_ptr<EnergySource> makeSource(const Options &options)
         return std::make_unique<ReadingsSource>(std::move(*household));
     }
     auto house = std::make_unique<HouseSource>(options.speed);
-    doWithNotice(QCoreApplication::translate("main", "Het huis komt tot leven …"),
-                 [&] { house->prepare(); });
+    doWithNotice(
+        QCoreApplication::translate("main", "Het huis komt tot leven …"), [&] { house->prepare(); },
+        pageSize);
     return house;
 }
 
@@ -188,8 +211,8 @@ int transfer(const Options &options, int argc, char *argv[])
     return 0;
 }
 
-/** Shows the display until it ends, or writes its pictures. Returns the status of the program. */
-int show(const Options &options, EnergySource *source)
+/** Shows the display until it is closed, or until its pictures are written. */
+int show(const Options &options, EnergySource *source, const QSize &pageSize)
 {
     DisplaySettings settings;
     DisplayWindow display(*source, &settings, keyboardDirectory());
@@ -212,19 +235,24 @@ int show(const Options &options, EnergySource *source)
     light(false);
     QObject::connect(&display, &DisplayWindow::standbyChanged, &display, light);
     display.openPage(options.page);
-    display.show();
+    if (takesScreen(options)) {
+        display.showFullScreen();
+    } else {
+        display.setFixedSize(pageSize);
+        display.show();
+    }
     source->start();
 
-    if (!options.screenshots.isEmpty()) {
-        waitForPictures(source);
-        const QString problem = writeScreenshots(options.screenshots, &display);
-        if (!problem.isEmpty()) {
-            printError(QStringLiteral("zemkit-display: %1").arg(problem));
-            return exitFailure;
-        }
-        return 0;
+    if (options.screenshots.isEmpty()) {
+        return QApplication::exec();
     }
-    return QApplication::exec();
+    waitForPictures(source);
+    const QString problem = writeScreenshots(options.screenshots, &display);
+    if (!problem.isEmpty()) {
+        printError(QStringLiteral("zemkit-display: %1").arg(problem));
+        return exitFailure;
+    }
+    return 0;
 }
 
 } // namespace
@@ -247,6 +275,9 @@ int main(int argc, char *argv[])
     if (!options.screenshots.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    const QSize screen = screenOf(options, argc, argv);
+    DisplayScale::prepare(screen);
+    const QSize pageSize = DisplayScale::pageSizeOn(screen);
     const QApplication application(argc, argv);
     nameApplication();
     Language::speakDutch();
@@ -257,9 +288,9 @@ int main(int argc, char *argv[])
         printErrors(problems);
         return exitFailure;
     }
-    const std::unique_ptr<EnergySource> source = makeSource(options);
+    const std::unique_ptr<EnergySource> source = makeSource(options, pageSize);
     if (!source) {
         return exitNothingToShow;
     }
-    return show(options, source.get());
+    return show(options, source.get(), pageSize);
 }

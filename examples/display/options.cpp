@@ -4,6 +4,7 @@
 #include "options.h"
 
 #include "costoptions.h"
+#include "displayscale.h"
 #include "historykeeper.h"
 #include "houseclock.h"
 #include "mqttoptions.h"
@@ -141,6 +142,12 @@ private:
         QStringLiteral("speed"),
         QStringLiteral("Let the simulated house, or a file of telegrams, run N times as fast."),
         QStringLiteral("N"), QStringLiteral("1")};
+    const QCommandLineOption size {
+        QStringLiteral("size"),
+        QStringLiteral("Be as large as this, in pixels, as 1024x600; at least 640x480, or 480x800. "
+                       "If left out: 640x480, or the whole screen where there is no window "
+                       "manager."),
+        QStringLiteral("WxH")};
     const QCommandLineOption page;
     const QCommandLineOption screenshots {
         QStringLiteral("screenshots"),
@@ -155,13 +162,13 @@ CommandLine::CommandLine(const QStringList &pages)
            QStringLiteral("NAME"), pages.value(0))
 {
     parser.setApplicationDescription(
-        QStringLiteral("Shows the energy of a household on a screen of 640 by 480 pixels: a "
-                       "simulated one, or a real one with --readings, --p1 or --mqtt."));
+        QStringLiteral("Shows the energy of a household: a simulated one, or a real one with "
+                       "--readings, --p1 or --mqtt."));
     parser.addOptions({help, version, readings, meter});
     parser.addOptions(mqtt.all());
     parser.addOptions(costOptions.all());
     parser.addOptions(
-        {importFiles, exportFile, exportMonths, data, noHistory, speed, page, screenshots});
+        {importFiles, exportFile, exportMonths, data, noHistory, speed, size, page, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings or --import."),
                                  QStringLiteral("[FILE...]"));
@@ -231,6 +238,10 @@ QString CommandLine::problem(const QStringList &pages) const
             .arg(HouseClock::fastest)
             .arg(parser.value(speed));
     }
+    if (parser.isSet(size) && !DisplayScale::parseSize(parser.value(size))) {
+        return QStringLiteral("--size wants WIDTHxHEIGHT, at least 640x480 or 480x800, not '%1'")
+            .arg(parser.value(size));
+    }
     return {};
 }
 
@@ -254,6 +265,7 @@ Options CommandLine::options() const
         parser.values(importFiles) + parser.values(readings) + parser.positionalArguments();
     options.exportTo = parser.value(exportFile);
     options.exportMonthsTo = parser.value(exportMonths);
+    options.size = DisplayScale::parseSize(parser.value(size));
     options.page = parser.value(page);
     options.screenshots = parser.value(screenshots);
     return options;

@@ -7,6 +7,7 @@
 #include "contract.h"
 #include "mqttmeter.h"
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -33,6 +34,7 @@ struct Options
     QString history; ///< directory of the history of a meter; empty: it is not kept
     double speed = 1.0; ///< how much faster than the clock on the wall
     QString screenshots; ///< directory for the pictures of all pages; empty: show the display
+    std::optional<QSize> size; ///< of the display in pixels; empty: of its own choice
     QString page; ///< the page to open; empty: the first
 };
 

@@ -20,9 +20,10 @@ struct Result
     QString errors;
 };
 
-inline Result run(const QStringList &arguments)
+inline Result run(const QStringList &arguments, const QStringList &environment = {})
 {
     QProcess process;
+    process.setEnvironment(QProcess::systemEnvironment() + environment);
     process.start(QStringLiteral(DISPLAY_PROGRAM), arguments);
     Result result;
     if (process.waitForFinished(ZemTest::hangs) && process.exitStatus() == QProcess::NormalExit) {

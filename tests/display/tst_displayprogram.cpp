@@ -48,6 +48,9 @@ private Q_SLOTS:
     void brokenRowIsNamedAndTheRestIsShown();
     void screenshotsOfEveryChart();
     void screenshotsIntoAFile();
+    void screenshotsOfASize();
+    void badSize_data();
+    void badSize();
 
 private:
     QString writeReadings(const QString &name, const QByteArray &text) const;
@@ -83,10 +86,26 @@ void tst_DisplayProgram::help()
 {
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.status, 0);
-    for (const char *option :
-         {"--readings", "--p1", "--mqtt", "--mapping", "--mqtt-credentials", "--mqtt-ca",
-          "--print-mapping", "--import", "--export", "--export-months", "--contract", "--prices",
-          "--data", "--no-history", "--speed", "--screenshots", "--page", "--help", "--version"}) {
+    for (const char *option : {"--readings",
+                               "--p1",
+                               "--mqtt",
+                               "--mapping",
+                               "--mqtt-credentials",
+                               "--mqtt-ca",
+                               "--print-mapping",
+                               "--import",
+                               "--export",
+                               "--export-months",
+                               "--contract",
+                               "--prices",
+                               "--data",
+                               "--no-history",
+                               "--speed",
+                               "--screenshots",
+                               "--size",
+                               "--page",
+                               "--help",
+                               "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
     }
     QVERIFY(!result.output.contains(QStringLiteral("--help-all")));
@@ -271,9 +290,9 @@ void tst_DisplayProgram::unknownTimeZoneIsNamed()
                                dir.filePath(QStringLiteral("mars"))});
     before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
     QCOMPARE(result.status, 0);
-    QVERIFY2(result.errors.contains(
-                 QStringLiteral("dit systeem kent de tijdzone Mars/Olympus niet")),
-             qPrintable(result.errors));
+    QVERIFY2(
+        result.errors.contains(QStringLiteral("dit systeem kent de tijdzone Mars/Olympus niet")),
+        qPrintable(result.errors));
 }
 
 void tst_DisplayProgram::liveHouseShowsEverything()
@@ -467,6 +486,43 @@ void tst_DisplayProgram::brokenKeyboardIsToldAtTheStart()
     QCOMPARE(process.exitCode(), 1);
     const QString errors = QString::fromUtf8(process.readAllStandardError());
     QVERIFY2(errors.contains(QStringLiteral("keyboard_nl.xml:3: ")), qPrintable(errors));
+}
+
+void tst_DisplayProgram::screenshotsOfASize()
+{
+    const QString readings = writeReadings(QStringLiteral("sized.csv"), twoDays());
+    const QDir pictures(dir.filePath(QStringLiteral("sized")));
+    // What the panel tells of its density changes nothing.
+    const Result result =
+        run({QStringLiteral("--readings"), readings, QStringLiteral("--size"),
+             QStringLiteral("1024x600"), QStringLiteral("--screenshots"), pictures.path()},
+            {QStringLiteral("QT_FONT_DPI=144")});
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    const QStringList names = pictures.entryList({QStringLiteral("*.png")});
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names) {
+        QCOMPARE(QImage(pictures.filePath(name)).size(), QSize(1024, 600));
+    }
+}
+
+void tst_DisplayProgram::badSize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::newRow("too small") << "320x240";
+    QTest::newRow("words") << "large";
+    QTest::newRow("empty") << "";
+}
+
+void tst_DisplayProgram::badSize()
+{
+    QFETCH(QString, size);
+    const Result result = run({QStringLiteral("--size"), size});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(
+                 QStringLiteral("--size wants WIDTHxHEIGHT, at least 640x480 or 480x800, not '%1'")
+                     .arg(size)),
+             qPrintable(result.errors));
 }
 
 QTEST_GUILESS_MAIN(tst_DisplayProgram)
