@@ -12,6 +12,7 @@
 #include "keyboardfiles.h"
 #include "language.h"
 #include "metersource.h"
+#include "missingfonts.h"
 #include "monthstransfer.h"
 #include "mqttmeter.h"
 #include "options.h"
@@ -231,6 +232,9 @@ int show(const Options &options, EnergySource *source, const QSize &pageSize)
             display.addMessage(problem);
         }
     };
+    for (const QString &line : missingFonts()) {
+        display.addMessage(line);
+    }
     // Whoever ended the display last may have left it dark.
     light(false);
     QObject::connect(&display, &DisplayWindow::standbyChanged, &display, light);
@@ -283,6 +287,9 @@ int main(int argc, char *argv[])
     Language::speakDutch();
     setLook();
 
+    for (const QString &line : missingFonts()) {
+        printError(QStringLiteral("zemkit-display: %1").arg(line));
+    }
     const QStringList problems = KeyboardFiles::problemsIn(keyboardDirectory());
     if (!problems.isEmpty()) {
         printErrors(problems);

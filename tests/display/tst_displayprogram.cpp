@@ -51,6 +51,7 @@ private Q_SLOTS:
     void screenshotsOfASize();
     void badSize_data();
     void badSize();
+    void missingFontsAreNamed();
 
 private:
     QString writeReadings(const QString &name, const QByteArray &text) const;
@@ -523,6 +524,22 @@ void tst_DisplayProgram::badSize()
                  QStringLiteral("--size wants WIDTHxHEIGHT, at least 640x480 or 480x800, not '%1'")
                      .arg(size)),
              qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::missingFontsAreNamed()
+{
+    QFile fonts(dir.filePath(QStringLiteral("fonts.conf")));
+    QVERIFY(fonts.open(QIODevice::WriteOnly));
+    fonts.write("<fontconfig><dir>/nowhere</dir><cachedir>"
+                + dir.filePath(QStringLiteral("cache")).toUtf8() + "</cachedir></fontconfig>");
+    fonts.close();
+    const QString readings = writeReadings(QStringLiteral("nothing.csv"), "time,gas_m3\n");
+    const Result bare = run({QStringLiteral("--readings"), readings},
+                            {QStringLiteral("FONTCONFIG_FILE=%1").arg(fonts.fileName())});
+    QVERIFY2(bare.errors.contains(QStringLiteral("(fonts-cabin)")), qPrintable(bare.errors));
+    QVERIFY2(bare.errors.contains(QStringLiteral("(fonts-quicksand)")), qPrintable(bare.errors));
+    const Result usual = run({QStringLiteral("--readings"), readings});
+    QVERIFY2(!usual.errors.contains(QStringLiteral("fonts-")), qPrintable(usual.errors));
 }
 
 QTEST_GUILESS_MAIN(tst_DisplayProgram)
