@@ -18,7 +18,7 @@ QuantityLook lookOf(Quantity quantity)
     case Quantity::GridExport:
         return {tr("teruglevering"), ZEMStyle::Green, ZEMEnergyIcon::Electricity};
     case Quantity::SolarProduction:
-        return {tr("opwekking"), ZEMStyle::Yellow, ZEMEnergyIcon::SolarProduction};
+        return {tr("opwekking"), ZEMStyle::Lime, ZEMEnergyIcon::SolarProduction};
     case Quantity::Gas:
         return {tr("gas"), ZEMStyle::Orange, ZEMEnergyIcon::Gas};
     case Quantity::Water:

@@ -7,6 +7,7 @@
 #include "nightstyler.h"
 
 #include "pagelook.h"
+#include "quantitylook.h"
 
 #include <QPalette>
 #include <QPen>
@@ -107,13 +108,13 @@ QColor NightStyler::colorOf(PowerKind kind)
     switch (kind) {
     case PowerKind::Consumption:
     case PowerKind::GridImport:
-        return color(ZEMStyle::Amber);
+        return color(lookOf(Readings::Quantity::GridImport).color);
     case PowerKind::Production:
-        return color(ZEMStyle::Lime); // the yellow of other charts is no other line than amber
+        return color(lookOf(Readings::Quantity::SolarProduction).color);
     case PowerKind::GridExport:
         break;
     }
-    return color(ZEMStyle::Green);
+    return color(lookOf(Readings::Quantity::GridExport).color);
 }
 
 QColor NightStyler::barColor()
