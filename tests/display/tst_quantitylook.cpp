@@ -24,6 +24,7 @@ class tst_QuantityLook : public QObject
 
 private Q_SLOTS:
     void coloursOfOneLegendAreToldApart();
+    void wholeBarIsNamedBeforeItsPart();
     void analysisHasTheColoursOfTheCharts_data();
     void analysisHasTheColoursOfTheCharts();
 };
@@ -44,6 +45,15 @@ static Household houseWithTwoTariffsAndPanels()
     return household;
 }
 
+static QStringList namesOf(const std::vector<EnergySeries> &allSeries)
+{
+    QStringList names;
+    for (const EnergySeries &series : allSeries) {
+        names << series.name;
+    }
+    return names;
+}
+
 void tst_QuantityLook::coloursOfOneLegendAreToldApart()
 {
     constexpr int leastDifference = 25; // degrees on the circle of hues
@@ -61,6 +71,16 @@ void tst_QuantityLook::coloursOfOneLegendAreToldApart()
                      qPrintable(all[i].name + QLatin1String(" and ") + all[j].name));
         }
     }
+}
+
+void tst_QuantityLook::wholeBarIsNamedBeforeItsPart()
+{
+    const Household household = houseWithTwoTariffsAndPanels();
+    const Energy electricity = energiesOf(household).front();
+    QCOMPARE(namesOf(electricity.consumption),
+             QStringList({QStringLiteral("Verbruik"), QStringLiteral("Laag tarief")}));
+    QCOMPARE(namesOf(electricity.yield),
+             QStringList({QStringLiteral("Opwekking"), QStringLiteral("Teruglevering")}));
 }
 
 void tst_QuantityLook::analysisHasTheColoursOfTheCharts_data()

@@ -35,8 +35,7 @@ void addImport(std::vector<EnergySeries> &series, const Household &household, bo
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
     const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
-    addSeries(series, twoTariffs ? tr("Normaal tarief") : tr("Verbruik"), household,
-              Quantity::GridImport);
+    addSeries(series, tr("Verbruik"), household, Quantity::GridImport);
     if (twoTariffs) {
         series.push_back({tr("Laag tarief"), ZEMStyle::SkyBlue, {&low->second}});
     }
