@@ -216,6 +216,7 @@ void DisplayWindow::makeMenu()
     menu = new ZEMMenuOverlay(this);
     menu->hide();
     fitDialog(menu, size());
+    makeSolid(menu);
     menu->setText1(tr("pagina's"));
     menu->setText4(tr("meldingen"));
     menu->showButton4(true);

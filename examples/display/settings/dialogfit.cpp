@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr QRgb panelColor = qRgb(14, 20, 26);
 constexpr int side = 6; // pixels at the left and right of what was narrowed
 constexpr int gap = 12; // pixels at most between columns
 constexpr int keyGap = 3; // pixels between keys
@@ -61,6 +62,15 @@ void narrowKeys(ZEMVirtualKeyboard *keyboard, int width)
 }
 
 } // namespace
+
+void makeSolid(QWidget *dialog)
+{
+    for (ZEMPageBackground *panel : dialog->findChildren<ZEMPageBackground *>()) {
+        if (panel->getBackground().isNull()) {
+            panel->setBackgroundColor(panelColor);
+        }
+    }
+}
 
 void fitDialog(QWidget *dialog, const QSize &size)
 {

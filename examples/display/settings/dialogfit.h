@@ -14,4 +14,7 @@ class QWidget;
  */
 void fitDialog(QWidget *dialog, const QSize &size);
 
+/** Lets nothing of the page shine through the panels of @p dialog. */
+void makeSolid(QWidget *dialog);
+
 #endif

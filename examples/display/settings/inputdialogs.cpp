@@ -152,6 +152,7 @@ void InputDialogs::read(const QString &title, const QString &text)
     dialog.setTextFontSize(textSize);
     dialog.setText(text);
     fitDialog(&dialog, window->size());
+    makeSolid(&dialog);
     dialog.raise();
     covers.append(&dialog);
     dialog.exec();
@@ -163,6 +164,7 @@ void InputDialogs::inform(const QString &text)
     dialog.clearText();
     dialog.setTextLine1(text);
     fitDialog(&dialog, window->size());
+    makeSolid(&dialog);
     dialog.raise();
     covers.append(&dialog);
     dialog.info();
@@ -175,6 +177,7 @@ bool InputDialogs::confirm(const QString &question, const QString &explanation)
     dialog.setTextLine1(question);
     dialog.setTextLine2(explanation);
     fitDialog(&dialog, window->size());
+    makeSolid(&dialog);
     dialog.raise();
     covers.append(&dialog);
     return dialog.exec();
@@ -234,6 +237,7 @@ void InputDialogs::cover(QWidget *dialog)
     covers.removeAll(nullptr);
     covers.append(dialog);
     fitDialog(dialog, window->size());
+    makeSolid(dialog);
     dialog->show();
     dialog->raise();
 }
