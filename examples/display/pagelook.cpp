@@ -59,16 +59,16 @@ ZEMButton *makeTextButton(const QString &text)
 
 ZEMButton *makeSquareButton()
 {
-    const QString pictures = QStringLiteral(":/zem/graphics/main/buttons/btn_square_small%1.png");
     auto *button = new ZEMButton;
-    button->setBackground(QPixmap(pictures.arg(QString())));
-    button->setBackgroundDisabled(QPixmap(pictures.arg(QStringLiteral("_disabled"))));
+    button->setBackground(
+        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_square_small.png")));
     return button;
 }
 
 ZEMButton *makeIconButton(const QString &icon)
 {
     ZEMButton *button = makeSquareButton();
+    button->setHideWhenDisabled(true);
     button->setIcon(QIcon(QStringLiteral(":/tango/graphics/tango/actions/%1-icon.png").arg(icon)));
     return button;
 }

@@ -37,7 +37,7 @@ ZEMTextLabel *makeLabel(const QString &text, int pointSize);
 ZEMButton *makeTextButton(const QString &text);
 /** A square button of 75 by 75 pixels. */
 ZEMButton *makeSquareButton();
-/** One with the icon of that name, as "go-up". */
+/** One with the icon of that name, as "go-up"; seen while it is enabled. */
 ZEMButton *makeIconButton(const QString &icon);
 
 /** A field to touch, which shows what was entered, 233 by 50 pixels. */

@@ -13,6 +13,7 @@
 #include <QStringListModel>
 #include <QStyledItemDelegate>
 #include <QValidator>
+#include <ZEMButton>
 #include <ZEMDialogPopup>
 #include <ZEMDialogShowText>
 #include <ZEMKeyboardInputHandler>
@@ -48,6 +49,14 @@ void styleList(QWidget *page)
     auto *list = page->findChild<QListView *>();
     list->setFont(PageLook::textFont(textSize));
     PageLook::makeTransparent(list);
+}
+
+/** A button that does nothing now is not shown: disabled ones look like the others. */
+void hideIdleButtons(QWidget *dialog)
+{
+    for (ZEMButton *button : dialog->findChildren<ZEMButton *>()) {
+        button->setHideWhenDisabled(true);
+    }
 }
 
 } // namespace
@@ -112,6 +121,7 @@ void InputDialogs::choose(const QString &title, QAbstractItemModel *choices, int
     styleList(page);
     page->setItemDelegate(new HighItems(page));
     page->findChild<QListView *>()->setMinimumWidth(listWidth);
+    hideIdleButtons(page);
     page->setHeader(title);
     page->setModel(choices);
     page->setNrPageItems(itemsOfList);
@@ -149,6 +159,7 @@ void InputDialogs::read(const QString &title, const QString &text)
 {
     ZEMDialogShowText dialog(window);
     dialog.setTitle(title);
+    hideIdleButtons(&dialog);
     dialog.setTextFontSize(textSize);
     dialog.setText(text);
     fitDialog(&dialog, window->size());
@@ -161,6 +172,7 @@ void InputDialogs::read(const QString &title, const QString &text)
 void InputDialogs::inform(const QString &text)
 {
     ZEMDialogPopup dialog(window);
+    hideIdleButtons(&dialog);
     dialog.clearText();
     dialog.setTextLine1(text);
     fitDialog(&dialog, window->size());
