@@ -3,12 +3,17 @@
 
 #include "playedsource.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextLayout>
 #include <ZEMDialogPopup>
 #include <ZEMDialogShowText>
 #include <ZEMLineEditButton>
@@ -33,6 +38,7 @@ private Q_SLOTS:
     void standbyIsChosen();
     void nightIsChosenInTwoSteps();
     void longTextIsRead();
+    void longTextShowsWholeLines();
     void allIsForgottenAfterAQuestion_data();
     void allIsForgottenAfterAQuestion();
     void dialogsCoverTheDisplay_data();
@@ -226,6 +232,47 @@ void tst_SettingsPage::longTextIsRead()
     QVERIFY(isRead);
     QVERIFY(isLong);
     QVERIFY(!display->overlay<ZEMDialogShowText>());
+}
+
+/** Lines of @p text that its view shows a part of. */
+static int cutLines(const QTextEdit *text)
+{
+    constexpr double rounding = 1.0; // pixels
+    const double top = text->verticalScrollBar()->value();
+    const double bottom = top + text->viewport()->height();
+    int cut = 0;
+    for (QTextBlock block = text->document()->begin(); block.isValid(); block = block.next()) {
+        const QPointF place =
+            text->document()->documentLayout()->blockBoundingRect(block).topLeft();
+        for (int i = 0; i < block.layout()->lineCount(); ++i) {
+            const QRectF line = block.layout()->lineAt(i).rect().translated(place);
+            const auto isCutAt = [&](double edge) {
+                return line.top() + rounding < edge && edge < line.bottom() - rounding;
+            };
+            cut += isCutAt(top) || isCutAt(bottom) ? 1 : 0;
+        }
+    }
+    return cut;
+}
+
+void tst_SettingsPage::longTextShowsWholeLines()
+{
+    QList<int> cut;
+    display->whenOpen<ZEMDialogShowText>([&](ZEMDialogShowText *dialog) {
+        const auto *text = dialog->findChild<QTextEdit *>();
+        auto *down = dialog->findChild<ZEMButton *>(QStringLiteral("btnPgDown"));
+        cut << cutLines(text);
+        while (down->isEnabled()) {
+            PlayedDisplay::tap(down);
+            cut << cutLines(text);
+        }
+        tapButton(dialog, "btnAccepted");
+    });
+    PlayedDisplay::tap(field("privacy"));
+    QVERIFY(cut.size() > 1);
+    for (const int count : std::as_const(cut)) {
+        QCOMPARE(count, 0);
+    }
 }
 
 void tst_SettingsPage::allIsForgottenAfterAQuestion_data()

@@ -9,9 +9,15 @@
 #include "pagelook.h"
 
 #include <KeyboardFactoryDefault>
+#include <QFontMetrics>
+#include <QLayout>
 #include <QListView>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
+#include <QTextBlockFormat>
+#include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QValidator>
 #include <ZEMButton>
 #include <ZEMDialogPopup>
@@ -49,6 +55,22 @@ void styleList(QWidget *page)
     auto *list = page->findChild<QListView *>();
     list->setFont(PageLook::textFont(textSize));
     PageLook::makeTransparent(list);
+}
+
+/** Lets @p text show whole lines only, on each of its pages. */
+void showWholeLines(QTextEdit *text)
+{
+    const int line = QFontMetrics(text->font()).lineSpacing();
+    text->document()->setDocumentMargin(0.0);
+    QTextBlockFormat format;
+    format.setLineHeight(line, QTextBlockFormat::FixedHeight);
+    format.setTopMargin(0.0);
+    format.setBottomMargin(line);
+    QTextCursor all(text->document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(format);
+    const int rest = (text->height() - 2 * text->frameWidth()) % line;
+    text->setFixedHeight(text->height() - rest);
 }
 
 /** A button that does nothing now is not shown: disabled ones look like the others. */
@@ -164,6 +186,11 @@ void InputDialogs::read(const QString &title, const QString &text)
     dialog.setText(text);
     fitDialog(&dialog, window->size());
     makeSolid(&dialog);
+    dialog.ensurePolished();
+    auto *browser = dialog.findChild<QTextBrowser *>();
+    dialog.layout()->activate();
+    browser->parentWidget()->layout()->activate();
+    showWholeLines(browser);
     dialog.raise();
     covers.append(&dialog);
     dialog.exec();
