@@ -11,6 +11,8 @@ namespace DeviceIcons {
 
 namespace {
 
+constexpr double scale = 32.0 / LineIcon::size;
+
 /** A fan in a box. */
 QPainterPath heatPump()
 {
@@ -84,26 +86,31 @@ QPainterPath sun()
     return path;
 }
 
+QPixmap drawn(const QPainterPath &path)
+{
+    return LineIcon::draw(path, scale);
+}
+
 } // namespace
 
 QPixmap picture(Device device)
 {
     switch (device) {
     case Device::HeatPump:
-        return LineIcon::draw(heatPump());
+        return drawn(heatPump());
     case Device::Car:
-        return LineIcon::draw(car());
+        return drawn(car());
     case Device::Kitchen:
-        return LineIcon::draw(kitchen());
+        return drawn(kitchen());
     case Device::Rest:
         break;
     }
-    return LineIcon::draw(rest());
+    return drawn(rest());
 }
 
 QPixmap solar()
 {
-    return LineIcon::draw(sun());
+    return drawn(sun());
 }
 
 } // namespace DeviceIcons

@@ -12,6 +12,7 @@
 #include <ZEMButton>
 #include <ZEMCurrentStatusDetails>
 #include <ZEMCurrentStatusDetailsItem>
+#include <ZEMTextLabel>
 #include <cmath>
 
 namespace {
@@ -20,6 +21,7 @@ constexpr int wideWidth = 560; // pixels
 constexpr int tallWidth = 448;
 constexpr int wideSpacing = 12; // pixels between devices
 constexpr int tallSpacing = 2;
+constexpr int hintGap = 18; // pixels
 constexpr int iconSpacing = 3; // pixels between a device and its power
 
 } // namespace
@@ -27,7 +29,14 @@ constexpr int iconSpacing = 3; // pixels between a device and its power
 DevicesPage::DevicesPage(const EnergySource &source, QWidget *parent)
     : DisplayPage(tr("Apparaten"), source, parent), details(new ZEMCurrentStatusDetails)
 {
-    content()->addWidget(details, 1, Qt::AlignCenter);
+    hint = PageLook::makeLabel(tr("Geen meter telt losse apparaten."), 14);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setWordWrap(true);
+    content()->addStretch(1);
+    content()->addWidget(details, 0, Qt::AlignCenter);
+    content()->addSpacing(hintGap);
+    content()->addWidget(hint);
+    content()->addStretch(1);
     connect(&source, &EnergySource::powerChanged, this, &DevicesPage::showPower);
     connect(&source, &EnergySource::meteringChanged, this, &DevicesPage::showPower);
 }
@@ -90,6 +99,7 @@ void DevicesPage::showPower()
         itemOf(device)->setValue(device.watts);
     }
     showProduction(report.production);
+    hint->setVisible(items.isEmpty());
 }
 
 void DevicesPage::showProduction(const std::optional<double> &watts)

@@ -12,6 +12,7 @@
 
 class ZEMCurrentStatusDetails;
 class ZEMCurrentStatusDetailsItem;
+class ZEMTextLabel;
 
 /** The page of devices: what each of them takes now, what the panels give, and what is left. */
 class DevicesPage : public DisplayPage
@@ -30,6 +31,7 @@ private:
     void showPower();
     void showProduction(const std::optional<double> &watts);
 
+    ZEMTextLabel *hint = nullptr;
     ZEMCurrentStatusDetails *details = nullptr;
     QMap<Device, ZEMCurrentStatusDetailsItem *> items;
     ZEMCurrentStatusDetailsItem *solar = nullptr;
