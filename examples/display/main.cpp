@@ -29,10 +29,8 @@
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QScreen>
-#include <QStyleFactory>
 #include <QTextStream>
 #include <QTimer>
-#include <ZEMStyle>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -90,8 +88,7 @@ QSize screenOf(const Options &options, int argc, char *argv[])
 
 void setLook()
 {
-    QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
-    ZEMStyle::setApplicationFonts();
+    PageLook::setApplicationLook();
     // The chart page of the library traces every press.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
 }

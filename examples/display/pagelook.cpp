@@ -4,10 +4,12 @@
 #include "pagelook.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QFontMetrics>
 #include <QIcon>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QStyleFactory>
 #include <ZEMButton>
 #include <ZEMLineEditButton>
 #include <ZEMStyle>
@@ -15,6 +17,16 @@
 #include <ZEMUtils>
 
 namespace PageLook {
+
+void setApplicationLook()
+{
+    QApplication::setStyle(new ZEMStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
+    ZEMStyle::setApplicationFonts();
+    // White on what Fusion selects is hard to read.
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Highlight, ZEMStyle(nullptr).color(ZEMStyle::SlateBlue));
+    QApplication::setPalette(palette);
+}
 
 QPixmap background()
 {

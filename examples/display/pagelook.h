@@ -22,6 +22,9 @@ namespace PageLook {
 /** Of a page when it is new. */
 constexpr QSize pageSize(640, 480);
 
+/** Gives the application the style, fonts and colours of the display. */
+void setApplicationLook();
+
 /** The dark ground of a page, which is stretched to its size. */
 QPixmap background();
 

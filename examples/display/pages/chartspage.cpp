@@ -6,13 +6,18 @@
 #include "daterange.h"
 #include "displaysettings.h"
 #include "energysource.h"
+#include "pagelook.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <ZEMButton>
 #include <ZEMHistogram>
 #include <algorithm>
 
 namespace {
+
+constexpr int headlineSize = 11; // points
+constexpr QSize periodButton(54, 40); // pixels; the picture is too low for a finger
 
 bool sameMeters(const std::vector<EnergySeries> &left, const std::vector<EnergySeries> &right)
 {
@@ -96,6 +101,13 @@ void ChartsPage::makeCharts()
     charts = new ZEMHistogramWidget;
     content()->addWidget(charts);
     ChartsPage::arrange(pageShape);
+    // Two amounts of a year want as much room as there is.
+    charts->findChild<QLabel *>(QStringLiteral("lblTitle"))
+        ->setFont(PageLook::textFont(headlineSize));
+    for (const Period period : allPeriods) {
+        charts->findChild<ZEMButton *>(QLatin1String(infoOf(period).button))
+            ->setFixedSize(periodButton);
+    }
     ZEM::ZEMTabs tabs;
     for (const Energy &energy : energies) {
         for (const Period period : allPeriods) {

@@ -29,8 +29,18 @@ constexpr int margin = 16; // pixels at both sides
 constexpr int tileSize = 54; // pixels, of the square tiles in the header
 constexpr int dotsGap = 2 * 12; // pixels between the title, the dots and what follows
 constexpr int leastTitle = 140; // pixels of a title beside the dots
+// Those of the library, but dark enough to be read on the light header.
+constexpr QRgb titleColor = qRgb(140, 0, 76);
+constexpr QRgb timeColor = qRgb(24, 62, 84);
 constexpr int secondsPerMinute = 60;
 constexpr int millisecondsPerSecond = 1000;
+
+void setTextColor(QLabel *label, const QColor &color)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
+}
 
 ZEMButton *makeTileButton(const QPixmap &icon, const char *name)
 {
@@ -69,6 +79,8 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
     header->setNrOfPages(0);
     header->setMinimumWidth(0);
     setTitle(title);
+    setTextColor(header->getTitleWidget(), titleColor);
+    setTextColor(header->getSubtitleWidget(), timeColor);
 
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);

@@ -18,6 +18,7 @@ namespace {
 
 constexpr int rowHeight = 32; // pixels
 constexpr int headingHeight = 48; // pixels, for two lines
+constexpr int headingShade = 140; // percent darker, for white texts
 constexpr int buttonGap = 12; // pixels
 constexpr int topMargin = 6; // pixels
 
@@ -97,7 +98,7 @@ void MonthsPage::makeTable()
     // The heading has the colours of a button.
     QPalette palette = view->palette();
     const ZEMStyle style(nullptr);
-    palette.setColor(QPalette::Button, style.color(ZEMStyle::SlateBlue));
+    palette.setColor(QPalette::Button, style.color(ZEMStyle::SlateBlue).darker(headingShade));
     view->horizontalHeader()->setPalette(palette);
 
     pages = new ZEMTableViewLogic(view);

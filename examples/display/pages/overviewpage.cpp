@@ -28,6 +28,7 @@ using Readings::Quantity;
 
 namespace {
 
+constexpr int valueSteps = 4; // of the week; the labels would touch with more
 constexpr double leastLimit = 0.1; // of the value axis, in the unit of the quantity
 
 /** The dates of the newest window of a chart. */
@@ -105,6 +106,7 @@ void OverviewPage::makeWeekButton()
     chart->setTouchable(false);
     week = makeSmallChart(chart, Period::Week);
     weekPlot = chart->thePlot();
+    weekPlot->setAxisMaxMajor(QwtPlot::yLeft, valueSteps);
 
     weekButton = new ZEMHistogramButton;
     weekButton->setHistogram(chart);

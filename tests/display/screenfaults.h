@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SCREENFAULTS_H
+#define SCREENFAULTS_H
+
+#include <QStringList>
+
+class QWidget;
+
+/** What is wrong with the widgets that are seen in @p window, each fault in one line. */
+namespace ScreenFaults {
+
+/** Widgets that stand out of their parents. */
+QStringList outside(const QWidget *window);
+/** Items of one layout that lie over each other. */
+QStringList overlaps(const QWidget *window);
+/** Texts without the room they need; of a scale those that touch as well. */
+QStringList cutTexts(const QWidget *window);
+/** What can be touched, but is smaller than 40 pixels in either direction. */
+QStringList smallTargets(const QWidget *window);
+/** Texts with a contrast below 4.5 to 1 to what is painted behind them. */
+QStringList faintTexts(QWidget *window);
+
+} // namespace ScreenFaults
+
+#endif

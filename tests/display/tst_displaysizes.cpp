@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The zemkit developers
+// SPDX-License-Identifier: MIT
+
+#include "displayscale.h"
+#include "pagelook.h"
+#include "playedsource.h"
+#include "screenfaults.h"
+#include "screenshots.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QTest>
+#include <cstdio>
+
+using Readings::Quantity;
+
+namespace {
+
+/** The screen to be filled, of the environment: "1024x600". */
+QSize screenSize()
+{
+    return DisplayScale::parseSize(qEnvironmentVariable("DISPLAY_SIZE", QStringLiteral("640x480")))
+        .value_or(QSize());
+}
+
+} // namespace
+
+/**
+ * Everything that the display shows, looked at on a screen of one size. There is a run for each
+ * size and for each density that a panel may tell of.
+ */
+class tst_DisplaySizes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void pictureFillsTheScreen();
+    void nothingStandsOut();
+    void nothingOverlaps();
+    void noTextIsCut();
+    void targetsAreLargeEnough();
+    void textsCanBeRead();
+
+private:
+    void look(const EnergySource &source, const QString &house);
+
+    QSize pictureSize;
+    QStringList outside;
+    QStringList overlaps;
+    QStringList cut;
+    QStringList small;
+    QStringList faint;
+};
+
+void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
+{
+    PlayedDisplay display(source);
+    display.settings.setHouseName(QStringLiteral("Landgoed Weltevreden aan de Nieuwe Gracht 12"));
+    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    QVERIFY(display.show());
+    display.window.addMessage(QStringLiteral("a message that is longer than a line of the list"));
+    visitScreens(&display.window, [&](const QString &name) {
+        pictureSize = display.window.grab().size();
+        const auto add = [&](QStringList *all, const QStringList &faults) {
+            for (const QString &fault : faults) {
+                *all << QStringLiteral("%1, %2: %3").arg(house, name, fault);
+            }
+        };
+        add(&outside, ScreenFaults::outside(&display.window));
+        add(&overlaps, ScreenFaults::overlaps(&display.window));
+        add(&cut, ScreenFaults::cutTexts(&display.window));
+        add(&small, ScreenFaults::smallTargets(&display.window));
+        // Of a period before, the bars alone are others.
+        if (name.endsWith(QStringLiteral("-before"))) {
+            return;
+        }
+        add(&faint, ScreenFaults::faintTexts(&display.window));
+    });
+}
+
+void tst_DisplaySizes::initTestCase()
+{
+    QVERIFY2(screenSize().isValid(), "DISPLAY_SIZE");
+    PlayedSource full;
+    for (const Quantity quantity :
+         {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction, Quantity::Gas,
+          Quantity::Heating, Quantity::Water}) {
+        full.count(quantity, 60, 1.25);
+    }
+    full.time = QDateTime(QDate(2016, 5, 5), QTime(20, 48), full.readings.timeZone);
+    full.report = PowerReport {-11800.0,
+                               12400.0,
+                               24200.0,
+                               {{Device::HeatPump, 11300.0, 12000.0},
+                                {Device::Car, 11800.0, 12000.0},
+                                {Device::Kitchen, 10800.0, 12000.0},
+                                {Device::Rest, 12400.0, 13000.0}}};
+    full.simulated = true;
+    look(full, QStringLiteral("full"));
+
+    PlayedSource empty;
+    look(empty, QStringLiteral("empty"));
+}
+
+static void expectNone(const QStringList &faults)
+{
+    for (const QString &fault : faults) {
+        std::puts(qPrintable(fault));
+    }
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_DisplaySizes::pictureFillsTheScreen()
+{
+    QCOMPARE(pictureSize, screenSize());
+}
+
+void tst_DisplaySizes::nothingStandsOut()
+{
+    expectNone(outside);
+}
+
+void tst_DisplaySizes::nothingOverlaps()
+{
+    expectNone(overlaps);
+}
+
+void tst_DisplaySizes::noTextIsCut()
+{
+    expectNone(cut);
+}
+
+void tst_DisplaySizes::targetsAreLargeEnough()
+{
+    expectNone(small);
+}
+
+void tst_DisplaySizes::textsCanBeRead()
+{
+    expectNone(faint);
+}
+
+int main(int argc, char *argv[])
+{
+    DisplayScale::prepare(screenSize());
+    const QApplication application(argc, argv);
+    PageLook::setApplicationLook();
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    tst_DisplaySizes test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_displaysizes.moc"
