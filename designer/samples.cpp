@@ -244,8 +244,9 @@ void weekChart(ZEMHistogram &chart)
 void monthChart(ZEMHistogram &chart)
 {
     using namespace SampleData;
+    constexpr qint64 daysBefore = qint64(weeksOfMonth - 1) * daysOfWeek;
     fill(chart, last(sums(consumptionByHour(), hoursOfDay * daysOfWeek), weeksOfMonth),
-         lastMonday().addDays((1 - weeksOfMonth) * daysOfWeek));
+         lastMonday().addDays(-daysBefore));
 }
 
 void miniDayChart(ZEMMiniDayHistogram &chart)
