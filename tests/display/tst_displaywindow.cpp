@@ -297,9 +297,11 @@ void tst_DisplayWindow::nothingHidesBehindAScrollBar()
         for (const QScrollBar *bar : display.window.currentWidget()->findChildren<QScrollBar *>()) {
             QVERIFY2(!bar->isVisible(), qPrintable(name));
         }
-        QVERIFY2(display.window.currentWidget()->minimumSizeHint().height() <= 480
-                     && display.window.currentWidget()->minimumSizeHint().width() <= 640,
-                 qPrintable(name));
+        const QSize least = display.window.currentWidget()->minimumSizeHint();
+        QVERIFY2(
+            least.width() <= 640 && least.height() <= 480,
+            qPrintable(
+                QStringLiteral("%1: %2 by %3").arg(name).arg(least.width()).arg(least.height())));
     }
 }
 

@@ -23,7 +23,7 @@ constexpr int legendHeight = 30;
 constexpr int legendGap = 4;
 
 /** The library gives a plot the height of its picture, of which a page has no two; in pixels. */
-constexpr int leastPlotHeight = 60;
+constexpr int leastPlotSide = 60;
 
 /** Room for the labels of a value axis, so that the canvases of two charts stand in one line. */
 constexpr double valueAxisExtent = 46.0;
@@ -100,7 +100,7 @@ protected:
         }
         ground = this->plot->canvasBackground().texture();
         this->plot->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        this->plot->setMinimumHeight(leastPlotHeight);
+        this->plot->setMinimumSize(leastPlotSide, leastPlotSide);
         this->plot->setMaximumHeight(QWIDGETSIZE_MAX);
         static_cast<QBoxLayout *>(this->layout())->setStretchFactor(this->plot, 1);
     }

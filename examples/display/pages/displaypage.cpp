@@ -77,7 +77,8 @@ DisplayPage::DisplayPage(const QString &title, const EnergySource &source, QWidg
     connect(messages, &ZEMNotificationButton::clicked, this, &DisplayPage::messagesClicked);
 
     header->setNrOfPages(0);
-    header->setMinimumWidth(0);
+    // Not 0: without a minimum the header would insist on the width that it would like.
+    header->setMinimumWidth(1);
     setTitle(title);
     setTextColor(header->getTitleWidget(), titleColor);
     setTextColor(header->getSubtitleWidget(), timeColor);
