@@ -12,8 +12,10 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPixmap>
+#include <QStackedWidget>
 #include <QTextEdit>
 #include <QWidget>
+#include <ZEMPageBackground>
 #include <algorithm>
 #include <cmath>
 #include <qwt_scale_draw.h>
@@ -272,6 +274,34 @@ QStringList smallTargets(const QWidget *window)
         if (isTarget && (size.width() < leastTarget || size.height() < leastTarget)) {
             faults << QStringLiteral("%1: %2").arg(nameOf(widget), sizeText(size));
         }
+    }
+    return faults;
+}
+
+QStringList seeThrough(QWidget *window)
+{
+    QStringList faults;
+    const QList<QWidget *> seen = seenIn(window);
+    if (seen.isEmpty() || qobject_cast<QStackedWidget *>(window)->currentWidget() == seen.first()) {
+        return faults;
+    }
+    // The overlay comes first, and something bright between it and the page.
+    QWidget patch(window);
+    patch.setAutoFillBackground(true);
+    patch.setPalette(QPalette(Qt::white));
+    patch.setGeometry(window->rect());
+    for (const QWidget *widget : seen.mid(1)) {
+        const auto *panel = qobject_cast<const ZEMPageBackground *>(widget);
+        if (!panel) {
+            continue;
+        }
+        const QImage before = pictureOf(window, panel);
+        patch.stackUnder(seen.first());
+        patch.show();
+        if (pictureOf(window, panel) != before) {
+            faults << nameOf(panel);
+        }
+        patch.hide();
     }
     return faults;
 }

@@ -19,6 +19,8 @@ QStringList overlaps(const QWidget *window);
 QStringList cutTexts(const QWidget *window);
 /** What can be touched, but is smaller than 40 pixels in either direction. */
 QStringList smallTargets(const QWidget *window);
+/** Panels over a page that let something of it through. */
+QStringList seeThrough(QWidget *window);
 /** Texts with a contrast below 4.5 to 1 to what is painted behind them. */
 QStringList faintTexts(QWidget *window);
 

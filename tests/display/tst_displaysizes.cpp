@@ -41,6 +41,7 @@ private Q_SLOTS:
     void noTextIsCut();
     void targetsAreLargeEnough();
     void textsCanBeRead();
+    void nothingShinesThrough();
 
 private:
     void look(const EnergySource &source, const QString &house);
@@ -51,6 +52,7 @@ private:
     QStringList cut;
     QStringList small;
     QStringList faint;
+    QStringList seeThrough;
 };
 
 void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
@@ -75,6 +77,7 @@ void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
         if (name.endsWith(QStringLiteral("-before"))) {
             return;
         }
+        add(&seeThrough, ScreenFaults::seeThrough(&display.window));
         add(&faint, ScreenFaults::faintTexts(&display.window));
     });
 }
@@ -139,6 +142,11 @@ void tst_DisplaySizes::targetsAreLargeEnough()
 void tst_DisplaySizes::textsCanBeRead()
 {
     expectNone(faint);
+}
+
+void tst_DisplaySizes::nothingShinesThrough()
+{
+    expectNone(seeThrough);
 }
 
 int main(int argc, char *argv[])

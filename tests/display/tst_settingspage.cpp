@@ -37,6 +37,7 @@ private Q_SLOTS:
     void keyboardFollowsTheLanguage();
     void standbyIsChosen();
     void nightIsChosenInTwoSteps();
+    void arrowsThatLeadNowhereAreNotShown();
     void longTextIsRead();
     void longTextShowsWholeLines();
     void allIsForgottenAfterAQuestion_data();
@@ -213,6 +214,21 @@ void tst_SettingsPage::nightIsChosenInTwoSteps()
     QVERIFY(open<ZEMListView>("night"));
     choose(0);
     QCOMPARE(field("night")->text(), QStringLiteral("nooit"));
+}
+
+void tst_SettingsPage::arrowsThatLeadNowhereAreNotShown()
+{
+    auto *list = open<ZEMListView>("contract");
+    QVERIFY(list);
+    auto *up = list->findChild<ZEMButton *>(QStringLiteral("btnUp"));
+    QVERIFY(!up->isEnabled());
+    const QRect place(up->mapTo(list, QPoint(0, 0)), up->size());
+    const QImage idle = list->grab(place).toImage();
+    QImage panel = idle;
+    panel.fill(idle.pixel(0, 0));
+    QCOMPARE(idle, panel);
+    up->setEnabled(true);
+    QVERIFY(list->grab(place).toImage() != panel);
 }
 
 void tst_SettingsPage::longTextIsRead()
