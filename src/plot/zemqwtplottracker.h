@@ -42,9 +42,9 @@ class ZEMPlot;
  * The tracker paints nothing itself, emits no moved(), and takes no keys. The canvas keeps mouse
  * tracking on.
  *
- * The two operations may delete the tracker, its plot and any curve, and the slots of
- * appended(QPointF) the tracker and its plot; those of the other signals, as always with Qwt, only
- * with deleteLater().
+ * The two operations may delete the tracker, its plot and any curve. The slots of appended(QPointF)
+ * may delete the tracker, but its plot only with deleteLater(): Qt goes on with a widget that the
+ * mouse has come onto. Those of the other signals, as always with Qwt, delete both only so.
  */
 class ZEM_EXPORT ZEMQwtPlotTracker : public QwtPlotPicker
 {
