@@ -74,7 +74,8 @@ private:
 
     void send(QEvent::Type type, Qt::MouseButton button)
     {
-        QMouseEvent event(type, position, position, button, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent event(type, position, position, position, button, Qt::LeftButton,
+                          Qt::NoModifier);
         QCoreApplication::sendEvent(canvas, &event);
     }
 

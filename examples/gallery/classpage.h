@@ -4,13 +4,14 @@
 #ifndef CLASSPAGE_H
 #define CLASSPAGE_H
 
+#include "propertyrow.h"
+
 #include <QTimer>
 #include <ZEMPageBackground>
 #include <memory>
 
 struct GalleryPage;
 class PropertyPanel;
-class PropertyRow;
 class Stage;
 class ZEMButton;
 

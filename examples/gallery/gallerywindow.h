@@ -4,6 +4,8 @@
 #ifndef GALLERYWINDOW_H
 #define GALLERYWINDOW_H
 
+#include "propertyrow.h"
+
 #include <KeyboardFactoryDefault>
 #include <QPointer>
 #include <QWidget>
@@ -11,7 +13,6 @@
 struct GalleryPage;
 class ClassPage;
 class IndexPage;
-class PropertyRow;
 class SourcePage;
 class ZEMButton;
 

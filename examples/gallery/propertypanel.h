@@ -4,10 +4,11 @@
 #ifndef PROPERTYPANEL_H
 #define PROPERTYPANEL_H
 
+#include "propertyrow.h"
+
 #include <QList>
 #include <QWidget>
 
-class PropertyRow;
 class Stage;
 class QStackedWidget;
 class QVBoxLayout;

@@ -81,7 +81,7 @@ private:
     {
         const QString trimmed = text.trimmed();
         const int start = text.indexOf(trimmed);
-        const int line = tokenLine + text.leftRef(start).count(QLatin1Char('\n'));
+        const int line = tokenLine + text.left(start).count(QLatin1Char('\n'));
         outline.findings.append({line, QStringLiteral("text is ignored: %1").arg(trimmed)});
     }
 
@@ -278,7 +278,7 @@ QVector<int> KeyboardOutline::pageOrder() const
 {
     QVector<int> order;
     for (int i = 0; i < pages.size(); ++i) {
-        order.insert(qMin(pages.at(i).id, order.size()), i);
+        order.insert(qMin(pages.at(i).id, int(order.size())), i);
     }
     return order;
 }

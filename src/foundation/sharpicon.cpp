@@ -5,9 +5,11 @@
 
 #include "sharppicture_p.h"
 
+#include <QByteArray>
 #include <QCache>
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QIODevice>
 #include <QIconEngine>
 #include <QPainter>
 #include <QRegularExpression>

@@ -117,8 +117,8 @@ void tst_Standby::touchPutsItOff()
     connect(&keeper, &StandbyKeeper::standbyWanted, this,
             [&] { isEarly = isEarly || sinceTouch.elapsed() < minute; });
     for (int i = 0; i < 20; ++i) {
-        QMouseEvent touch(QEvent::MouseMove, QPointF(), Qt::NoButton, Qt::LeftButton,
-                          Qt::NoModifier);
+        QMouseEvent touch(QEvent::MouseMove, QPointF(), QPointF(), QPointF(), Qt::NoButton,
+                          Qt::LeftButton, Qt::NoModifier);
         sinceTouch.restart();
         QCoreApplication::sendEvent(&touched, &touch);
         QTest::qWait(minute / 10);

@@ -9,6 +9,7 @@
 #include <QString>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_engine.h>
+#include <qwt_text.h>
 
 /** What the clock of a house shows in the minutes of a day, which may have 23 or 25 hours. */
 class DayClock

@@ -17,6 +17,7 @@
 #include <ZEMSmartWeekHistogram>
 #include <algorithm>
 #include <cmath>
+#include <qwt_text.h>
 #include <utility>
 
 namespace {

@@ -3,10 +3,11 @@
 
 #include "levelcurve.h"
 
+#include "qwtcompat_p.h"
+
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <qwt_clipper.h>
 #include <qwt_painter.h>
 #include <qwt_scale_map.h>
 #include <qwt_series_data.h>
@@ -89,7 +90,7 @@ void LevelCurve::drawLines(QPainter *painter, const QwtScaleMap &xMap, const Qwt
     const double margin = std::max(1.0, painter->pen().widthF());
     QwtPainter::drawPolyline(
         painter,
-        QwtClipper::clipPolygonF(canvasRect.adjusted(-margin, -margin, margin, margin), polygon));
+        QwtCompat::clipped(canvasRect.adjusted(-margin, -margin, margin, margin), polygon));
     if (brush().style() != Qt::NoBrush) {
         fillCurve(painter, xMap, yMap, canvasRect, polygon);
     }

@@ -21,6 +21,7 @@
 #include <qwt_plot_textlabel.h>
 #include <qwt_scale_widget.h>
 #include <qwt_symbol.h>
+#include <qwt_text.h>
 #include <utility>
 
 namespace {

@@ -12,6 +12,7 @@
 #include <qwt_plot_curve.h>
 #include <qwt_plot_marker.h>
 #include <qwt_symbol.h>
+#include <qwt_text.h>
 
 void Pages::zemqwtplotcurvepointgetter(Stage &stage)
 {

@@ -12,6 +12,7 @@
 #include <ZEMSmartHistogram>
 #include <ZEMStyle>
 #include <qwt_plot.h>
+#include <qwt_text.h>
 
 namespace {
 
