@@ -5,10 +5,15 @@
 #define QWTCOMPAT_P_H
 
 #include <QPolygonF>
+#include <QRect>
 #include <QRectF>
 
-#include <qwt_abstract_scale_draw.h>
 #include <qwt_clipper.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
+
+#include <algorithm>
+#include <optional>
 
 /** Where the versions of Qwt from 6.1 on differ. */
 namespace QwtCompat {
@@ -21,9 +26,9 @@ inline double penWidth(const QwtAbstractScaleDraw &draw)
     return draw.penWidth();
 }
 
-inline void setPenWidth(QwtAbstractScaleDraw *draw, int width)
+inline void setPenWidth(QwtAbstractScaleDraw *draw, double width)
 {
-    draw->setPenWidth(width);
+    draw->setPenWidth(int(width));
 }
 
 /** Since 6.2 what is clipped is returned under another name, and this one changes its argument. */
@@ -32,9 +37,25 @@ inline QPolygonF clipped(const QRectF &clip, const QPolygonF &polygon)
     return QwtClipper::clipPolygonF(clip, polygon, false);
 }
 
-/** Pixels that a thin tick of a left scale begins to the right of its end: since 6.2 that end is
- * left out. */
-constexpr int leftTickShift = 0;
+/**
+ * The pixels of a tick that a pen of no width and with flat ends draws; nothing where that is left
+ * to Qwt. A flat end leaves out one end of a line; since 6.2 it is the far one of any tick, whose
+ * length is rounded by itself and has the width of the backbone added.
+ */
+inline std::optional<QRect> thinTick(const QwtScaleDraw &draw, double value, double length)
+{
+    const int position = qRound(draw.scaleMap().transform(value));
+    const QPoint end(qRound(draw.pos().x() - length), qRound(draw.pos().y() + length));
+    const int width = qRound(draw.pos().x()) - end.x();
+    const int height = end.y() - qRound(draw.pos().y());
+    if (draw.alignment() == QwtScaleDraw::LeftScale && width > 0) {
+        return QRect(end.x(), position, width, 1);
+    }
+    if (draw.alignment() == QwtScaleDraw::BottomScale && height > 0) {
+        return QRect(position, end.y() - height, 1, height);
+    }
+    return std::nullopt;
+}
 
 #else
 
@@ -43,7 +64,7 @@ inline double penWidth(const QwtAbstractScaleDraw &draw)
     return draw.penWidthF();
 }
 
-inline void setPenWidth(QwtAbstractScaleDraw *draw, int width)
+inline void setPenWidth(QwtAbstractScaleDraw *draw, double width)
 {
     draw->setPenWidthF(width);
 }
@@ -53,7 +74,20 @@ inline QPolygonF clipped(const QRectF &clip, const QPolygonF &polygon)
     return QwtClipper::clippedPolygonF(clip, polygon, false);
 }
 
-constexpr int leftTickShift = 1;
+inline std::optional<QRect> thinTick(const QwtScaleDraw &draw, double value, double length)
+{
+    const int backbone = draw.hasComponent(QwtAbstractScaleDraw::Backbone) ? 1 : 0;
+    const int pixels = std::max(qRound(length), 1) + backbone;
+    const int position = qRound(draw.scaleMap().transform(value));
+    switch (draw.alignment()) {
+    case QwtScaleDraw::LeftScale:
+        return QRect(qRound(draw.pos().x()) + 1 - pixels, position, pixels, 1);
+    case QwtScaleDraw::BottomScale:
+        return QRect(position, qRound(draw.pos().y()), 1, pixels);
+    default:
+        return std::nullopt;
+    }
+}
 
 #endif
 

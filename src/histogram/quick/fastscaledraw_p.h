@@ -16,13 +16,11 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPen>
-#include <QRect>
 #include <QRectF>
 #include <QScreen>
 
 #include <qwt_painter.h>
 #include <qwt_scale_draw.h>
-#include <qwt_scale_map.h>
 #include <qwt_text.h>
 
 #include <cmath>
@@ -74,25 +72,6 @@ inline bool roundsAlike(const QPainter *painter, const QPointF &corner)
     };
     const QTransform &transform = painter->deviceTransform();
     return isClear(corner.x(), transform.dx()) && isClear(corner.y(), transform.dy());
-}
-
-/** The pixels of a thin tick at @p value; nothing for what has to be drawn as a line. */
-inline std::optional<QRect> tickRect(const QwtScaleDraw &draw, double value, double length)
-{
-    // A line with flat ends leaves out one of its ends.
-    const int position = qRound(draw.scaleMap().transform(value));
-    switch (draw.alignment()) {
-    case QwtScaleDraw::LeftScale: {
-        const int from = qRound(draw.pos().x() - length);
-        return QRect(from + QwtCompat::leftTickShift, position, qRound(draw.pos().x()) - from, 1);
-    }
-    case QwtScaleDraw::BottomScale: {
-        const int from = qRound(draw.pos().y());
-        return QRect(position, from, 1, qRound(draw.pos().y() + length) - from);
-    }
-    default:
-        return std::nullopt;
-    }
 }
 
 } // namespace FastScale
@@ -174,7 +153,7 @@ protected:
         const bool isThin =
             QwtCompat::penWidth(*this) <= 0.0 && painter->pen().style() == Qt::SolidLine;
         if (QuickPaths::areOpen() && isThin && FastScale::keepsPixels(painter)) {
-            if (const auto rect = FastScale::tickRect(*this, value, length)) {
+            if (const auto rect = QwtCompat::thinTick(*this, value, length)) {
                 painter->fillRect(*rect, painter->pen().color());
                 return;
             }

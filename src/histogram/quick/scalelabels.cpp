@@ -331,9 +331,9 @@ std::optional<int> ScaleMeasure::minLength() const
     const int majorTicks = scale.ticks(QwtScaleDiv::MajorTick).count();
     const int otherTicks =
         scale.ticks(QwtScaleDiv::MinorTick).count() + scale.ticks(QwtScaleDiv::MediumTick).count();
-    const int widthOfTick = std::max(1, qCeil(QwtCompat::penWidth(draw))) + 1;
+    const double widthOfTick = std::max(1.0, QwtCompat::penWidth(draw)) + 1.0;
     const int forTicks = draw.hasComponent(QwtAbstractScaleDraw::Ticks)
-        ? (majorTicks + otherTicks) * widthOfTick
+        ? qCeil((majorTicks + otherTicks) * widthOfTick)
         : 0;
     return ends->start + ends->end + std::max(*distance * majorTicks, forTicks);
 }

@@ -2,13 +2,52 @@
 // SPDX-License-Identifier: MIT
 
 #include "fastscaledraw_p.h"
+#include "qwtcompat_p.h"
 
 #include <QImage>
+#include <QPalette>
 #include <QTest>
+#include <qwt_scale_div.h>
+#include <qwt_scale_draw.h>
 
 #include <cmath>
 
-/** Which labels the scales of the charts draw by themselves. */
+namespace {
+
+/** Ticks alone, filled or drawn by Qwt. */
+class Ticks : public QwtScaleDraw
+{
+public:
+    QImage picture(bool areFilled)
+    {
+        isQuick = areFilled;
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        draw(&painter, QPalette());
+        return image;
+    }
+
+protected:
+    void drawBackbone(QPainter * /*painter*/) const override { }
+
+    void drawTick(QPainter *painter, double value, double length) const override
+    {
+        const auto pixels = QwtCompat::thinTick(*this, value, length);
+        if (isQuick && pixels) {
+            painter->fillRect(*pixels, painter->pen().color());
+        } else {
+            QwtScaleDraw::drawTick(painter, value, length);
+        }
+    }
+
+private:
+    bool isQuick = false;
+};
+
+} // namespace
+
+/** What the scales of the charts draw by themselves. */
 class tst_FastScaleDraw : public QObject
 {
     Q_OBJECT
@@ -16,6 +55,8 @@ class tst_FastScaleDraw : public QObject
 private Q_SLOTS:
     void labelBesideTheMiddleOfPixelsIsLeftToQwt_data();
     void labelBesideTheMiddleOfPixelsIsLeftToQwt();
+    void thinTicksAreThoseOfQwt_data();
+    void thinTicksAreThoseOfQwt();
 };
 
 void tst_FastScaleDraw::labelBesideTheMiddleOfPixelsIsLeftToQwt_data()
@@ -44,6 +85,37 @@ void tst_FastScaleDraw::labelBesideTheMiddleOfPixelsIsLeftToQwt()
     painter.resetTransform();
     painter.translate(0.0, shift);
     QCOMPARE(FastScale::roundsAlike(&painter, QPointF(0.0, position)), isQuick);
+}
+
+void tst_FastScaleDraw::thinTicksAreThoseOfQwt_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<bool>("hasBackbone");
+    for (const bool hasBackbone : {false, true}) {
+        const char *name = hasBackbone ? "with a backbone" : "without a backbone";
+        QTest::addRow("left, %s", name) << int(QwtScaleDraw::LeftScale) << hasBackbone;
+        QTest::addRow("bottom, %s", name) << int(QwtScaleDraw::BottomScale) << hasBackbone;
+    }
+}
+
+void tst_FastScaleDraw::thinTicksAreThoseOfQwt()
+{
+    QFETCH(int, alignment);
+    QFETCH(bool, hasBackbone);
+    Ticks scale;
+    scale.setAlignment(QwtScaleDraw::Alignment(alignment));
+    scale.enableComponent(QwtAbstractScaleDraw::Labels, false);
+    scale.enableComponent(QwtAbstractScaleDraw::Backbone, hasBackbone);
+    scale.setScaleDiv(QwtScaleDiv(0.0, 10.0, {1.0}, {2.0, 3.1, 4.3}, {5.0, 9.9}));
+    scale.setLength(40.0);
+    for (const double length : {0.3, 0.5, 1.0, 4.5, 5.0, 11.7}) {
+        scale.setTickLength(QwtScaleDiv::MajorTick, length);
+        for (const double place : {30.0, 30.3, 30.5, 30.8}) {
+            scale.move(place, place);
+            QVERIFY2(scale.picture(true) == scale.picture(false),
+                     qPrintable(QStringLiteral("%1 pixels at %2").arg(length).arg(place)));
+        }
+    }
 }
 
 QTEST_MAIN(tst_FastScaleDraw)

@@ -195,7 +195,7 @@ void tst_QuickPaths::newChartMeasuresNoLabel()
         setOpen(open);
         measured = 0;
         const std::unique_ptr<ZEMHistogram> chart(kinds()[std::size_t(kind)].second.make());
-        QCOMPARE(measured > 0, !open);
+        QCOMPARE(measured > 0, !QuickPaths::areOpen());
     }
 }
 
@@ -494,9 +494,10 @@ void tst_QuickPaths::changeShowsAtOnce_data()
         << Change([](Stage &stage) { stage.ground.setLayoutDirection(Qt::RightToLeft); });
     QTest::newRow("labels from right to left") << Change([scale](Stage &stage) {
         QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
-        stage.drag(7);
+        // As a replot of the chart does, before labels of another width lay the plot out.
         QwtScaleDraw *draw = scale(stage, QwtPlot::yLeft)->scaleDraw();
         draw->setScaleDiv(draw->scaleDiv());
+        stage.drag(7);
     });
     QTest::newRow("decimals and value limits, to and fro") << Change([](Stage &stage) {
         stage.chart->setScaleDigits(QwtPlot::yLeft, 5);

@@ -77,7 +77,7 @@ void set(QwtScaleDraw *draw, Random &random)
     draw->setAlignment(QwtScaleDraw::Alignment(upTo(3, random)));
     draw->setLabelAlignment(alignments[upTo(4, random)]);
     draw->setSpacing(upTo(20, random));
-    QwtCompat::setPenWidth(draw, upTo(3, random));
+    QwtCompat::setPenWidth(draw, upTo(6, random) / 2.0);
     draw->setMinimumExtent(upTo(3, random) == 0 ? upTo(80, random) : 0);
     for (int type = 0; type < QwtScaleDiv::NTickTypes; ++type) {
         draw->setTickLength(QwtScaleDiv::TickType(type), upTo(80, random) / 2.0);
