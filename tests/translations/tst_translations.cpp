@@ -45,6 +45,25 @@ private:
     std::unique_ptr<QTranslator> translator;
 };
 
+static int widthOf(const QWidget *widget, const QString &text)
+{
+    return QFontMetrics(widget->font()).horizontalAdvance(text);
+}
+
+/** Whether a text has room on its widget, if that is seen. */
+static bool fits(const QWidget *widget, const QString &text, int room)
+{
+    return !widget->isVisible() || widthOf(widget, text) <= room;
+}
+
+static QString inWords(const QWidget *widget, const QString &text, int room)
+{
+    return QStringLiteral("%1 of %2: \"%3\" needs %4 of %5")
+        .arg(widget->objectName(), widget->window()->objectName(), text)
+        .arg(widthOf(widget, text))
+        .arg(room);
+}
+
 void tst_Translations::addLanguages()
 {
     QTest::addColumn<QString>("locale");
@@ -124,21 +143,13 @@ void tst_Translations::textsFitTheirWidgets()
         widget->show();
         QCoreApplication::processEvents();
         for (const QLabel *label : widget->findChildren<QLabel *>()) {
-            const int needed = QFontMetrics(label->font()).horizontalAdvance(label->text());
-            QVERIFY2(!label->isVisible() || label->wordWrap()
-                         || needed <= label->contentsRect().width(),
-                     qPrintable(QStringLiteral("%1 of %2: \"%3\" needs %4 of %5")
-                                    .arg(label->objectName(), widget->objectName(), label->text())
-                                    .arg(needed)
-                                    .arg(label->contentsRect().width())));
+            const int room = label->contentsRect().width();
+            QVERIFY2(label->wordWrap() || fits(label, label->text(), room),
+                     qPrintable(inWords(label, label->text(), room)));
         }
         for (const auto *button : widget->findChildren<QAbstractButton *>()) {
-            const int needed = QFontMetrics(button->font()).horizontalAdvance(button->text());
-            QVERIFY2(!button->isVisible() || needed <= button->width(),
-                     qPrintable(QStringLiteral("%1 of %2: \"%3\" needs %4 of %5")
-                                    .arg(button->objectName(), widget->objectName(), button->text())
-                                    .arg(needed)
-                                    .arg(button->width())));
+            QVERIFY2(fits(button, button->text(), button->width()),
+                     qPrintable(inWords(button, button->text(), button->width())));
         }
     }
 }
