@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "contract.h"
+#include "dutchmonths.h"
 #include "household.h"
 #include "monthstable.h"
 
@@ -69,11 +70,11 @@ void tst_MonthsTable::newestMonthComesFirst()
     const auto text = [&](int row, int column) {
         return table.index(row, column).data().toString();
     };
-    QCOMPARE(text(0, 0), QStringLiteral("feb. 2024"));
+    QCOMPARE(text(0, 0), withMonthsOfQt(QStringLiteral("feb. 2024")));
     QCOMPARE(text(0, 1), QStringLiteral("100,0")); // so far
-    QCOMPARE(text(1, 0), QStringLiteral("jan. 2024"));
+    QCOMPARE(text(1, 0), withMonthsOfQt(QStringLiteral("jan. 2024")));
     QCOMPARE(text(1, 1), QStringLiteral("310,0"));
-    QCOMPARE(text(2, 0), QStringLiteral("dec. 2023"));
+    QCOMPARE(text(2, 0), withMonthsOfQt(QStringLiteral("dec. 2023")));
     QCOMPARE(text(2, 1), QStringLiteral("310,0"));
 }
 
@@ -161,7 +162,7 @@ void tst_MonthsTable::costsHaveColumnsOfTheirOwn()
                            QStringLiteral("totaal\n€")}));
     // That the gas costs something and the rest of the export brings something in, leaves no total.
     QCOMPARE(texts,
-             (QStringList {QStringLiteral("jan. 2024"), QStringLiteral("93,00"),
+             (QStringList {withMonthsOfQt(QStringLiteral("jan. 2024")), QStringLiteral("93,00"),
                            QStringLiteral("≤ -2,70"), QStringLiteral("–"), QStringLiteral("–")}));
     table.show(household);
     QCOMPARE(table.columnCount(), 4);
