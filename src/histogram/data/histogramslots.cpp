@@ -21,16 +21,12 @@ unsigned int endOfRun(unsigned int start, unsigned int count, const double *valu
 
 void HistogramSlots::resize(int count)
 {
-    const int before = samples.size();
-    const int bar = before > 0 ? nearestBar.last() : -1;
+    lastBar = count > 0 && lastBar >= 0 ? barAtOrBefore(count - 1) : -1;
     // A vector that grows by itself takes up to twice the room.
     samples.reserve(count);
     samples.resize(count);
     nearestBar.reserve(count);
     nearestBar.resize(count);
-    for (int k = before; k < count; ++k) {
-        nearestBar[k] = bar;
-    }
 }
 
 void HistogramSlots::writeBars(double x, unsigned int index, unsigned int count,
@@ -91,16 +87,24 @@ void HistogramSlots::updateNearestBars(unsigned int index, unsigned int count)
 {
     const int first = bounded(index, 0);
     const int end = bounded(index, count);
-    int bar = first > 0 ? nearestBar.at(first - 1) : -1;
+    int bar = first > 0 ? barAtOrBefore(first - 1) : -1;
     for (int k = first; k < end; ++k) {
         if (samples.at(k).interval.isValid()) {
             bar = k;
         }
         nearestBar[k] = bar;
     }
+    if (end > lastBar) {
+        // What lies between the last bar and a later one was not kept.
+        for (int k = lastBar + 1; bar >= first && k < first; ++k) {
+            nearestBar[k] = lastBar;
+        }
+        lastBar = bar;
+        return;
+    }
     // Up to the next bar the slots behind all name the same one, so the first that already names
     // the right one ends the work, as does that bar itself.
-    for (int k = end; k < samples.size() && nearestBar.at(k) != k && nearestBar.at(k) != bar; ++k) {
+    for (int k = end; nearestBar.at(k) != k && nearestBar.at(k) != bar; ++k) {
         nearestBar[k] = bar;
     }
 }

@@ -37,7 +37,7 @@ public:
     /** @p index must lie within the array. */
     const QwtIntervalSample &at(int index) const { return samples.at(index); }
     /** The nearest slot with a valid interval at or before @p index; -1 when there is none. */
-    int barAtOrBefore(int index) const { return nearestBar.at(index); }
+    int barAtOrBefore(int index) const { return index < lastBar ? nearestBar.at(index) : lastBar; }
 
     /** Keeps what is there; new slots are empty. */
     void resize(int count);
@@ -59,7 +59,10 @@ private:
     void updateNearestBars(unsigned int index, unsigned int count);
 
     QVector<QwtIntervalSample> samples;
+    // Of the slots before the last bar. A history is filled from its beginning on, and the slots
+    // that are still empty would all be told of every new bar.
     QVector<int> nearestBar;
+    int lastBar = -1;
 };
 
 #endif
