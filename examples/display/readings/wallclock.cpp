@@ -21,7 +21,8 @@ qint64 dayOf(qint64 wallSeconds)
 
 QDateTime utc(qint64 seconds)
 {
-    return QDateTime::fromSecsSinceEpoch(seconds).toUTC();
+    // By way of local time, the C library would look for /etc/localtime each time.
+    return QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc());
 }
 
 } // namespace
