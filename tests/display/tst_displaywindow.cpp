@@ -23,6 +23,8 @@
 #include <ZEMPageHeader>
 #include <ZEMPageIndicator>
 #include <ZEMSimpleListView>
+#include <qwt_plot.h>
+#include <qwt_plot_histogram.h>
 
 using namespace ZemTest;
 using Readings::Quantity;
@@ -68,6 +70,7 @@ private Q_SLOTS:
     void readingsThatDoNotGoOnSayOfWhenTheyAre();
     void nothingHidesBehindAScrollBar();
     void chartsAppearWithTheirMeters();
+    void chartsAreFilledWhenTheirPageIsOpened();
     void energyKeepsThePeriodThatWasChosen();
     void hiddenArrowsPaintNothing();
     void stoppedFlowsPaintNothing();
@@ -323,6 +326,28 @@ void tst_DisplayWindow::chartsAppearWithTheirMeters()
     Q_EMIT source->historyChanged();
     QCOMPARE(window.chartsPage()->allEnergies().size(), std::size_t(2));
     QCOMPARE(window.findChildren<ZEMHistogramWidget *>().size(), 1);
+}
+
+void tst_DisplayWindow::chartsAreFilledWhenTheirPageIsOpened()
+{
+    source->count(Quantity::GridImport, 10);
+    PlayedDisplay display(*source);
+    DisplayWindow &window = display.window;
+    QVERIFY(display.show());
+    const auto slotsOfCharts = [&] {
+        std::size_t all = 0;
+        for (const QwtPlot *plot : window.chartsPage()->findChildren<QwtPlot *>()) {
+            for (const QwtPlotItem *item : plot->itemList(QwtPlotItem::Rtti_PlotHistogram)) {
+                all += static_cast<const QwtPlotHistogram *>(item)->dataSize();
+            }
+        }
+        return all;
+    };
+    QCOMPARE(slotsOfCharts(), std::size_t(0));
+    Q_EMIT source->historyChanged();
+    QCOMPARE(slotsOfCharts(), std::size_t(0));
+    window.openPage(QStringLiteral("charts"));
+    QVERIFY(slotsOfCharts() > 0);
 }
 
 void tst_DisplayWindow::energyKeepsThePeriodThatWasChosen()

@@ -56,6 +56,12 @@ ChartsPage::~ChartsPage()
 
 void ChartsPage::showChart(ZEM::ZEMTab energy, Period period)
 {
+    selectChart(energy, period);
+    feedCurrentChart();
+}
+
+void ChartsPage::selectChart(ZEM::ZEMTab energy, Period period)
+{
     // A press on the tab of the period is what the chart page remembers for the next energy.
     charts->findChild<ZEMButton *>(QLatin1String(infoOf(period).button))->click();
     charts->selectTab(infoOf(period).tab, energy);
@@ -123,7 +129,7 @@ void ChartsPage::makeCharts()
     if (energies.empty()) {
         charts->setTitle(tr("Er is nog geen meter gehoord"));
     } else {
-        showChart(energies.front().tab, Period::Day);
+        selectChart(energies.front().tab, Period::Day);
     }
 }
 
@@ -163,7 +169,10 @@ void ChartsPage::handleButton(ZEMHistogramWidget::ButtonType button)
     default:
         break;
     }
-    feedCurrentChart();
+    // Ten years of hours take a while, and room, that a page which nobody opened does not need.
+    if (isVisible()) {
+        feedCurrentChart();
+    }
 }
 
 void ChartsPage::handleHistory()

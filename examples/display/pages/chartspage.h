@@ -51,6 +51,7 @@ private:
 
     std::vector<Energy> measuredEnergies() const;
     void makeCharts();
+    void selectChart(ZEM::ZEMTab energy, Period period);
     void handleButton(ZEMHistogramWidget::ButtonType button);
     void handleHistory();
     void feedCurrentChart();
