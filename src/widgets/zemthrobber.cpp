@@ -7,10 +7,13 @@
 #include "sharpfile_p.h"
 #include "sharppicture_p.h"
 
+#include <QIcon>
 #include <QImage>
 #include <QList>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTimer>
 #include <QVariant>
 
@@ -29,6 +32,25 @@ QList<QPixmap> cutFrames(const QImage &strip, int count)
         frames.append(QPixmap::fromImage(strip.copy(i * width, 0, width, strip.height())));
     }
     return frames;
+}
+
+/** Draws @p frame as the label draws its pixmap, which would be one for its own ratio. */
+void drawAsPixmap(const QLabel *label, QPainter &painter, QPixmap frame)
+{
+    const int margin = label->margin();
+    const QRect place = label->contentsRect().adjusted(margin, margin, -margin, -margin);
+    if (!label->isEnabled()) {
+        QStyleOption option;
+        option.initFrom(label);
+        frame = label->style()->generatedIconPixmap(QIcon::Disabled, frame, &option);
+    }
+    if (label->hasScaledContents()) {
+        drawPicture(painter, place, frame);
+        return;
+    }
+    const Qt::Alignment alignment =
+        QStyle::visualAlignment(label->layoutDirection(), label->alignment());
+    label->style()->drawItemPixmap(&painter, place, int(alignment), frame);
 }
 
 } // namespace
@@ -52,10 +74,22 @@ public:
         return sharpFrames.value(index);
     }
 
-    void show(ZEMThrobber *throbber, const QPixmap &picture)
+    // The label need not hand out what it was given: Qt 6 keeps an icon.
+    static qint64 keyOfShown(const ZEMThrobber *throbber)
     {
-        shownKey = picture.cacheKey();
-        throbber->setPixmap(picture);
+        return throbber->property("pixmap").value<QPixmap>().cacheKey();
+    }
+
+    /** Whether the label shows a frame, and not what a host has put there. */
+    bool isShown(const ZEMThrobber *throbber) const
+    {
+        return currentFrame > 0 && keyOfShown(throbber) == shownKey;
+    }
+
+    void show(ZEMThrobber *throbber, const QPixmap &frame)
+    {
+        throbber->setPixmap(frame);
+        shownKey = keyOfShown(throbber);
     }
 
     QList<QPixmap> frames;
@@ -118,19 +152,17 @@ void ZEMThrobber::slotChangeImage()
     if (d->currentFrame >= d->frames.size()) {
         d->currentFrame = 0;
     }
-    d->show(this, d->frame(d->currentFrame, devicePixelRatioF()));
+    d->show(this, d->frames.value(d->currentFrame));
     ++d->currentFrame;
 }
 
 void ZEMThrobber::paintEvent(QPaintEvent *event)
 {
-    // A frame at rest comes to another screen with its window, and a host may show what it likes.
-    const QPixmap shown = property("pixmap").value<QPixmap>();
-    if (!shown.isNull() && shown.cacheKey() == d->shownKey) {
-        const QPixmap frame = d->frame(d->currentFrame - 1, ratioOf(QPainter(this)));
-        if (frame.cacheKey() != d->shownKey) {
-            d->show(this, frame);
-        }
+    if (getShadow() || !d->isShown(this)) {
+        ZEMTextLabel::paintEvent(event);
+        return;
     }
-    ZEMTextLabel::paintEvent(event);
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    drawAsPixmap(this, painter, d->frame(d->currentFrame - 1, ratioOf(painter)));
 }

@@ -20,6 +20,8 @@
 #include <QDirIterator>
 #include <QMetaProperty>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -128,6 +130,7 @@ private Q_SLOTS:
     void starsAreThoseOfTheScreen();
     void frameAtRestGoesToAnotherScreen();
     void framesAreCutFromTheStripOfTheScreen();
+    void sharpFrameIsShownAsALabelShowsPictures();
     void pictureOfTheHostStaysOnAThrobber();
     void colorTakesThePlaceOfAPicture();
 };
@@ -333,6 +336,41 @@ void tst_SharpPictures::framesAreCutFromTheStripOfTheScreen()
     throbber.pause();
     QCOMPARE(painted(&throbber, 1.0), flatImage(QSize(10, 8), Qt::red));
     QCOMPARE(painted(&throbber, 2.0), flatImage(QSize(20, 16), Qt::green));
+}
+
+void tst_SharpPictures::sharpFrameIsShownAsALabelShowsPictures()
+{
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("strip.png"));
+    QVERIFY(flatPixmap(size, Qt::red).save(path));
+    const QPixmap sharpStrip = flatPixmap(2 * size, Qt::blue);
+    QVERIFY(sharpStrip.save(sharpPath(path)));
+
+    ZEMThrobber throbber;
+    throbber.resize(size + QSize(12, 12));
+    throbber.setImage(path, 1);
+    throbber.pause();
+    throbber.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    throbber.setMargin(2);
+    QImage expected = flatImage(2 * throbber.size(), Qt::black);
+    QPainter(&expected).drawPixmap(20, 20, sharpStrip);
+    QCOMPARE(painted(&throbber, 2.0), expected);
+
+    throbber.setEnabled(false);
+    QStyleOption option;
+    option.initFrom(&throbber);
+    const QPixmap grey =
+        throbber.style()->generatedIconPixmap(QIcon::Disabled, sharpStrip, &option);
+    QVERIFY(grey.toImage() != sharpStrip.toImage());
+    expected.fill(Qt::black);
+    QPainter(&expected).drawPixmap(20, 20, grey);
+    QCOMPARE(painted(&throbber, 2.0), expected);
+
+    throbber.setEnabled(true);
+    throbber.setScaledContents(true);
+    expected.fill(Qt::black);
+    QPainter(&expected).fillRect(expected.rect().adjusted(4, 4, -4, -4), Qt::blue);
+    QCOMPARE(painted(&throbber, 2.0), expected);
 }
 
 void tst_SharpPictures::pictureOfTheHostStaysOnAThrobber()
