@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstring>
 #include <memory>
 #include <mosquitto.h>
@@ -24,7 +25,11 @@ using Client = std::unique_ptr<mosquitto, decltype(&mosquitto_destroy)>;
 /** The library of the broker's makers is made ready once. */
 void initializeLibrary()
 {
-    static const int ready = mosquitto_lib_init();
+    static const int ready = [] {
+        // What is written to a broker that has just gone, encrypted, would end the program.
+        std::signal(SIGPIPE, SIG_IGN);
+        return mosquitto_lib_init();
+    }();
     Q_UNUSED(ready)
 }
 
