@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QRegularExpression>
 #include <cmath>
 
 namespace {
@@ -90,7 +91,10 @@ std::optional<double> mqttNumber(const QByteArray &text)
 
 std::optional<qint64> mqttTime(const QByteArray &text)
 {
-    const QDateTime time = QDateTime::fromString(QString::fromUtf8(text), Qt::ISODateWithMs);
+    // Qt 6 rounds a fraction, and half a second before noon it is not noon yet.
+    static const QRegularExpression fraction(QStringLiteral("(:\\d\\d)[.,]\\d+"));
+    const QDateTime time = QDateTime::fromString(
+        QString::fromUtf8(text).replace(fraction, QStringLiteral("\\1")), Qt::ISODate);
     // Without an offset it is anybody's guess, twice a year even in the household's own zone.
     if (!time.isValid() || time.timeSpec() == Qt::LocalTime) {
         return std::nullopt;
