@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QPalette>
+#include <QPen>
 #include <ZEMPlot>
 #include <ZEMPlotZoomerAdvanced>
 #include <ZEMQwtPlotCurvePointGetter>

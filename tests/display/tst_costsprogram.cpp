@@ -136,7 +136,7 @@ void tst_CostsProgram::refusals_data()
     QTest::newRow("no contract") << QStringList {"--contract", path("none.json")}
                                  << path("none.json: cannot be opened");
     QTest::newRow("contract that is none")
-        << QStringList {"--contract", path("prices.csv")} << path("prices.csv:1:1: illegal value");
+        << QStringList {"--contract", path("prices.csv")} << path("prices.csv:1:");
     QTest::newRow("prices that are none") << contract + QStringList {"--prices", path("house.json")}
                                           << path("house.json:1: the header");
     QTest::newRow("months nowhere")

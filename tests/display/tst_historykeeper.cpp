@@ -29,9 +29,9 @@ constexpr qint64 step = 300;
 const qint64 noon = QDateTime(QDate(2024, 6, 1), QTime(12, 0), QTimeZone::utc()).toSecsSinceEpoch();
 
 /** A keeper with what it fills and what it says. */
-struct Display
+struct DisplayRun
 {
-    explicit Display(const QString &directory) : keeper(directory)
+    explicit DisplayRun(const QString &directory) : keeper(directory)
     {
         QObject::connect(&keeper, &HistoryKeeper::problem,
                          [this](const QString &line) { problems << line; });
@@ -118,12 +118,12 @@ void tst_HistoryKeeper::init()
 void tst_HistoryKeeper::historyOutlivesTheDisplay()
 {
     {
-        Display display(place());
+        DisplayRun display(place());
         display.hear(noon, 1.5);
         display.hear(noon + step, 1.75);
         QCOMPARE(display.problems, QStringList());
     }
-    const Display display(place());
+    const DisplayRun display(place());
     QCOMPARE(display.gasAt(noon), std::optional<double>(1.5));
     QCOMPARE(display.gasAt(noon + step), std::optional<double>(1.75));
     QCOMPARE(display.problems, QStringList());
@@ -132,7 +132,7 @@ void tst_HistoryKeeper::historyOutlivesTheDisplay()
 void tst_HistoryKeeper::directoryIsMade()
 {
     const QString deep = directory->filePath(QStringLiteral("a/b"));
-    Display display(deep);
+    DisplayRun display(deep);
     display.hear(noon, 1.0);
     QVERIFY(QFile::exists(deep + QStringLiteral("/history.sqlite")));
     QCOMPARE(display.problems, QStringList());
@@ -143,7 +143,7 @@ void tst_HistoryKeeper::directoryThatCannotBeMade()
     QFile file(directory->filePath(QStringLiteral("file")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     const QString below = file.fileName() + QStringLiteral("/below");
-    Display display(below);
+    DisplayRun display(below);
     QCOMPARE(display.problems,
              QStringList(
                  below + "/history.sqlite: the directory cannot be made; the history is not kept"));
@@ -163,7 +163,7 @@ void tst_HistoryKeeper::damagedFileIsSetAside()
 {
     QFETCH(int, offset);
     {
-        Display display(place());
+        DisplayRun display(place());
         for (int i = 0; i < 5000; ++i) {
             display.keeper.add(gas, noon + i * step, double(i));
         }
@@ -176,7 +176,7 @@ void tst_HistoryKeeper::damagedFileIsSetAside()
     file.close();
     const qint64 size = file.size();
 
-    Display display(place());
+    DisplayRun display(place());
     QCOMPARE(display.problems.size(), 1);
     QVERIFY2(display.problems.constFirst().contains("it is set aside as history-damaged-"),
              qPrintable(display.problems.constFirst()));
@@ -192,7 +192,7 @@ void tst_HistoryKeeper::damagedFileIsSetAside()
 void tst_HistoryKeeper::newerFileIsLeftAlone()
 {
     {
-        Display display(place());
+        DisplayRun display(place());
         display.hear(noon, 1.0);
     }
     {
@@ -203,7 +203,7 @@ void tst_HistoryKeeper::newerFileIsLeftAlone()
     }
     QSqlDatabase::removeDatabase(QStringLiteral("later"));
 
-    Display display(place());
+    DisplayRun display(place());
     QCOMPARE(display.problems.size(), 1);
     QVERIFY(display.problems.constFirst().contains("written by a newer version of this program"));
     display.hear(noon + step, 2.0);
@@ -214,9 +214,9 @@ void tst_HistoryKeeper::newerFileIsLeftAlone()
 void tst_HistoryKeeper::secondDisplayShowsAndWritesNothing()
 {
     {
-        Display first(place());
+        DisplayRun first(place());
         first.hear(noon, 1.0);
-        Display second(place());
+        DisplayRun second(place());
         QCOMPARE(second.problems.size(), 1);
         QVERIFY(second.problems.constFirst().contains("another display keeps the history"));
         QCOMPARE(second.gasAt(noon), std::optional<double>(1.0));
@@ -225,7 +225,7 @@ void tst_HistoryKeeper::secondDisplayShowsAndWritesNothing()
         QCOMPARE(second.problems.size(), 1);
         QCOMPARE(first.problems, QStringList());
     }
-    QCOMPARE(Display(place()).gasAt(noon + step), std::optional<double>(2.0));
+    QCOMPARE(DisplayRun(place()).gasAt(noon + step), std::optional<double>(2.0));
 }
 
 void tst_HistoryKeeper::lockOfAKilledDisplayIsFree()
@@ -248,11 +248,11 @@ void tst_HistoryKeeper::lockOfAKilledDisplayIsFree()
     QCOMPARE(answer, 'y');
     close(tellParent[0]);
     close(tellParent[1]);
-    QCOMPARE(Display(place()).problems.size(), 1);
+    QCOMPARE(DisplayRun(place()).problems.size(), 1);
 
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    Display display(place());
+    DisplayRun display(place());
     display.hear(noon, 1.0);
     QCOMPARE(display.problems, QStringList());
 }
@@ -260,7 +260,7 @@ void tst_HistoryKeeper::lockOfAKilledDisplayIsFree()
 void tst_HistoryKeeper::fullDiskIsToldOnceAndWaits()
 {
     {
-        Display display(place());
+        DisplayRun display(place());
         display.hear(noon, 1.0);
         {
             const FullDisk full(1);
@@ -274,7 +274,7 @@ void tst_HistoryKeeper::fullDiskIsToldOnceAndWaits()
         display.hear(noon + 3 * step, 4.0);
         QCOMPARE(display.problems.size(), 1);
     }
-    const Display later(place());
+    const DisplayRun later(place());
     for (int i = 0; i <= 3; ++i) {
         QCOMPARE(later.gasAt(noon + i * step), std::optional<double>(1.0 + i));
     }
@@ -284,7 +284,7 @@ void tst_HistoryKeeper::fileThatCouldNotBeMadeIsTriedAgain()
 {
     QVERIFY(QDir(place()).mkdir(QStringLiteral("history.sqlite"))); // in the file's place
     {
-        Display display(place());
+        DisplayRun display(place());
         QCOMPARE(display.problems.size(), 1);
         display.hear(noon, 1.0);
         display.hear(noon + step, 2.0);
@@ -292,12 +292,12 @@ void tst_HistoryKeeper::fileThatCouldNotBeMadeIsTriedAgain()
         QVERIFY(QDir(place()).rmdir(QStringLiteral("history.sqlite")));
         display.hear(noon + 2 * step, 3.0);
     }
-    QCOMPARE(Display(place()).gasAt(noon), std::optional<double>(1.0));
+    QCOMPARE(DisplayRun(place()).gasAt(noon), std::optional<double>(1.0));
 }
 
 void tst_HistoryKeeper::oldReadingsAreThinnedOnceADay()
 {
-    Display display(place());
+    DisplayRun display(place());
     for (qint64 at = noon; at <= noon + 2 * hour; at += step) {
         display.household.meter(gas, Meter::Kind::Counter).addReading(at, 1.0);
         display.keeper.add(gas, at, 1.0);
@@ -308,7 +308,7 @@ void tst_HistoryKeeper::oldReadingsAreThinnedOnceADay()
     QVERIFY(!display.gasAt(noon + step));
     QVERIFY(display.gasAt(noon + hour));
 
-    const Display later(directory->path());
+    const DisplayRun later(directory->path());
     QVERIFY(!later.gasAt(noon + step));
     QVERIFY(later.gasAt(noon + hour));
     QVERIFY(later.gasAt(noon + 2 * hour));
@@ -317,16 +317,16 @@ void tst_HistoryKeeper::oldReadingsAreThinnedOnceADay()
 void tst_HistoryKeeper::whatWasLoadedIsNotDoubled()
 {
     {
-        Display display(place());
+        DisplayRun display(place());
         display.hear(noon, 1.0);
     }
     {
-        Display display(place());
+        DisplayRun display(place());
         display.hear(noon, 1.0);
         display.hear(noon + hour, 2.0);
         QVERIFY(display.household.meters.at(gas).faults().empty());
     }
-    const Display display(place());
+    const DisplayRun display(place());
     QCOMPARE(display.household.meters.at(gas).total(), 1.0);
 }
 

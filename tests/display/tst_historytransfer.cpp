@@ -320,7 +320,7 @@ void tst_HistoryTransfer::newerHistoryIsRefused()
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), "newer");
         database.setDatabaseName(HistoryKeeper::pathIn(place("h")));
         QVERIFY(database.open());
-        database.exec(QStringLiteral("PRAGMA user_version = 99"));
+        QVERIFY(QSqlQuery(database).exec(QStringLiteral("PRAGMA user_version = 99")));
     }
     QSqlDatabase::removeDatabase(QStringLiteral("newer"));
     const QString file = write("a.csv", "time,gas_m3\n2024-05-01T01:00Z,10\n");

@@ -358,9 +358,11 @@ void tst_MqttMeter::strangersAreNotBelieved()
     const QString line = listener.problems.constFirst();
     QVERIFY2(line.startsWith(broker.url(host) + QStringLiteral(": cannot be connected to: ")),
              qPrintable(line));
-    QVERIFY2(line.contains(knowsAuthority ? QStringLiteral("host name verification failed")
-                                          : QStringLiteral("certificate verify failed")),
-             qPrintable(line));
+    // Newer versions of the library call both the same.
+    QVERIFY2(
+        line.contains(QStringLiteral("certificate verify failed"))
+            || (knowsAuthority && line.contains(QStringLiteral("host name verification failed"))),
+        qPrintable(line));
     QCOMPARE(listener.connections.count(), 0);
 }
 

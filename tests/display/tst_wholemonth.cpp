@@ -14,6 +14,7 @@
 #include <ZEMTextLabel>
 #include <cmath>
 #include <qwt_plot.h>
+#include <utility>
 
 using Readings::Quantity;
 using Readings::Tariff;
@@ -260,7 +261,7 @@ void tst_WholeMonth::charts()
             }
             QVERIFY(totals.size() >= (period == Period::Day ? first.daysTo(last) + 1 : 1));
             display.window.chartsPage()->showChart(energy, period);
-            for (const QString &total : qAsConst(totals)) {
+            for (const QString &total : std::as_const(totals)) {
                 checkView(house, shown[energy], chart, total);
                 if (QTest::currentTestFailed()) {
                     return;

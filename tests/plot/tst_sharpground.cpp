@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include <QPainter>
 #include <ZEMPlot>
 #include <ZEMQwtPlotCurvePointGetter>
 

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QTest>
+#include <QTimeZone>
 #include <QTranslator>
 #include <ZEMButton>
 #include <ZEMCurrentStatusDetails>
@@ -159,7 +160,7 @@ void tst_Translations::headlineIsInOneLanguage()
     QVERIFY(speak(QStringLiteral("de_DE")));
     ZEMWeekHistogram chart;
     chart.init();
-    chart.setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), Qt::UTC));
+    chart.setDataChangedTimestamp(QDateTime(QDate(2016, 3, 7), QTime(0, 0), QTimeZone::utc()));
     chart.setScalePeriod(7.0);
     QCOMPARE(chart.title(), QStringLiteral("Woche - 7 bis 13 März"));
 }

@@ -226,7 +226,8 @@ void tst_ChartRepaints::dragPaintsNoValueAxis()
     const Paints paints(stage.plot());
     stage.drag(9);
     QTRY_VERIFY(paints.canvas.count > 0);
-    QCOMPARE(paints.valueAxis.count, 0);
+    // Qwt 6.3 by itself lays out the plot again when the labels of an axis change.
+    QVERIFY(paints.valueAxis.count <= (QuickPaths::areOpen() ? 0 : 1));
 }
 
 void tst_ChartRepaints::replotPaintsTheCanvasAlone()

@@ -22,14 +22,18 @@ void drag(const Stage &stage, int reach, Random &random)
     if (!stage.window->isVisible() || !canvas->isVisible()) {
         return;
     }
-    const QPoint from(canvas->width() / 2, canvas->height() / 2);
+    // A chart may be larger than its window for a while.
+    const QWidget *window = canvas->window();
+    const QRect inView =
+        canvas->rect() & window->rect().translated(canvas->mapFrom(window, QPoint()));
+    const QPoint from = inView.center();
     ZemTest::press(canvas, from);
     const int moves = 1 + upTo(3, random);
     QPoint to = from;
     for (int i = 0; i < moves; ++i) {
         to += QPoint(upTo(2 * reach, random) - reach, upTo(4, random));
-        to.setX(qBound(0, to.x(), canvas->width() - 1));
-        to.setY(qBound(0, to.y(), canvas->height() - 1));
+        to.setX(qBound(inView.left(), to.x(), inView.right()));
+        to.setY(qBound(inView.top(), to.y(), inView.bottom()));
         ZemTest::moveTo(canvas, to);
     }
     ZemTest::release(canvas, to);
