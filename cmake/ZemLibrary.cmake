@@ -67,7 +67,7 @@ function(zem_finish_headers)
     foreach(class IN LISTS forwarders)
         string(APPEND all "#include <${class}>\n")
     endforeach()
-    file(CONFIGURE OUTPUT "${ZEMKIT_FORWARDING_DIR}/Zemkit" CONTENT "${all}")
+    file(CONFIGURE OUTPUT "${ZEMKIT_FORWARDING_DIR}/Zemkit" CONTENT "${all}#include <zemkit_version.h>\n")
 
     install(FILES ${headers} DESTINATION "${ZEMKIT_INCLUDEDIR}" COMPONENT Development)
     foreach(class IN LISTS forwarders ITEMS Zemkit)

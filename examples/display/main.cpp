@@ -34,6 +34,7 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <zemkit_version.h>
 
 namespace {
 
@@ -57,7 +58,7 @@ void printErrors(const QStringList &lines)
 void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("zemkit-display"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION_STR));
 }
 
 Options optionsOf(int argc, char *argv[])

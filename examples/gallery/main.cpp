@@ -13,6 +13,7 @@
 #include <QTextStream>
 #include <QTranslator>
 #include <ZEMStyle>
+#include <zemkit_version.h>
 
 namespace {
 
@@ -21,7 +22,7 @@ constexpr int exitFailure = 1;
 void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("zemkit-gallery"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION_STR));
 }
 
 Options optionsOf(int argc, char *argv[])

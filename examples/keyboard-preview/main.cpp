@@ -11,6 +11,7 @@
 #include <QStyleFactory>
 #include <ZEMStyle>
 #include <cstdio>
+#include <zemkit_version.h>
 
 namespace {
 
@@ -26,7 +27,7 @@ void print(std::FILE *stream, const QString &text)
 void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("zemkit-keyboard-preview"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZEMKIT_VERSION_STR));
 }
 
 Options optionsOf(int argc, char *argv[])

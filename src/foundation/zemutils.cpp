@@ -4,7 +4,7 @@
 #include "zemutils.h"
 
 #include "buildstamp_p.h"
-#include "zemversion_p.h"
+#include "zemkit_version.h"
 
 #include <cmath>
 
@@ -27,8 +27,8 @@ QString ZEMUtils::getDescription()
 QString ZEMUtils::getVersion()
 {
     return QStringLiteral("%1.%2.%3")
-        .arg(ZemVersion::majorNumber)
-        .arg(ZemVersion::minorNumber)
+        .arg(ZEMKIT_VERSION >> 16)
+        .arg((ZEMKIT_VERSION >> 8) & 0xff)
         .arg(revisionLabel());
 }
 

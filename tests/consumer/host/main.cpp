@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <ZEMButton>
 #include <ZEMSmartDayHistogram>
-#include <ZEMUtils>
+#include <zemkit_version.h>
 
 int main(int argc, char *argv[])
 {
@@ -18,6 +18,7 @@ int main(int argc, char *argv[])
     ZEMSmartDayHistogram chart;
     chart.init();
     const bool works = button.width() == 75 && chart.layout()
-        && ZEMUtils::getVersion().startsWith(QStringLiteral(ZEMKIT_VERSION "."));
+        && qstrcmp(zemkitVersion(), ZEMKIT_VERSION_STR) == 0
+        && qstrcmp(zemkitVersion(), PACKAGE_VERSION) == 0;
     return works ? 0 : 1;
 }
