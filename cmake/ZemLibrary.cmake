@@ -74,3 +74,30 @@ function(zem_finish_headers)
         install(FILES "${ZEMKIT_FORWARDING_DIR}/${class}" DESTINATION "${ZEMKIT_INCLUDEDIR}" COMPONENT Development)
     endforeach()
 endfunction()
+
+# zem_export_classes([<symbol>...])
+#   Lets the library export its public classes, with what the compiler makes of them, and the symbols, and
+#   nothing else: their class Private would be visible with them, and so would instances of templates, and in
+#   a build without optimisation the inline functions of Qt and Qwt.
+function(zem_export_classes)
+    get_target_property(classes zemkit ZEM_FORWARDERS)
+    set(names "")
+    foreach(class IN LISTS classes)
+        # As names are mangled: the type and its tables; members, constant ones, inner types, and thunks.
+        string(LENGTH "${class}" length)
+        string(APPEND names "    _ZT[ISTV]${length}${class};\n")
+        foreach(before IN ITEMS _ZN _ZNK "_ZT[ISTV]N" "_ZT[chv]*_N" "_ZT[chv]*_NK")
+            # What follows is any name but 7Private.
+            foreach(after IN ITEMS "[!7]*" "7[!P]*")
+                string(APPEND names "    ${before}${length}${class}${after};\n")
+            endforeach()
+        endforeach()
+    endforeach()
+    foreach(symbol IN LISTS ARGN)
+        string(APPEND names "    ${symbol};\n")
+    endforeach()
+    set(map "${CMAKE_CURRENT_BINARY_DIR}/zemkit.map")
+    file(CONFIGURE OUTPUT "${map}" CONTENT "{\nglobal:\n${names}local:\n    *;\n};\n" @ONLY)
+    target_link_options(zemkit PRIVATE "LINKER:--version-script=${map}")
+    set_property(TARGET zemkit APPEND PROPERTY LINK_DEPENDS "${map}")
+endfunction()
