@@ -31,6 +31,10 @@ class Packages(unittest.TestCase):
         self.assertFalse([name for name in six if "qt5" in name or "base5" in name])
         self.assertEqual(len(five), len(six))
 
+    def test_tools_of_packages_are_there_when_they_are_asked_for(self):
+        more = set(self.chosen("--suite", "bookworm", "--packages")) - set(self.chosen("--suite", "bookworm"))
+        self.assertEqual(more, {"autopkgtest", "debhelper", "lintian"})
+
     def test_libraries_are_of_the_architecture_and_tools_of_this_machine(self):
         for arch, compiler, other in (("armhf", "g++-arm-linux-gnueabihf", "arm64"),
                                       ("arm64", "g++-aarch64-linux-gnu", "armhf")):

@@ -43,6 +43,7 @@ class Symbols(unittest.TestCase):
         self.assertEqual(self.symbols().returncode, 0)
         self.assertEqual(self.file.read_text().splitlines(), [
             "libzemkit.so.2 libzemkit2 #MINVER#",
+            "* Build-Depends-Package: libzemkit-dev",
             ' (c++)"ZEMLamp::ZEMLamp()@Base" 2.0.0',
             ' (c++)"ZEMLamp::shine(int)@Base" 2.0.0',
             ' (c++)"ZEMLamp::~ZEMLamp()@Base" 2.0.0'])
