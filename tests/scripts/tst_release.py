@@ -22,6 +22,15 @@ add_custom_target(all_of_it ALL COMMAND "${CMAKE_COMMAND}" -E true)
 """
 
 
+# Other files that tell the version, and how.
+TOLD = {
+    "debian/changelog": "zemkit (1.2.3) unstable; urgency=medium\n\n  * New.\n\nzemkit (1.2.2) unstable\n",
+    "packaging/zemkit-display.metainfo.xml": '<releases>\n<release version="1.2.3" date="2026-11-22"/>\n</releases>\n',
+    "packaging/buildroot/package/zemkit/zemkit.mk": "ZEMKIT_VERSION = 1.2.3\n",
+    "packaging/yocto/recipes-graphics/zemkit/zemkit_1.2.3.bb": 'SUMMARY = "Qt"\n',
+}
+
+
 class Release(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -33,10 +42,13 @@ class Release(unittest.TestCase):
         self.write("part.txt", "whole\n")
         self.write(".gitignore", "/build/\n")
         self.write("CHANGELOG.md", "# Changelog\n\n## 1.2.3, 2026-11-22\n\n- New.\n\n## 1.2.2, 2026-10-01\n")
+        for name, text in TOLD.items():
+            self.write(name, text)
         self.git("init", "--quiet")
         self.commit()
 
     def write(self, name, text):
+        (self.tree / name).parent.mkdir(parents=True, exist_ok=True)
         (self.tree / name).write_text(text)
 
     def git(self, *arguments):
@@ -67,9 +79,8 @@ class Release(unittest.TestCase):
         self.assertEqual(self.git("cat-file", "-t", "v1.2.3"), "tag\n")
         archive = self.tree / "build" / "zemkit-1.2.3.tar.gz"
         with tarfile.open(archive) as files:
-            self.assertEqual({name for name in files.getnames() if "/" in name},
-                             {f"zemkit-1.2.3/{name}" for name in self.git("ls-files").split()}
-                             | {"zemkit-1.2.3/scripts"})
+            self.assertEqual({file.name for file in files if file.isfile()},
+                             {f"zemkit-1.2.3/{name}" for name in self.git("ls-files").split()})
         self.assertIn(hashlib.sha256(archive.read_bytes()).hexdigest(), ended.stdout)
 
     def test_the_archive_of_a_tag_is_the_same_each_time(self):
@@ -89,6 +100,15 @@ class Release(unittest.TestCase):
     def test_another_version_than_that_of_the_project_is_refused(self):
         self.assert_refused("CMakeLists.txt tells 1.2.3", "1.2.4")
         self.assert_refused("CHANGELOG.md", "--check", "1.2.4")
+
+    def test_a_file_that_tells_another_version_is_refused_by_name(self):
+        for name, text in TOLD.items():
+            told = self.tree / name
+            told.unlink()
+            self.write(name.replace("_1.2.3", "_1.2.2"), text.replace("1.2.3", "1.2.2", 1))
+            self.commit()
+            self.assert_refused(name.replace("_1.2.3", "_1.2.2"))
+            self.git("reset", "--quiet", "--hard", "HEAD~")
 
     def test_a_section_without_a_date_is_refused(self):
         for heading in ("1.2.3, not yet released", "1.2.3", "1.2.30, 2026-11-22"):
