@@ -13,11 +13,15 @@
 #include <QImage>
 #include <QPixmap>
 #include <QTimer>
+#include <QVariant>
 #include <QWidget>
+#include <ZEMAnimatedArrows>
+#include <ZEMPixmap>
+#include <ZEMThrobber>
 
 namespace {
 
-constexpr int timeToSettle = 600; // milliseconds, in which layouts are done and arrows set off
+constexpr int timeToSettle = 600; // milliseconds, in which layouts are done
 constexpr int best = 0; // of QImage::save(): the smallest file
 
 /** With a table of colours where they are few enough, which makes a smaller file. */
@@ -40,6 +44,29 @@ QImage slim(const QImage &image)
     return opaque.convertToFormat(QImage::Format_Indexed8, colors, Qt::ThresholdDither);
 }
 
+/** Stops what moves at one and the same moment, so that a picture is like the one before it. */
+void holdStill(const QWidget *sample)
+{
+    const auto waves = sample->findChildren<ZEMAnimatedArrows *>();
+    for (ZEMAnimatedArrows *arrows : waves) {
+        if (arrows->getRunning()) {
+            arrows->stop();
+            qreal opacity = 1.0;
+            const auto icons = arrows->findChildren<ZEMPixmap *>();
+            for (ZEMPixmap *arrow : icons) {
+                arrow->setOpacity(opacity);
+                opacity -= 0.3;
+            }
+        }
+    }
+    const auto throbbers = sample->findChildren<ZEMThrobber *>();
+    for (ZEMThrobber *throbber : throbbers) {
+        if (!throbber->property("pixmap").value<QPixmap>().isNull()) {
+            throbber->pause();
+        }
+    }
+}
+
 QImage pictureOf(const GalleryPage &page, KeyboardFactoryDefault *keyboards,
                  const QString &keyboardDirectory)
 {
@@ -48,6 +75,8 @@ QImage pictureOf(const GalleryPage &page, KeyboardFactoryDefault *keyboards,
     Stage stage(keyboards, keyboardDirectory);
     page.show(stage);
     QWidget *sample = stage.sample();
+    // Before any time has passed, and again what sets off when it is shown.
+    holdStill(sample);
     sample->setParent(&host);
     host.show();
     sample->show();
@@ -56,6 +85,7 @@ QImage pictureOf(const GalleryPage &page, KeyboardFactoryDefault *keyboards,
     QEventLoop loop;
     QTimer::singleShot(timeToSettle, &loop, &QEventLoop::quit);
     loop.exec();
+    holdStill(sample);
     return slim(sample->grab().toImage());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "keptpictures.h"
 #include "zemtest.h"
 
 #include <QDir>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void refusals();
     void pageOpensAndStays();
     void screenshotsOfEveryClassAndNothingElse();
+    void keptPicturesAreNoOlderThanTheCode();
     void screenshotsIntoAFile();
 
 private:
@@ -36,6 +38,7 @@ private:
         QString errors;
     };
     static Result run(const QStringList &arguments);
+    QString pictures();
 
     QTemporaryDir dir;
 };
@@ -61,6 +64,20 @@ tst_GalleryProgram::Result tst_GalleryProgram::run(const QStringList &arguments)
         }
     }
     return result;
+}
+
+/** The folder with the pictures, which are taken once. */
+QString tst_GalleryProgram::pictures()
+{
+    const QString folder = dir.filePath(QStringLiteral("screens"));
+    if (!QDir(folder).exists()) {
+        const Result result = run({QStringLiteral("--screenshots"), folder});
+        [&] {
+            QCOMPARE(result.errors, QString());
+            QCOMPARE(result.status, 0);
+        }();
+    }
+    return folder;
 }
 
 void tst_GalleryProgram::help()
@@ -154,10 +171,7 @@ static bool isOfOneColor(const QImage &image)
 
 void tst_GalleryProgram::screenshotsOfEveryClassAndNothingElse()
 {
-    const QString screens = dir.filePath(QStringLiteral("screens"));
-    const Result result = run({QStringLiteral("--screenshots"), screens});
-    QCOMPARE(result.errors, QString());
-    QCOMPARE(result.status, 0);
+    const QString screens = pictures();
     QStringList expected;
     for (const QString &name : classes()) {
         expected.append(name.toLower() + QStringLiteral(".png"));
@@ -169,6 +183,27 @@ void tst_GalleryProgram::screenshotsOfEveryClassAndNothingElse()
         QVERIFY2(!image.isNull() && !isOfOneColor(image), qPrintable(name));
         QVERIFY2(image.width() <= 640 && image.height() <= 480, qPrintable(name));
     }
+}
+
+void tst_GalleryProgram::keptPicturesAreNoOlderThanTheCode()
+{
+    const QString reason = KeptPictures::reasonToDiffer();
+    if (!reason.isEmpty()) {
+        QSKIP(qPrintable(reason));
+    }
+    const QString screens = pictures();
+    QStringList differences;
+    const QStringList names = QDir(screens).entryList({QStringLiteral("*.png")});
+    for (const QString &name : names) {
+        const QString difference = KeptPictures::difference(
+            QImage(screens + QLatin1Char('/') + name), QStringLiteral(PICTURES_DIR "/") + name);
+        if (!difference.isEmpty()) {
+            differences.append(difference);
+        }
+    }
+    QVERIFY2(differences.isEmpty(),
+             qPrintable(QStringLiteral("scripts/pictures takes them anew: ")
+                        + differences.join(QLatin1String(", "))));
 }
 
 void tst_GalleryProgram::screenshotsIntoAFile()
