@@ -9,13 +9,17 @@
 #include <QLocale>
 #include <QPalette>
 #include <QPointer>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QVector>
 #include <Zemkit>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -28,7 +32,7 @@ QStringList documents()
 /** What the names of the blocks of @p document begin with. */
 QByteArray stemOf(const QString &document)
 {
-    return QFileInfo(document).baseName().toLower().toUtf8() + '_';
+    return QFileInfo(document).baseName().toLower().toUtf8().replace('-', '_') + '_';
 }
 
 int examplesOf(const QString &document)
@@ -52,6 +56,22 @@ int beginsIn(const QString &document)
         return text.count("```cpp");
     }
     return text.count("@code\n") + text.count("@code{.cpp}");
+}
+
+/** The keyboard files that @p document tells of. */
+QStringList keyboardsIn(const QString &document)
+{
+    QFile file(document);
+    QStringList keyboards;
+    if (file.open(QIODevice::ReadOnly)) {
+        const QRegularExpression block(QStringLiteral("```xml\n(.*?<keyboard.*?)```"),
+                                       QRegularExpression::DotMatchesEverythingOption);
+        auto found = block.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext()) {
+            keyboards.append(found.next().captured(1));
+        }
+    }
+    return keyboards;
 }
 
 /** Ends what waits for an answer of the user. */
@@ -80,6 +100,8 @@ private Q_SLOTS:
     void everyClassHasAnExample();
     void exampleRuns_data();
     void exampleRuns();
+    void everyKeyboardCanBeTypedOn_data();
+    void everyKeyboardCanBeTypedOn();
 
 private:
     static void clearAway();
@@ -182,6 +204,45 @@ void tst_Examples::exampleRuns()
     QApplication::setPalette(palette);
     QApplication::setFont(font);
     ZEMPageHeaderButton::setDefaultBackgroundImage(QString());
+}
+
+void tst_Examples::everyKeyboardCanBeTypedOn_data()
+{
+    QTest::addColumn<QString>("text");
+    const QStringList all = documents();
+    for (const QString &document : all) {
+        const QStringList keyboards = keyboardsIn(document);
+        for (int i = 0; i < keyboards.size(); ++i) {
+            QTest::addRow("%s, %d", qPrintable(QFileInfo(document).fileName()), i) << keyboards[i];
+        }
+    }
+}
+
+void tst_Examples::everyKeyboardCanBeTypedOn()
+{
+    QFETCH(QString, text);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("keyboard_xx.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text.toUtf8());
+    file.close();
+    KeyboardFactoryDefault factory(folder.path(), QStringLiteral("xx"));
+    const std::unique_ptr<ZEMVirtualKeyboard> keyboard(
+        factory.createKeyboard(KeyboardFactoryDefault::PopupAbove));
+    QVERIFY(keyboard);
+    QSet<QString> names;
+    const auto keys = keyboard->findChildren<ZEMVirtualKey *>();
+    for (const ZEMVirtualKey *key : keys) {
+        names.insert(key->text());
+    }
+    // Words are labelled in another way.
+    auto values =
+        QRegularExpression(QStringLiteral("<key value=\"([^\"A-Z]+)\"")).globalMatch(text);
+    QVERIFY(values.hasNext());
+    while (values.hasNext()) {
+        const QString value = values.next().captured(1);
+        QVERIFY2(names.contains(value), qPrintable(value));
+    }
 }
 
 QTEST_MAIN(tst_Examples)
