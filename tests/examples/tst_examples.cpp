@@ -235,6 +235,7 @@ void tst_Examples::everyKeyboardCanBeTypedOn()
     for (const ZEMVirtualKey *key : keys) {
         names.insert(key->text());
     }
+    QCOMPARE(text.count(QLatin1String("<key ")), text.count(QLatin1String("<key value=")));
     // Words are labelled in another way.
     auto values =
         QRegularExpression(QStringLiteral("<key value=\"([^\"A-Z]+)\"")).globalMatch(text);
