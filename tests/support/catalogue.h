@@ -14,7 +14,8 @@ namespace Catalogue {
 struct Entry
 {
     QString source; ///< with its context in front
-    QString translation;
+    QStringList translations; ///< one, or one for each plural form of the language
+    bool isPlural;
     bool isFinished;
 };
 
@@ -22,8 +23,9 @@ QVector<Entry> entriesOf(const QString &path);
 
 /**
  * What is wrong with the catalogue at @p path of the texts in @p sources, directories or files: an
- * entry that is missing, not finished or of no text any more, or a place to be filled in that only
- * one side has. Empty if nothing is.
+ * entry that is missing, not finished or of no text any more, a plural form too few, a place to be
+ * filled in that only one side has, or a text that lupdate cannot make an entry of. Empty if
+ * nothing is.
  */
 QStringList problemsOf(const QString &path, const QStringList &sources);
 
