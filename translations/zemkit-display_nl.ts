@@ -1,11 +1,275 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="nl_NL" sourcelanguage="en_US">
+<TS version="2.1" language="nl_NL" sourcelanguage="nl_NL">
+<context>
+    <name>AnalysisPage</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>ddd d MMMM yyyy</source>
+        <translation>ddd d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>net per uur</source>
+        <translation>net per uur</translation>
+    </message>
+    <message>
+        <source>Van deze dag is niets bekend</source>
+        <translation>Van deze dag is niets bekend</translation>
+    </message>
+    <message>
+        <source>Sleep naar linksboven voor de hele dag</source>
+        <translation>Sleep naar linksboven voor de hele dag</translation>
+    </message>
+    <message>
+        <source>Tik op een lijn, of sleep om in te zoomen</source>
+        <translation>Tik op een lijn, of sleep om in te zoomen</translation>
+    </message>
+</context>
 <context>
     <name>Backlight</name>
     <message>
         <source>%1: the backlight cannot be switched: %2</source>
         <translation>%1: de verlichting van het scherm kan niet worden geschakeld: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChartsPage</name>
+    <message>
+        <source>Grafieken</source>
+        <translation>Grafieken</translation>
+    </message>
+    <message>
+        <source>Er is nog geen meter gehoord</source>
+        <translation>Er is nog geen meter gehoord</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesPage</name>
+    <message>
+        <source>Apparaten</source>
+        <translation>Apparaten</translation>
+    </message>
+    <message>
+        <source>Geen meter telt losse apparaten.</source>
+        <translation>Geen meter telt losse apparaten.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPage</name>
+    <message>
+        <source>vandaag</source>
+        <translation>vandaag</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>ddd d MMM yyyy, HH:mm</source>
+        <translation>ddd d MMM yyyy, HH:mm</translation>
+    </message>
+    <message>
+        <source>stand van %1</source>
+        <translation>stand van %1</translation>
+    </message>
+    <message>
+        <source>d-M-yyyy</source>
+        <translation>d-M-yyyy</translation>
+    </message>
+    <message>
+        <source>simulatie, %1</source>
+        <translation>simulatie, %1</translation>
+    </message>
+    <message>
+        <source>d MMM, HH:mm</source>
+        <translation>d MMM, HH:mm</translation>
+    </message>
+    <message>
+        <source>HH:mm</source>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>dddd d MMMM yyyy, HH:mm</source>
+        <translation>dddd d MMMM yyyy, HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd d MMM, HH:mm</source>
+        <translation>ddd d MMM, HH:mm</translation>
+    </message>
+    <message>
+        <source>naar het net</source>
+        <translation>naar het net</translation>
+    </message>
+    <message>
+        <source>van het net</source>
+        <translation>van het net</translation>
+    </message>
+</context>
+<context>
+    <name>DisplaySettings</name>
+    <message>
+        <source>%1: instellingen zijn niet bewaard</source>
+        <translation>%1: instellingen zijn niet bewaard</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWindow</name>
+    <message>
+        <source>De meter is er weer.</source>
+        <translation>De meter is er weer.</translation>
+    </message>
+    <message>
+        <source>De meter zwijgt.</source>
+        <translation>De meter zwijgt.</translation>
+    </message>
+    <message>
+        <source>Geen meldingen</source>
+        <translation>Geen meldingen</translation>
+    </message>
+    <message>
+        <source>Meldingen</source>
+        <translation>Meldingen</translation>
+    </message>
+    <message>
+        <source>Melding</source>
+        <translation>Melding</translation>
+    </message>
+    <message>
+        <source>Overzicht</source>
+        <translation>Overzicht</translation>
+    </message>
+    <message>
+        <source>Grafieken</source>
+        <translation>Grafieken</translation>
+    </message>
+    <message>
+        <source>Apparaten</source>
+        <translation>Apparaten</translation>
+    </message>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>Maanden</source>
+        <translation>Maanden</translation>
+    </message>
+    <message>
+        <source>Doelen</source>
+        <translation>Doelen</translation>
+    </message>
+    <message>
+        <source>Instellingen</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Pagina&apos;s</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>pagina&apos;s</source>
+        <translation>pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>meldingen</source>
+        <translation>meldingen</translation>
+    </message>
+</context>
+<context>
+    <name>Energy</name>
+    <message>
+        <source>Verbruik</source>
+        <translation>Verbruik</translation>
+    </message>
+    <message>
+        <source>Laag tarief</source>
+        <translation>Laag tarief</translation>
+    </message>
+    <message>
+        <source>laag tarief</source>
+        <translation>laag tarief</translation>
+    </message>
+    <message>
+        <source>Opwekking</source>
+        <translation>Opwekking</translation>
+    </message>
+    <message>
+        <source>Teruglevering</source>
+        <translation>Teruglevering</translation>
+    </message>
+    <message>
+        <source>Gas</source>
+        <translation>Gas</translation>
+    </message>
+    <message>
+        <source>Warmte</source>
+        <translation>Warmte</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Water</translation>
+    </message>
+</context>
+<context>
+    <name>GoalsPage</name>
+    <message>
+        <source>%1 van %2 kWh</source>
+        <translation>%1 van %2 kWh</translation>
+    </message>
+    <message>
+        <source>Overdag weg</source>
+        <translation>Overdag weg</translation>
+    </message>
+    <message>
+        <source>Vakantie</source>
+        <translation>Vakantie</translation>
+    </message>
+    <message>
+        <source>Thuis</source>
+        <translation>Thuis</translation>
+    </message>
+    <message>
+        <source>Doelen</source>
+        <translation>Doelen</translation>
+    </message>
+    <message>
+        <source>profiel</source>
+        <translation>profiel</translation>
+    </message>
+    <message>
+        <source>doel van een jaar</source>
+        <translation>doel van een jaar</translation>
+    </message>
+    <message>
+        <source>Stroom in een jaar, in kWh</source>
+        <translation>Stroom in een jaar, in kWh</translation>
+    </message>
+    <message>
+        <source>Een getal van 1 tot %L1 kWh</source>
+        <translation>Een getal van 1 tot %L1 kWh</translation>
+    </message>
+    <message>
+        <source>%L1 kWh</source>
+        <translation>%L1 kWh</translation>
+    </message>
+    <message>
+        <source>budget van %1</source>
+        <translation>budget van %1</translation>
+    </message>
+    <message>
+        <source>tot nu toe € %1</source>
+        <translation>tot nu toe € %1</translation>
+    </message>
+    <message>
+        <source>tot nu toe %1 euro</source>
+        <translation>tot nu toe %1 euro</translation>
+    </message>
+    <message>
+        <source>gisteren</source>
+        <translation>gisteren</translation>
     </message>
 </context>
 <context>
@@ -47,10 +311,84 @@
     </message>
 </context>
 <context>
-    <name>MeterSource</name>
+    <name>MessageList</name>
     <message>
-        <source>the clock of the meter is %1 minutes ahead of that of the display; bars stand where the meter&apos;s clock has them</source>
-        <translation>de klok van de meter loopt %1 minuten voor op die van het scherm; de staven staan op de tijd van de meter</translation>
+        <source>d MMM HH:mm</source>
+        <translation>d MMM HH:mm</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keer, van %1 tot %2</source>
+        <translation>
+            <numerusform>%n keer, van %1 tot %2</numerusform>
+            <numerusform>%n keer, van %1 tot %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MeterSource</name>
+    <message numerus="yes">
+        <source>the clock of the meter is %n minutes ahead of that of the display; bars stand where the meter&apos;s clock has them</source>
+        <translation>
+            <numerusform>de klok van de meter loopt %n minuut voor op die van het scherm; de staven staan op de tijd van de meter</numerusform>
+            <numerusform>de klok van de meter loopt %n minuten voor op die van het scherm; de staven staan op de tijd van de meter</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MissingFonts</name>
+    <message>
+        <source>het lettertype %1 is er niet (fonts-%2): teksten passen misschien niet</source>
+        <translation>het lettertype %1 is er niet (fonts-%2): teksten passen misschien niet</translation>
+    </message>
+</context>
+<context>
+    <name>MonthsPage</name>
+    <message>
+        <source>Maanden</source>
+        <translation>Maanden</translation>
+    </message>
+</context>
+<context>
+    <name>MonthsTable</name>
+    <message>
+        <source>verbruik</source>
+        <translation>verbruik</translation>
+    </message>
+    <message>
+        <source>terug</source>
+        <translation>terug</translation>
+    </message>
+    <message>
+        <source>zon</source>
+        <translation>zon</translation>
+    </message>
+    <message>
+        <source>gas</source>
+        <translation>gas</translation>
+    </message>
+    <message>
+        <source>warmte</source>
+        <translation>warmte</translation>
+    </message>
+    <message>
+        <source>water</source>
+        <translation>water</translation>
+    </message>
+    <message>
+        <source>vast</source>
+        <translation>vast</translation>
+    </message>
+    <message>
+        <source>totaal</source>
+        <translation>totaal</translation>
+    </message>
+    <message>
+        <source>MMM yyyy</source>
+        <translation>MMM yyyy</translation>
+    </message>
+    <message>
+        <source>maand</source>
+        <translation>maand</translation>
     </message>
 </context>
 <context>
@@ -102,9 +440,12 @@
         <source>a message cannot be read: %1</source>
         <translation>een bericht is onleesbaar: %1</translation>
     </message>
-    <message>
-        <source>%1 messages cannot be read, the last one: %2</source>
-        <translation>%1 berichten zijn onleesbaar, het laatste: %2</translation>
+    <message numerus="yes">
+        <source>%n messages cannot be read, the last one: %1</source>
+        <translation>
+            <numerusform>%n bericht is onleesbaar, het laatste: %1</numerusform>
+            <numerusform>%n berichten zijn onleesbaar, het laatste: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -132,6 +473,37 @@
     <message>
         <source>there is no time with its offset from UTC</source>
         <translation>er staat geen tijdstip met het verschil met UTC</translation>
+    </message>
+</context>
+<context>
+    <name>OverviewPage</name>
+    <message>
+        <source>Overzicht</source>
+        <translation>Overzicht</translation>
+    </message>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>Doelen</source>
+        <translation>Doelen</translation>
+    </message>
+    <message>
+        <source>totaal %1</source>
+        <translation>totaal %1</translation>
+    </message>
+    <message>
+        <source>%1 deze week</source>
+        <translation>%1 deze week</translation>
+    </message>
+    <message>
+        <source>%1, week van %2</source>
+        <translation>%1, week van %2</translation>
+    </message>
+    <message>
+        <source>%1 (onvolledig)</source>
+        <translation>%1 (onvolledig)</translation>
     </message>
 </context>
 <context>
@@ -233,6 +605,25 @@
     </message>
 </context>
 <context>
+    <name>PowerDay</name>
+    <message>
+        <source>verbruik</source>
+        <translation>verbruik</translation>
+    </message>
+    <message>
+        <source>opwekking</source>
+        <translation>opwekking</translation>
+    </message>
+    <message>
+        <source>van het net</source>
+        <translation>van het net</translation>
+    </message>
+    <message>
+        <source>naar het net</source>
+        <translation>naar het net</translation>
+    </message>
+</context>
+<context>
     <name>Prices</name>
     <message>
         <source>there are no prices in it</source>
@@ -260,6 +651,41 @@
     </message>
 </context>
 <context>
+    <name>QuantityLook</name>
+    <message>
+        <source>verbruik</source>
+        <translation>verbruik</translation>
+    </message>
+    <message>
+        <source>teruglevering</source>
+        <translation>teruglevering</translation>
+    </message>
+    <message>
+        <source>opwekking</source>
+        <translation>opwekking</translation>
+    </message>
+    <message>
+        <source>gas</source>
+        <translation>gas</translation>
+    </message>
+    <message>
+        <source>water</source>
+        <translation>water</translation>
+    </message>
+    <message>
+        <source>warmte</source>
+        <translation>warmte</translation>
+    </message>
+    <message>
+        <source>warmtepomp</source>
+        <translation>warmtepomp</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>auto</translation>
+    </message>
+</context>
+<context>
     <name>Readings</name>
     <message>
         <source>%1: the meter goes on at %2 %3, which does not follow from before: it is another one, or was reset</source>
@@ -276,26 +702,6 @@
     <message>
         <source>cannot be opened: %1</source>
         <translation>kan niet worden geopend: %1</translation>
-    </message>
-    <message>
-        <source>%1 more broken rows, left out</source>
-        <translation>meer kapotte rijen, weggelaten: %1</translation>
-    </message>
-    <message>
-        <source>%1 more rows at times that the clock skips, left out</source>
-        <translation>meer rijen op tijdstippen die de klok overslaat, weggelaten: %1</translation>
-    </message>
-    <message>
-        <source>%1 more values that contradict earlier ones, left out</source>
-        <translation>meer waarden die eerdere tegenspreken, weggelaten: %1</translation>
-    </message>
-    <message>
-        <source>%1 more readings that do not fit in</source>
-        <translation>meer standen die niet passen: %1</translation>
-    </message>
-    <message>
-        <source>%1 more problems</source>
-        <translation>meer problemen: %1</translation>
     </message>
     <message>
         <source>there is no column but &quot;%1&quot;</source>
@@ -456,6 +862,201 @@
     <message>
         <source>is of the time zone %1; its readings are shown by the clock in %2</source>
         <translation>is van de tijdzone %1; de meterstanden staan op de klok van %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more broken rows, left out</source>
+        <translation>
+            <numerusform>nog %n kapotte rij, weggelaten</numerusform>
+            <numerusform>nog %n kapotte rijen, weggelaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more rows at times that the clock skips, left out</source>
+        <translation>
+            <numerusform>nog %n rij op een tijdstip dat de klok overslaat, weggelaten</numerusform>
+            <numerusform>nog %n rijen op tijdstippen die de klok overslaat, weggelaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more values that contradict earlier ones, left out</source>
+        <translation>
+            <numerusform>nog %n waarde die een eerdere tegenspreekt, weggelaten</numerusform>
+            <numerusform>nog %n waarden die eerdere tegenspreken, weggelaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more readings that do not fit in</source>
+        <translation>
+            <numerusform>nog %n stand die niet past</numerusform>
+            <numerusform>nog %n standen die niet passen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more problems</source>
+        <translation>
+            <numerusform>nog %n probleem</numerusform>
+            <numerusform>nog %n problemen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>nooit</source>
+        <translation>nooit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minuten</source>
+        <translation>
+            <numerusform>%n minuut</numerusform>
+            <numerusform>%n minuten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Enkel tarief</source>
+        <translation>Enkel tarief</translation>
+    </message>
+    <message>
+        <source>Dag en nacht</source>
+        <translation>Dag en nacht</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Dit scherm leest de meters in huis en bewaart wat het leest alleen in zijn eigen geheugen. Het stuurt niets naar buiten en heeft geen account nodig.&lt;/p&gt;&lt;p&gt;De naam van het huis, de prijs, het tarief en het doel staan in een bestand op dit scherm. Met &lt;b&gt;Alles wissen&lt;/b&gt; op de pagina met instellingen verdwijnt alles wat hier is ingevoerd.&lt;/p&gt;&lt;p&gt;Wat de meters telden staat in een tweede bestand, zodat de grafieken er na het uitzetten nog zijn: de standen van elk uur voorgoed, die van elke vijf minuten honderd dagen lang. Alles wissen laat ze staan. Het bestand heet history.sqlite en staat in de map zemkit bij de gegevens van de gebruiker van het scherm.&lt;/p&gt;&lt;p&gt;Wie het scherm verkoopt of weggeeft, wist eerst alle instellingen, zet het scherm uit en gooit dan dat bestand weg. Een nieuwe bewoner begint met een leeg scherm, dat de meters vanaf dat moment volgt.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Dit scherm leest de meters in huis en bewaart wat het leest alleen in zijn eigen geheugen. Het stuurt niets naar buiten en heeft geen account nodig.&lt;/p&gt;&lt;p&gt;De naam van het huis, de prijs, het tarief en het doel staan in een bestand op dit scherm. Met &lt;b&gt;Alles wissen&lt;/b&gt; op de pagina met instellingen verdwijnt alles wat hier is ingevoerd.&lt;/p&gt;&lt;p&gt;Wat de meters telden staat in een tweede bestand, zodat de grafieken er na het uitzetten nog zijn: de standen van elk uur voorgoed, die van elke vijf minuten honderd dagen lang. Alles wissen laat ze staan. Het bestand heet history.sqlite en staat in de map zemkit bij de gegevens van de gebruiker van het scherm.&lt;/p&gt;&lt;p&gt;Wie het scherm verkoopt of weggeeft, wist eerst alle instellingen, zet het scherm uit en gooit dan dat bestand weg. Een nieuwe bewoner begint met een leeg scherm, dat de meters vanaf dat moment volgt.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Instellingen</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>naam van het huis</source>
+        <translation>naam van het huis</translation>
+    </message>
+    <message>
+        <source>prijs van een kWh</source>
+        <translation>prijs van een kWh</translation>
+    </message>
+    <message>
+        <source>tarief</source>
+        <translation>tarief</translation>
+    </message>
+    <message>
+        <source>toetsenbord</source>
+        <translation>toetsenbord</translation>
+    </message>
+    <message>
+        <source>scherm uit na</source>
+        <translation>scherm uit na</translation>
+    </message>
+    <message>
+        <source>scherm &apos;s nachts uit</source>
+        <translation>scherm &apos;s nachts uit</translation>
+    </message>
+    <message>
+        <source>uitleg</source>
+        <translation>uitleg</translation>
+    </message>
+    <message>
+        <source>Wat bewaart dit scherm?</source>
+        <translation>Wat bewaart dit scherm?</translation>
+    </message>
+    <message>
+        <source>Alles wissen</source>
+        <translation>Alles wissen</translation>
+    </message>
+    <message>
+        <source>Naam van het huis</source>
+        <translation>Naam van het huis</translation>
+    </message>
+    <message>
+        <source>De prijzen staan in het contract</source>
+        <translation>De prijzen staan in het contract</translation>
+    </message>
+    <message>
+        <source>Prijs van een kWh in euro</source>
+        <translation>Prijs van een kWh in euro</translation>
+    </message>
+    <message>
+        <source>Een prijs van 0 tot %1 euro</source>
+        <translation>Een prijs van 0 tot %1 euro</translation>
+    </message>
+    <message>
+        <source>Tarief</source>
+        <translation>Tarief</translation>
+    </message>
+    <message>
+        <source>Toetsenbord</source>
+        <translation>Toetsenbord</translation>
+    </message>
+    <message>
+        <source>Scherm uit na</source>
+        <translation>Scherm uit na</translation>
+    </message>
+    <message>
+        <source>vanaf %1 uur</source>
+        <translation>vanaf %1 uur</translation>
+    </message>
+    <message>
+        <source>Scherm &apos;s nachts uit</source>
+        <translation>Scherm &apos;s nachts uit</translation>
+    </message>
+    <message>
+        <source>tot %1 uur</source>
+        <translation>tot %1 uur</translation>
+    </message>
+    <message>
+        <source>Alles wissen?</source>
+        <translation>Alles wissen?</translation>
+    </message>
+    <message>
+        <source>Alle instellingen gaan weg.</source>
+        <translation>Alle instellingen gaan weg.</translation>
+    </message>
+    <message>
+        <source>volgens contract</source>
+        <translation>volgens contract</translation>
+    </message>
+    <message>
+        <source>€ %1</source>
+        <translation>€ %1</translation>
+    </message>
+    <message>
+        <source>H:mm</source>
+        <translation>H:mm</translation>
+    </message>
+    <message>
+        <source>%1 – %2 uur</source>
+        <translation>%1 – %2 uur</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTexts</name>
+    <message>
+        <source>ddd d MMM yyyy</source>
+        <translation>ddd d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, %2 – %3 uur</source>
+        <translation>%1, %2 – %3 uur</translation>
+    </message>
+    <message>
+        <source>week van %1</source>
+        <translation>week van %1</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Standen lezen …</source>
+        <translation>Standen lezen …</translation>
+    </message>
+    <message>
+        <source>Het huis komt tot leven …</source>
+        <translation>Het huis komt tot leven …</translation>
     </message>
 </context>
 </TS>

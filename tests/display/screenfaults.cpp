@@ -170,7 +170,57 @@ bool hasText(const QWidget *widget)
         || qobject_cast<const QwtTextLabel *>(widget);
 }
 
+/** Those of the items that can be seen. */
+QStringList itemTextsOf(const QAbstractItemView *view)
+{
+    QStringList texts;
+    const QAbstractItemModel *model = view->model();
+    for (int row = 0; model && row < model->rowCount(view->rootIndex()); ++row) {
+        for (int column = 0; column < model->columnCount(view->rootIndex()); ++column) {
+            const QModelIndex index = model->index(row, column, view->rootIndex());
+            if (view->viewport()->rect().intersects(view->visualRect(index))) {
+                texts << index.data().toString();
+            }
+        }
+    }
+    return texts;
+}
+
+QStringList headingsOf(const QHeaderView *header)
+{
+    QStringList texts;
+    for (int i = 0; i < header->count(); ++i) {
+        texts << header->model()->headerData(i, header->orientation()).toString();
+    }
+    return texts;
+}
+
 } // namespace
+
+QStringList textsOn(const QWidget *window)
+{
+    QStringList texts;
+    for (const QWidget *widget : seenIn(window)) {
+        if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+            texts << label->text();
+        } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
+            texts << button->text();
+        } else if (const auto *legend = qobject_cast<const QwtTextLabel *>(widget)) {
+            texts << legend->text().text();
+        } else if (const auto *scale = qobject_cast<const QwtScaleWidget *>(widget)) {
+            texts << scale->title().text();
+        } else if (const auto *browser = qobject_cast<const QTextEdit *>(widget)) {
+            texts << browser->toPlainText();
+        } else if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
+            texts << headingsOf(header);
+        } else if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
+            texts << itemTextsOf(view);
+        }
+    }
+    texts.removeDuplicates();
+    texts.removeAll(QString());
+    return texts;
+}
 
 QStringList outside(const QWidget *window)
 {

@@ -8,9 +8,11 @@
 
 class QWidget;
 
-/** What is wrong with the widgets that are seen in @p window, each fault in one line. */
+/** What the widgets say that are seen in @p window, and what is wrong with them, a fault a line. */
 namespace ScreenFaults {
 
+/** What can be read: each text of a widget or an item once. */
+QStringList textsOn(const QWidget *window);
 /** Widgets that stand out of their parents. */
 QStringList outside(const QWidget *window);
 /** Items of one layout that lie over each other. */

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "displayscale.h"
+#include "fullhouse.h"
 #include "pagelook.h"
 #include "playedsource.h"
 #include "screenfaults.h"
@@ -11,8 +12,6 @@
 #include <QLoggingCategory>
 #include <QTest>
 #include <cstdio>
-
-using Readings::Quantity;
 
 namespace {
 
@@ -85,24 +84,10 @@ void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
 void tst_DisplaySizes::initTestCase()
 {
     QVERIFY2(screenSize().isValid(), "DISPLAY_SIZE");
-    PlayedSource full;
-    for (const Quantity quantity :
-         {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction, Quantity::Gas,
-          Quantity::Heating, Quantity::Water}) {
-        full.count(quantity, 60, 1.25);
-    }
-    full.time = QDateTime(QDate(2016, 5, 5), QTime(20, 48), full.readings.timeZone);
-    full.report = PowerReport {-11800.0,
-                               12400.0,
-                               24200.0,
-                               {{Device::HeatPump, 11300.0, 12000.0},
-                                {Device::Car, 11800.0, 12000.0},
-                                {Device::Kitchen, 10800.0, 12000.0},
-                                {Device::Rest, 12400.0, 13000.0}}};
-    full.simulated = true;
+    const FullHouse full;
     look(full, QStringLiteral("full"));
 
-    PlayedSource empty;
+    const PlayedSource empty;
     look(empty, QStringLiteral("empty"));
 }
 

@@ -15,17 +15,19 @@ using Readings::Tariff;
 
 namespace {
 
-QString tr(const char *text)
+/** Translates the names of series. */
+class Texts
 {
-    return QCoreApplication::translate("Energy", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Energy)
+};
 
 /** Adds a series unless nothing was ever counted, as by the export meter of a house without sun. */
 void addSeries(std::vector<EnergySeries> &series, const QString &name, const Household &household,
                Quantity quantity)
 {
     if (household.total(quantity) > 0.0) {
-        series.push_back({name, lookOf(quantity).color, household.metersOf(quantity)});
+        const QuantityLook look = lookOf(quantity);
+        series.push_back({name, look.caption, look.color, household.metersOf(quantity)});
     }
 }
 
@@ -35,9 +37,12 @@ void addImport(std::vector<EnergySeries> &series, const Household &household, bo
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
     const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
-    addSeries(series, tr("Verbruik"), household, Quantity::GridImport);
+    addSeries(series, Texts::tr("Verbruik"), household, Quantity::GridImport);
     if (twoTariffs) {
-        series.push_back({tr("Laag tarief"), ZEMStyle::SkyBlue, {&low->second}});
+        series.push_back({Texts::tr("Laag tarief"),
+                          Texts::tr("laag tarief"),
+                          ZEMStyle::SkyBlue,
+                          {&low->second}});
     }
 }
 
@@ -46,8 +51,8 @@ Energy electricity(const Household &household, bool showTariffs)
     Energy energy {
         QStringLiteral("electricity"), ZEM::TabElectricity, QStringLiteral("kWh"), {}, {}};
     addImport(energy.consumption, household, showTariffs);
-    addSeries(energy.yield, tr("Opwekking"), household, Quantity::SolarProduction);
-    addSeries(energy.yield, tr("Teruglevering"), household, Quantity::GridExport);
+    addSeries(energy.yield, Texts::tr("Opwekking"), household, Quantity::SolarProduction);
+    addSeries(energy.yield, Texts::tr("Teruglevering"), household, Quantity::GridExport);
     return energy;
 }
 
@@ -66,11 +71,12 @@ std::vector<Energy> energiesOf(const Household &household, bool showTariffs)
 {
     std::vector<Energy> all {
         electricity(household, showTariffs),
-        single(QStringLiteral("gas"), ZEM::TabGas, tr("Gas"), household, Quantity::Gas),
-        single(QStringLiteral("heating"), ZEM::TabHeating, tr("Warmte"), household,
+        single(QStringLiteral("gas"), ZEM::TabGas, Texts::tr("Gas"), household, Quantity::Gas),
+        single(QStringLiteral("heating"), ZEM::TabHeating, Texts::tr("Warmte"), household,
                Quantity::Heating),
-        single(QStringLiteral("water"), ZEM::TabWater, tr("Water"), household, Quantity::Water),
-        single(QStringLiteral("solar"), ZEM::TabSolar, tr("Opwekking"), household,
+        single(QStringLiteral("water"), ZEM::TabWater, Texts::tr("Water"), household,
+               Quantity::Water),
+        single(QStringLiteral("solar"), ZEM::TabSolar, Texts::tr("Opwekking"), household,
                Quantity::SolarProduction)};
     const auto isEmpty = [](const Energy &energy) {
         return energy.consumption.empty() && energy.yield.empty();

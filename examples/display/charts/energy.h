@@ -19,6 +19,7 @@ class Household;
 struct EnergySeries
 {
     QString name; ///< in the legend
+    QString caption; ///< amid other words
     ZEMStyle::ZEMColor color = ZEMStyle::White;
     Readings::Calendar::Meters meters; ///< summed up
 };

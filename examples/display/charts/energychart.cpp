@@ -97,7 +97,7 @@ std::vector<EnergyChart::Series> EnergyChart::addSeries(ZEMHistogram *chart,
     for (const EnergySeries &each : allSeries) {
         auto *item = new AmountSeries(each.name, QBrush(style.color(each.color)), false);
         chart->addSeries(item);
-        added.push_back({item, each.meters});
+        added.push_back({item, each.caption, each.meters});
     }
     return added;
 }
@@ -235,11 +235,12 @@ QString EnergyChart::headline(const QString &plain) const
         return plain;
     }
     if (picked) {
-        return tr("%1\n%2").arg(ViewTexts::slotName(period, newestWindow, *picked),
-                                amounts(intervalOf(*picked)));
+        return QStringLiteral("%1\n%2").arg(ViewTexts::slotName(period, newestWindow, *picked),
+                                            amounts(intervalOf(*picked)));
     }
-    return tr("%1\n%2").arg(plain + yearOf(firstInView(), lastInView()),
-                            amounts({intervalOf(firstInView()).from, intervalOf(lastInView()).to}));
+    return QStringLiteral("%1\n%2").arg(
+        plain + yearOf(firstInView(), lastInView()),
+        amounts({intervalOf(firstInView()).from, intervalOf(lastInView()).to}));
 }
 
 /** The headlines of the library are without a year, and that of a year is nothing else. */
@@ -264,8 +265,7 @@ QString EnergyChart::amounts(const Readings::Interval &interval) const
     QString texts = amountOf(upper.series.front());
     if (!lower.series.empty()) {
         const Series &yield = lower.series.front();
-        texts +=
-            QStringLiteral(", %1 %2").arg(yield.item->title().text().toLower(), amountOf(yield));
+        texts += QStringLiteral(", %1 %2").arg(yield.caption, amountOf(yield));
     }
     return texts;
 }

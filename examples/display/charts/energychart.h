@@ -7,7 +7,6 @@
 #include "chartvalues.h"
 #include "energy.h"
 
-#include <QCoreApplication>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -25,8 +24,6 @@ class AmountSeries;
  */
 class EnergyChart
 {
-    Q_DECLARE_TR_FUNCTIONS(EnergyChart)
-
 public:
     /** The meters of @p energy must outlive the chart, and it must outlive its widget(). */
     EnergyChart(const Energy &energy, Period period);
@@ -48,6 +45,7 @@ private:
     struct Series
     {
         AmountSeries *item;
+        QString caption;
         Readings::Calendar::Meters meters;
     };
 

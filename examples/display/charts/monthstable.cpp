@@ -123,7 +123,7 @@ QVariant MonthsTable::data(const QModelIndex &index, int role) const
     }
     const Row &row = rows.at(std::size_t(index.row()));
     if (isMonth) {
-        return QLocale().toString(row.month, QStringLiteral("MMM yyyy"));
+        return QLocale().toString(row.month, tr("MMM yyyy"));
     }
     return row.cells.at(index.column() - 1);
 }

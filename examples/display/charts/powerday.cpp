@@ -23,6 +23,12 @@ using Readings::Quantity;
 
 namespace {
 
+/** Translates the names of curves. */
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PowerDay)
+};
+
 constexpr qint64 secondsPerMinute = 60;
 constexpr qint64 secondsPerHour = 3600;
 constexpr std::size_t minutesPerHour = 60;
@@ -185,18 +191,17 @@ std::vector<double> hourlyMeans(const std::vector<double> &minutes)
 
 QString nameOf(PowerKind kind)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("PowerDay", text); };
     switch (kind) {
     case PowerKind::Consumption:
-        return tr("verbruik");
+        return Texts::tr("verbruik");
     case PowerKind::Production:
-        return tr("opwekking");
+        return Texts::tr("opwekking");
     case PowerKind::GridImport:
-        return tr("van het net");
+        return Texts::tr("van het net");
     case PowerKind::GridExport:
         break;
     }
-    return tr("naar het net");
+    return Texts::tr("naar het net");
 }
 
 bool PowerDay::isEmpty() const

@@ -11,17 +11,18 @@
 
 namespace {
 
+/** Translates what charts say. */
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ViewTexts)
+};
+
 constexpr double centsPerEuro = 100.0;
 constexpr double manyDigits = 9.995; // from here on one decimal tells enough
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ViewTexts", text);
-}
-
 QString dayText(const QDate &date)
 {
-    return QLocale().toString(date, QStringLiteral("ddd d MMM yyyy"));
+    return QLocale().toString(date, Texts::tr("ddd d MMM yyyy"));
 }
 
 } // namespace
@@ -34,12 +35,12 @@ QString slotName(Period period, const QDate &newestWindow, int slot)
     switch (period) {
     case Period::Day: {
         const int hour = hourOfSlot(slot);
-        return tr("%1, %2 – %3 uur").arg(dayText(date)).arg(hour).arg(hour + 1);
+        return Texts::tr("%1, %2 – %3 uur").arg(dayText(date)).arg(hour).arg(hour + 1);
     }
     case Period::Week:
         return dayText(date);
     case Period::Month:
-        return tr("week van %1").arg(QLocale().toString(date, QStringLiteral("d MMM yyyy")));
+        return Texts::tr("week van %1").arg(QLocale().toString(date, Texts::tr("d MMM yyyy")));
     case Period::Year:
         break;
     }

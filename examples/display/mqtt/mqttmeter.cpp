@@ -144,8 +144,7 @@ void MqttMeter::tellUnreadable()
 {
     told = readings.unreadableCount();
     tell(told == 1 ? tr("a message cannot be read: %1").arg(readings.lastUnreadable())
-                   : tr("%1 messages cannot be read, the last one: %2")
-                         .arg(told)
+                   : tr("%n messages cannot be read, the last one: %1", nullptr, told)
                          .arg(readings.lastUnreadable()),
          QStringLiteral("message"));
 }

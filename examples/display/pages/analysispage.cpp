@@ -184,7 +184,7 @@ void AnalysisPage::readDay()
     isRead = true;
     isKnown = !day.isEmpty();
     powerPlot->showDay(day);
-    dateLabel->setText(QLocale().toString(shownDate, QStringLiteral("ddd d MMMM yyyy")));
+    dateLabel->setText(QLocale().toString(shownDate, tr("ddd d MMMM yyyy")));
     previousDay->setEnabled(shownDate > dates.first);
     nextDay->setEnabled(shownDate < dates.last);
     showLegend(day);

@@ -174,9 +174,8 @@ QWidget *DisplayPage::makePowerTile()
 
 QString DisplayPage::dayName(const QDate &date) const
 {
-    return date == shownSource.now().date()
-        ? tr("vandaag")
-        : QLocale().toString(date, QStringLiteral("d MMM yyyy"));
+    return date == shownSource.now().date() ? tr("vandaag")
+                                            : QLocale().toString(date, tr("d MMM yyyy"));
 }
 
 void DisplayPage::showNow()
@@ -195,7 +194,7 @@ QStringList DisplayPage::timeTexts(const QDateTime &now) const
 {
     const QLocale locale;
     // Beside the long names of days and months there is no room for more.
-    const QString inShort = QStringLiteral("ddd d MMM yyyy, HH:mm");
+    const QString inShort = tr("ddd d MMM yyyy, HH:mm");
     const std::optional<qint64> last =
         shownSource.isLive() ? std::nullopt : shownSource.household().lastInstant();
     if (last) {
@@ -203,18 +202,17 @@ QStringList DisplayPage::timeTexts(const QDateTime &now) const
             QDateTime::fromSecsSinceEpoch(*last, shownSource.household().timeZone);
         const QString text = tr("stand van %1");
         return {text.arg(locale.toString(then, inShort)),
-                text.arg(locale.toString(then, QStringLiteral("d MMM yyyy"))),
-                text.arg(locale.toString(then, QStringLiteral("d-M-yyyy")))};
+                text.arg(locale.toString(then, tr("d MMM yyyy"))),
+                text.arg(locale.toString(then, tr("d-M-yyyy")))};
     }
     if (shownSource.isSimulated()) {
         const QString text = tr("simulatie, %1");
         return {text.arg(locale.toString(now, inShort)),
-                text.arg(locale.toString(now, QStringLiteral("d MMM, HH:mm"))),
-                text.arg(locale.toString(now, QStringLiteral("HH:mm")))};
+                text.arg(locale.toString(now, tr("d MMM, HH:mm"))),
+                text.arg(locale.toString(now, tr("HH:mm")))};
     }
-    return {locale.toString(now, QStringLiteral("dddd d MMMM yyyy, HH:mm")),
-            locale.toString(now, inShort),
-            locale.toString(now, QStringLiteral("ddd d MMM, HH:mm"))};
+    return {locale.toString(now, tr("dddd d MMMM yyyy, HH:mm")), locale.toString(now, inShort),
+            locale.toString(now, tr("ddd d MMM, HH:mm"))};
 }
 
 /** The width between the buttons of the header. */

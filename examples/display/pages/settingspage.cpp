@@ -29,8 +29,7 @@ constexpr int nightEnds[] = {5, 6, 7, 8, 9, 10};
 QString standbyName(int minutes)
 {
     return minutes == 0 ? SettingsPage::tr("nooit")
-        : minutes == 1  ? SettingsPage::tr("1 minuut")
-                        : SettingsPage::tr("%1 minuten").arg(minutes);
+                        : SettingsPage::tr("%n minuten", nullptr, minutes);
 }
 
 QStringList contractNames()
@@ -232,14 +231,14 @@ void SettingsPage::refresh()
     const QString name = settings->houseName();
     houseName->setText(name.isEmpty() ? QStringLiteral("–")
                                       : PageLook::elided(name, houseName, fieldRoom));
-    price->setText(isPricedByContract ? tr("volgens contract")
-                                      : QStringLiteral("€ %1").arg(QLocale().toString(
-                                          settings->price(), 'f', priceDecimals)));
+    price->setText(isPricedByContract
+                       ? tr("volgens contract")
+                       : tr("€ %1").arg(QLocale().toString(settings->price(), 'f', priceDecimals)));
     contract->setText(contractNames().at(int(settings->contract())));
     keyboard->setText(languageName(settings->keyboardLanguage()));
     const StandbyRule rule = settings->standby();
     standby->setText(standbyName(rule.after));
-    const QString time = QStringLiteral("H:mm");
+    const QString time = tr("H:mm");
     night->setText(
         rule.nightFrom == rule.nightTo
             ? tr("nooit")

@@ -14,23 +14,25 @@ namespace {
 constexpr int longestQuotation = 60;
 constexpr int afterLastLine = std::numeric_limits<int>::max();
 
-QString moreOf(ProblemList::Kind kind)
+QString moreOf(ProblemList::Kind kind, int count)
 {
     switch (kind) {
     case ProblemList::Kind::File:
         break;
     case ProblemList::Kind::BrokenRow:
-        return QCoreApplication::translate("Readings", "%1 more broken rows, left out");
+        return QCoreApplication::translate("Readings", "%n more broken rows, left out", nullptr,
+                                           count);
     case ProblemList::Kind::SkippedTime:
-        return QCoreApplication::translate("Readings",
-                                           "%1 more rows at times that the clock skips, left out");
+        return QCoreApplication::translate(
+            "Readings", "%n more rows at times that the clock skips, left out", nullptr, count);
     case ProblemList::Kind::Contradiction:
-        return QCoreApplication::translate("Readings",
-                                           "%1 more values that contradict earlier ones, left out");
+        return QCoreApplication::translate(
+            "Readings", "%n more values that contradict earlier ones, left out", nullptr, count);
     case ProblemList::Kind::WrongReading:
-        return QCoreApplication::translate("Readings", "%1 more readings that do not fit in");
+        return QCoreApplication::translate("Readings", "%n more readings that do not fit in",
+                                           nullptr, count);
     }
-    return QCoreApplication::translate("Readings", "%1 more problems");
+    return QCoreApplication::translate("Readings", "%n more problems", nullptr, count);
 }
 
 } // namespace
@@ -55,8 +57,7 @@ QStringList ProblemList::lines() const
     for (const auto &entry : counts) {
         const int untold = entry.second - toldPerKind;
         if (entry.first.second != Kind::File && untold > 0) {
-            all.push_back(
-                {entry.first.first, afterLastLine, moreOf(entry.first.second).arg(untold)});
+            all.push_back({entry.first.first, afterLastLine, moreOf(entry.first.second, untold)});
         }
     }
     std::stable_sort(all.begin(), all.end(), [](const Problem &left, const Problem &right) {

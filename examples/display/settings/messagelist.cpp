@@ -10,7 +10,7 @@ namespace {
 
 QString timeText(const QDateTime &when)
 {
-    return QLocale().toString(when, QStringLiteral("d MMM HH:mm"));
+    return QLocale().toString(when, MessageList::tr("d MMM HH:mm"));
 }
 
 } // namespace
@@ -35,8 +35,7 @@ QString MessageList::wholeText(int row) const
 {
     const Message &message = messages.at(std::size_t(row));
     const QString when = message.count > 1
-        ? tr("%1 keer, van %2 tot %3")
-              .arg(message.count)
+        ? tr("%n keer, van %1 tot %2", nullptr, message.count)
               .arg(timeText(message.first), timeText(message.last))
         : timeText(message.last);
     return QStringLiteral("<p>%1</p><p>%2</p>").arg(message.text.toHtmlEscaped(), when);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double mostOfCar = 11000.0; // watts
 constexpr qint64 mostAhead = 600; // seconds that clocks may differ
+constexpr qint64 secondsPerMinute = 60;
 
 P1Recorder::Listener listenerOf(HistoryKeeper *keeper)
 {
@@ -132,9 +133,9 @@ void MeterSource::compareClocks(qint64 toldTime)
     const qint64 ahead = toldTime - QDateTime::currentSecsSinceEpoch();
     const bool wasAhead = std::exchange(isClockAhead, ahead > mostAhead);
     if (isClockAhead && !wasAhead) {
-        Q_EMIT problem(tr("the clock of the meter is %1 minutes ahead of that of the display; bars "
-                          "stand where the meter's clock has them")
-                           .arg(ahead / 60),
+        Q_EMIT problem(tr("the clock of the meter is %n minutes ahead of that of the display; bars "
+                          "stand where the meter's clock has them",
+                          nullptr, int(ahead / secondsPerMinute)),
                        QStringLiteral("clock"));
     }
 }
