@@ -214,6 +214,9 @@ int transfer(const Options &options, int argc, char *argv[])
 int show(const Options &options, EnergySource *source, const QSize &pageSize)
 {
     DisplaySettings settings;
+    if (KeyboardFiles::languagesIn(keyboardDirectory()).contains(options.language)) {
+        settings.setUsualKeyboard(options.language);
+    }
     DisplayWindow display(*source, &settings, keyboardDirectory());
     if (options.costs) {
         // The command line was told of the files in its own language.
@@ -282,7 +285,7 @@ int main(int argc, char *argv[])
     const QSize pageSize = DisplayScale::pageSizeOn(screen);
     const QApplication application(argc, argv);
     nameApplication();
-    Language::speakDutch();
+    Language::speak(options.language);
     setLook();
 
     for (const QString &line : missingFonts()) {

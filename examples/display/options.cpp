@@ -7,6 +7,7 @@
 #include "displayscale.h"
 #include "historykeeper.h"
 #include "houseclock.h"
+#include "language.h"
 #include "mqttoptions.h"
 #include "p1source.h"
 
@@ -149,6 +150,12 @@ private:
                        "manager."),
         QStringLiteral("WxH")};
     const QCommandLineOption page;
+    const QCommandLineOption language {
+        QStringLiteral("language"),
+        QStringLiteral("Speak %1: pages, messages, dates and numbers; Dutch unless given. The "
+                       "on-screen keyboard is of that language too, until another one is chosen.")
+            .arg(Language::all().join(QStringLiteral(", "))),
+        QStringLiteral("LANGUAGE"), QStringLiteral("nl")};
     const QCommandLineOption screenshots {
         QStringLiteral("screenshots"),
         QStringLiteral("Write each page and each chart as a PNG to this directory, and end."),
@@ -167,8 +174,8 @@ CommandLine::CommandLine(const QStringList &pages)
     parser.addOptions({help, version, readings, meter});
     parser.addOptions(mqtt.all());
     parser.addOptions(costOptions.all());
-    parser.addOptions(
-        {importFiles, exportFile, exportMonths, data, noHistory, speed, size, page, screenshots});
+    parser.addOptions({importFiles, exportFile, exportMonths, data, noHistory, speed, size, page,
+                       language, screenshots});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("More files of --readings or --import."),
                                  QStringLiteral("[FILE...]"));
@@ -219,6 +226,10 @@ QString CommandLine::problem(const QStringList &pages) const
         return QStringLiteral("no page '%1'; there is %2")
             .arg(parser.value(page), pages.join(QStringLiteral(", ")));
     }
+    if (!Language::all().contains(parser.value(language))) {
+        return QStringLiteral("no language '%1'; there is %2")
+            .arg(parser.value(language), Language::all().join(QStringLiteral(", ")));
+    }
     for (const QString &wrong : {clashIn(parser), missingValue()}) {
         if (!wrong.isEmpty()) {
             return wrong;
@@ -267,6 +278,7 @@ Options CommandLine::options() const
     options.exportMonthsTo = parser.value(exportMonths);
     options.size = DisplayScale::parseSize(parser.value(size));
     options.page = parser.value(page);
+    options.language = parser.value(language);
     options.screenshots = parser.value(screenshots);
     return options;
 }

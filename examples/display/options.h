@@ -36,6 +36,7 @@ struct Options
     QString screenshots; ///< directory for the pictures of all pages; empty: show the display
     std::optional<QSize> size; ///< of the display in pixels; empty: of its own choice
     QString page; ///< the page to open; empty: the first
+    QString language; ///< of the pages and messages: "nl"
 };
 
 /**

@@ -170,20 +170,20 @@ bool hasText(const QWidget *widget)
         || qobject_cast<const QwtTextLabel *>(widget);
 }
 
-/** Those of the items that can be seen. */
-QStringList itemTextsOf(const QAbstractItemView *view)
+/** Items that can be seen. */
+QModelIndexList itemsOf(const QAbstractItemView *view)
 {
-    QStringList texts;
+    QModelIndexList items;
     const QAbstractItemModel *model = view->model();
     for (int row = 0; model && row < model->rowCount(view->rootIndex()); ++row) {
         for (int column = 0; column < model->columnCount(view->rootIndex()); ++column) {
             const QModelIndex index = model->index(row, column, view->rootIndex());
             if (view->viewport()->rect().intersects(view->visualRect(index))) {
-                texts << index.data().toString();
+                items << index;
             }
         }
     }
-    return texts;
+    return items;
 }
 
 QStringList headingsOf(const QHeaderView *header)
@@ -214,7 +214,9 @@ QStringList textsOn(const QWidget *window)
         } else if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
             texts << headingsOf(header);
         } else if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
-            texts << itemTextsOf(view);
+            for (const QModelIndex &item : itemsOf(view)) {
+                texts << item.data().toString();
+            }
         }
     }
     texts.removeDuplicates();
@@ -300,6 +302,33 @@ QStringList cutTexts(const QWidget *window)
         if (!text.isEmpty() && (needed.width() > room.width() || needed.height() > room.height())) {
             faults << QStringLiteral("%1: '%2' needs %3, has %4")
                           .arg(nameOf(widget), text, sizeText(needed), sizeText(room));
+        }
+    }
+    return faults;
+}
+
+QStringList elidedTexts(const QWidget *window)
+{
+    QStringList faults;
+    for (const QString &text : textsOn(window)) {
+        if (text.endsWith(QChar(0x2026))) {
+            faults << QStringLiteral("'%1' is cut").arg(text);
+        }
+    }
+    for (const QWidget *widget : seenIn(window)) {
+        const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+        if (!view || qobject_cast<const QHeaderView *>(view)) {
+            continue;
+        }
+        for (const QModelIndex &item : itemsOf(view)) {
+            const int needed = QFontMetrics(view->font()).horizontalAdvance(item.data().toString());
+            const int room = std::min(view->visualRect(item).width(), view->viewport()->width());
+            if (needed > room) {
+                faults << QStringLiteral("%1: '%2' needs %3, has %4")
+                              .arg(nameOf(view), item.data().toString())
+                              .arg(needed)
+                              .arg(room);
+            }
         }
     }
     return faults;

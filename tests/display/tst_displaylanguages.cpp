@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "fullhouse.h"
+#include "language.h"
 #include "pagelook.h"
 #include "playedsource.h"
 #include "screenfaults.h"
 #include "screenshots.h"
+#include "yearhistogram.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -13,6 +15,9 @@
 #include <QTest>
 #include <QTranslator>
 #include <cstdio>
+#include <qwt_plot.h>
+#include <qwt_scale_draw.h>
+#include <qwt_text.h>
 
 namespace {
 
@@ -55,6 +60,13 @@ class tst_DisplayLanguages : public QObject
 
 private Q_SLOTS:
     void everyTextCanBeTranslated();
+    void monthsAreToldApart_data() { addLanguages(); }
+    void monthsAreToldApart();
+    void textsFit_data() { addLanguages(); }
+    void textsFit();
+
+private:
+    static void addLanguages();
 };
 
 void tst_DisplayLanguages::everyTextCanBeTranslated()
@@ -77,6 +89,47 @@ void tst_DisplayLanguages::everyTextCanBeTranslated()
         }
     });
     faults.removeDuplicates();
+    expectNone(faults);
+}
+
+void tst_DisplayLanguages::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : Language::all()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void tst_DisplayLanguages::monthsAreToldApart()
+{
+    QFETCH(QString, language);
+    Language::speak(language);
+    YearHistogram chart;
+    chart.init();
+    const QwtScaleDraw *scale = chart.findChild<QwtPlot *>()->axisScaleDraw(QwtPlot::xBottom);
+    QStringList months;
+    for (int month = 0; month < 12; ++month) {
+        months << scale->label(month + 0.5).text();
+    }
+    QCOMPARE(QStringList(months).removeDuplicates(), 0);
+    QVERIFY2(!months.join(QString()).contains(QLatin1Char('.')), qPrintable(months.join(u' ')));
+}
+
+void tst_DisplayLanguages::textsFit()
+{
+    QFETCH(QString, language);
+    Language::speak(language);
+    const FullHouse source;
+    PlayedDisplay display(source);
+    QVERIFY(display.show());
+    QStringList faults;
+    visitScreens(&display.window, [&](const QString &name) {
+        const QWidget *window = &display.window;
+        for (const QString &fault : ScreenFaults::outside(window) + ScreenFaults::overlaps(window)
+                 + ScreenFaults::cutTexts(window) + ScreenFaults::elidedTexts(window)) {
+            faults << QStringLiteral("%1, %2: %3").arg(language, name, fault);
+        }
+    });
     expectNone(faults);
 }
 

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void version();
     void unknownOption();
     void unknownPage();
+    void unknownLanguage();
     void argumentWithoutOption();
     void badSpeed_data();
     void badSpeed();
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void brokenRowIsNamedAndTheRestIsShown();
     void screenshotsOfEveryChart();
     void screenshotsIntoAFile();
+    void languageIsThatOfPagesAndMessages();
     void screenshotsOfASize();
     void badSize_data();
     void badSize();
@@ -105,6 +107,7 @@ void tst_DisplayProgram::help()
                                "--screenshots",
                                "--size",
                                "--page",
+                               "--language",
                                "--help",
                                "--version"}) {
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
@@ -456,6 +459,35 @@ void tst_DisplayProgram::screenshotsOfEveryChart()
     const QImage day(screens + QStringLiteral("/charts-electricity-day.png"));
     const QImage week(screens + QStringLiteral("/charts-electricity-week.png"));
     QVERIFY(day != week);
+}
+
+void tst_DisplayProgram::unknownLanguage()
+{
+    const Result result = run({QStringLiteral("--language"), QStringLiteral("el")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(
+                 QStringLiteral("no language 'el'; there is de, en, es, fr, it, nl, pl, sv")),
+             qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::languageIsThatOfPagesAndMessages()
+{
+    const QString path = writeReadings(QStringLiteral("broken.csv"),
+                                       twoDays() + "2026-03-05T01:00:00+01:00,abc,60\n");
+    const auto screen = [&](const QString &name) {
+        return dir.filePath(name) + QStringLiteral("/settings.png");
+    };
+    for (const QString &language : {QStringLiteral("nl"), QStringLiteral("sv")}) {
+        const Result result =
+            run({QStringLiteral("--readings"), path, QStringLiteral("--language"), language,
+                 QStringLiteral("--screenshots"), dir.filePath(language)});
+        QCOMPARE(result.status, 0);
+        QVERIFY2(result.errors.contains(language == QLatin1String("sv")
+                                            ? QStringLiteral("ogiltigt tal: \"abc\" i kolumnen")
+                                            : QStringLiteral("geen getal: \"abc\" in kolom")),
+                 qPrintable(result.errors));
+    }
+    QVERIFY(QImage(screen(QStringLiteral("nl"))) != QImage(screen(QStringLiteral("sv"))));
 }
 
 void tst_DisplayProgram::screenshotsIntoAFile()

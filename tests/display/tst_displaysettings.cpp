@@ -15,6 +15,7 @@ class tst_DisplaySettings : public QObject
 private Q_SLOTS:
     void defaults();
     void valuesAreKept();
+    void usualKeyboardHoldsUntilOneIsChosen();
     void clear();
     void whatCannotBeWrittenIsSaid();
     void strangeValuesAreDefaults_data();
@@ -61,6 +62,19 @@ void tst_DisplaySettings::valuesAreKept()
     QCOMPARE(settings.standby().after, 10);
     QCOMPARE(settings.standby().nightFrom, QTime(23, 30));
     QCOMPARE(settings.standby().nightTo, QTime(6, 0));
+}
+
+void tst_DisplaySettings::usualKeyboardHoldsUntilOneIsChosen()
+{
+    const QTemporaryDir directory;
+    DisplaySettings settings(directory.filePath(QStringLiteral("display.ini")));
+    settings.setUsualKeyboard(QStringLiteral("pl"));
+    QCOMPARE(settings.keyboardLanguage(), QStringLiteral("pl"));
+    settings.setKeyboardLanguage(QStringLiteral("fr"));
+    settings.setUsualKeyboard(QStringLiteral("de"));
+    QCOMPARE(settings.keyboardLanguage(), QStringLiteral("fr"));
+    settings.clear();
+    QCOMPARE(settings.keyboardLanguage(), QStringLiteral("de"));
 }
 
 void tst_DisplaySettings::clear()

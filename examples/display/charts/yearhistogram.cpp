@@ -41,7 +41,9 @@ public:
     {
         const int slot = int(std::floor(value));
         const int month = slot - yearOf(slot) * monthsPerYear + 1;
-        return QwtText(QLocale().standaloneMonthName(month, QLocale::ShortFormat).left(3));
+        // The names of a year have no room for a full stop.
+        return QwtText(
+            QLocale().standaloneMonthName(month, QLocale::ShortFormat).remove(QLatin1Char('.')));
     }
 };
 

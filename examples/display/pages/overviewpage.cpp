@@ -11,7 +11,9 @@
 #include "quantitylook.h"
 
 #include <QBrush>
+#include <QFontMetrics>
 #include <QGridLayout>
+#include <QLocale>
 #include <QTimeZone>
 #include <QVBoxLayout>
 #include <ZEMButton>
@@ -23,13 +25,40 @@
 #include <ZEMTotalsTodayWidget>
 #include <algorithm>
 #include <cmath>
+#include <qwt_scale_widget.h>
 
 using Readings::Quantity;
 
 namespace {
 
 constexpr int valueSteps = 4; // of the week; the labels would touch with more
+constexpr int dayWidth = 32; // pixels of a day in the tile of the week
+constexpr int dayGap = 3; // pixels between the names of days
+constexpr int leastDaySize = 7; // points
 constexpr double leastLimit = 0.1; // of the value axis, in the unit of the quantity
+
+/** Makes the names of the days smaller until there is a gap between them. */
+void fitDayNames(QwtPlot *plot)
+{
+    QwtScaleWidget *scale = plot->axisWidget(QwtPlot::xBottom);
+    QFont font = scale->font();
+    const auto fits = [&font] {
+        const QFontMetrics metrics(font);
+        const auto widthOf = [&metrics](int day) {
+            return metrics.horizontalAdvance(QLocale().dayName(day, QLocale::ShortFormat));
+        };
+        for (int day = Qt::Monday; day < Qt::Sunday; ++day) {
+            if (widthOf(day) + widthOf(day + 1) > 2 * (dayWidth - dayGap)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    while (!fits() && font.pointSize() > leastDaySize) {
+        font.setPointSize(font.pointSize() - 1);
+    }
+    scale->setFont(font);
+}
 
 /** The dates of the newest window of a chart. */
 DateRange newestOnly(Period period, const QDate &last)
@@ -107,6 +136,7 @@ void OverviewPage::makeWeekButton()
     week = makeSmallChart(chart, Period::Week);
     weekPlot = chart->thePlot();
     weekPlot->setAxisMaxMajor(QwtPlot::yLeft, valueSteps);
+    fitDayNames(weekPlot);
 
     weekButton = new ZEMHistogramButton;
     weekButton->setHistogram(chart);

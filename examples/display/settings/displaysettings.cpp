@@ -78,7 +78,7 @@ void DisplaySettings::setContract(ContractType contract)
 
 QString DisplaySettings::keyboardLanguage() const
 {
-    return file.value(languageKey, QStringLiteral("nl")).toString();
+    return file.value(languageKey, usualKeyboard).toString();
 }
 
 void DisplaySettings::setKeyboardLanguage(const QString &language)

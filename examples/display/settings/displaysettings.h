@@ -44,9 +44,11 @@ public:
     ContractType contract() const;
     void setContract(ContractType contract);
 
-    /** The language of the on-screen keyboard, "nl" by default. */
+    /** The language of the on-screen keyboard, by default the usual one. */
     QString keyboardLanguage() const;
     void setKeyboardLanguage(const QString &language);
+    /** What is meant as long as nobody has chosen a keyboard, "nl" at first; not written. */
+    void setUsualKeyboard(const QString &language) { usualKeyboard = language; }
 
     /** Electricity for a year in kWh, 1 to mostYearGoal; 3500 by default. */
     int yearGoal() const;
@@ -73,6 +75,7 @@ private:
     void write();
 
     QSettings file;
+    QString usualKeyboard = QStringLiteral("nl");
 };
 
 #endif

@@ -4,15 +4,22 @@
 #ifndef LANGUAGE_H
 #define LANGUAGE_H
 
+#include <QString>
+#include <QStringList>
+
 /** The language of the display. */
 namespace Language {
 
+/** Those that there are, as "nl", in the order of their letters. */
+QStringList all();
+
 /**
- * Makes dates and numbers Dutch, as the texts of the pages are, and the messages of all that has no
- * page: readings, meters and history tell in English what is wrong, which a terminal wants. To be
- * called once, with an application, before anything is shown or read.
+ * Makes texts, dates and numbers those of @p language, one of all(): the pages, the library, and
+ * the messages of all that has no page, which are English without, as a terminal wants them. It
+ * holds for what is made or told from now on, in place of the language before. Needs an
+ * application.
  */
-void speakDutch();
+void speak(const QString &language);
 
 } // namespace Language
 
