@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QFontMetrics>
 #include <QLabel>
+#include <QLayout>
 #include <QLocale>
 #include <QTest>
 #include <QTimeZone>
@@ -15,13 +16,25 @@
 #include <ZEMCurrentStatusDetails>
 #include <ZEMCurrentStatusWidget>
 #include <ZEMDialogPopup>
+#include <ZEMDialogShowText>
 #include <ZEMHistogramWidget>
+#include <ZEMLabeledButton>
+#include <ZEMListView>
 #include <ZEMMenuOverlay>
+#include <ZEMMultiLineDialog>
 #include <ZEMPageHeader>
 #include <ZEMPasswordDialog>
+#include <ZEMProfileButton>
+#include <ZEMSimpleListView>
+#include <ZEMSmartDayHistogram>
+#include <ZEMSmartMonthHistogram>
 #include <ZEMTotalsTodayWidget>
 #include <ZEMWeekHistogram>
+#include <ZEMWidgetLabel>
+#include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
 /** The library's texts in each language that it speaks. */
 class tst_Translations : public QObject
@@ -35,8 +48,11 @@ private Q_SLOTS:
     void languageIsFoundByTheLocale_data() { addLanguages(); }
     void languageIsFoundByTheLocale();
     void otherLanguagesStayDutch();
+    void everyTextHasItsWidget();
     void textsFitTheirWidgets_data() { addLanguages(); }
     void textsFitTheirWidgets();
+    void headlinesFitTheirPage_data() { addLanguages(); }
+    void headlinesFitTheirPage();
     void headlineIsInOneLanguage();
 
 private:
@@ -45,6 +61,8 @@ private:
 
     std::unique_ptr<QTranslator> translator;
 };
+
+constexpr QSize screen(640, 480); // pixels, of the display that all is designed for
 
 static int widthOf(const QWidget *widget, const QString &text)
 {
@@ -125,24 +143,65 @@ void tst_Translations::otherLanguagesStayDutch()
              QStringLiteral("totaal vandaag"));
 }
 
+/** A widget of each class whose texts stand on the widget itself. */
+static std::map<QString, std::unique_ptr<QWidget>> makeWidgets(KeyboardFactoryDefault *keyboards)
+{
+    std::map<QString, std::unique_ptr<QWidget>> widgets;
+    const auto add = [&widgets](QWidget *widget) {
+        widgets[QString::fromLatin1(widget->metaObject()->className())].reset(widget);
+    };
+    const auto keyboard = [keyboards] {
+        return keyboards->createKeyboard(KeyboardFactoryDefault::PopupAbove);
+    };
+    add(new ZEMCurrentStatusDetails);
+    add(new ZEMCurrentStatusWidget);
+    add(new ZEMDialogPopup);
+    add(new ZEMDialogShowText);
+    add(new ZEMHistogramWidget);
+    add(new ZEMLabeledButton);
+    add(new ZEMListView);
+    add(new ZEMMenuOverlay);
+    add(new ZEMMultiLineDialog(keyboard()));
+    add(new ZEMPageHeader);
+    add(new ZEMPasswordDialog(keyboard()));
+    add(new ZEMProfileButton);
+    add(new ZEMSimpleListView);
+    add(new ZEMTotalsTodayWidget);
+    add(new ZEMWidgetLabel);
+    return widgets;
+}
+
+void tst_Translations::everyTextHasItsWidget()
+{
+    // The texts of these are headlines, of which another test is.
+    QStringList seen {QStringLiteral("ZEMSmartDayHistogram"), QStringLiteral("ZEMWeekHistogram"),
+                      QStringLiteral("ZEMSmartMonthHistogram"),
+                      QStringLiteral("ZEMSmartWeekHistogram")};
+    KeyboardFactoryDefault keyboards(QStringLiteral(KEYBOARD_DIR), QStringLiteral("nl"));
+    for (const auto &entry : makeWidgets(&keyboards)) {
+        seen << entry.first;
+    }
+    const auto entries =
+        Catalogue::entriesOf(QStringLiteral(PROJECT_DIR "/translations/zemkit_de.ts"));
+    for (const Catalogue::Entry &entry : entries) {
+        const QString context = entry.source.section(QStringLiteral(": "), 0, 0);
+        // "Form" is the title of a window, which is seen nowhere.
+        QVERIFY2(entry.source.endsWith(QStringLiteral(": Form")) || seen.contains(context),
+                 qPrintable(entry.source));
+    }
+}
+
 void tst_Translations::textsFitTheirWidgets()
 {
     QFETCH(QString, locale);
     QVERIFY(speak(locale));
     KeyboardFactoryDefault keyboards(QStringLiteral(KEYBOARD_DIR), QStringLiteral("nl"));
-    std::vector<std::unique_ptr<QWidget>> widgets;
-    widgets.push_back(std::make_unique<ZEMCurrentStatusDetails>());
-    widgets.push_back(std::make_unique<ZEMCurrentStatusWidget>());
-    widgets.push_back(std::make_unique<ZEMDialogPopup>());
-    widgets.push_back(std::make_unique<ZEMHistogramWidget>());
-    widgets.push_back(std::make_unique<ZEMMenuOverlay>());
-    widgets.push_back(std::make_unique<ZEMPageHeader>());
-    widgets.push_back(std::make_unique<ZEMPasswordDialog>(
-        keyboards.createKeyboard(KeyboardFactoryDefault::PopupAbove)));
-    widgets.push_back(std::make_unique<ZEMTotalsTodayWidget>());
-    for (const auto &widget : widgets) {
+    for (const auto &entry : makeWidgets(&keyboards)) {
+        QWidget *widget = entry.second.get();
+        widget->resize(widget->size().boundedTo(screen));
         widget->show();
         QCoreApplication::processEvents();
+        QVERIFY2(widget->width() <= screen.width(), qPrintable(entry.first));
         for (const QLabel *label : widget->findChildren<QLabel *>()) {
             const int room = label->contentsRect().width();
             QVERIFY2(label->wordWrap() || fits(label, label->text(), room),
@@ -151,6 +210,48 @@ void tst_Translations::textsFitTheirWidgets()
         for (const auto *button : widget->findChildren<QAbstractButton *>()) {
             QVERIFY2(fits(button, button->text(), button->width()),
                      qPrintable(inWords(button, button->text(), button->width())));
+        }
+    }
+}
+
+/** Views of a chart: a whole one, and one between two. */
+static std::vector<QwtInterval> viewsOf(double length)
+{
+    return {QwtInterval(0.0, length), QwtInterval(0.5 * length, 1.5 * length)};
+}
+
+void tst_Translations::headlinesFitTheirPage()
+{
+    QFETCH(QString, locale);
+    QVERIFY(speak(locale));
+    ZEMHistogramWidget page;
+    page.setFixedSize(screen);
+    const std::pair<ZEM::ZEMTab, ZEMHistogram *> charts[] = {
+        {ZEM::TabDay, new ZEMSmartDayHistogram},
+        {ZEM::TabWeek, new ZEMWeekHistogram},
+        {ZEM::TabMonth, new ZEMSmartMonthHistogram}};
+    const double lengths[] = {24.0, 7.0, 5.0};
+    page.show();
+    const auto *headline = page.findChild<QLabel *>(QStringLiteral("lblTitle"));
+    int index = 0;
+    for (const auto &[tab, chart] : charts) {
+        chart->init();
+        page.setHistogram(tab, ZEM::TabElectricity, chart);
+        page.selectTab(tab, ZEM::TabElectricity);
+        const double length = lengths[index++];
+        for (int day = 0; day < 366; day += 5) {
+            chart->setDataChangedTimestamp(
+                QDateTime(QDate(2016, 1, 1).addDays(day), QTime(0, 0), Qt::UTC));
+            for (const QwtInterval &view : viewsOf(length)) {
+                chart->updateTitle(view);
+                QCoreApplication::processEvents();
+                QCOMPARE(headline->text(), chart->title());
+                const int room = headline->contentsRect().width();
+                QVERIFY2(fits(headline, headline->text(), room),
+                         qPrintable(inWords(headline, headline->text(), room)));
+                QVERIFY2(page.layout()->minimumSize().width() <= screen.width(),
+                         qPrintable(headline->text()));
+            }
         }
     }
 }
