@@ -76,6 +76,8 @@ ZEMAnimatedArrows::ZEMAnimatedArrows(QWidget *parent)
 {
     setObjectNameFromClass(this, staticMetaObject);
     d->ui.setupUi(this);
+    // Left and right are meant as they are said.
+    setLayoutDirection(Qt::LeftToRight);
 
     d->timeLine.setDirection(QTimeLine::Forward);
     d->timeLine.setUpdateInterval(updateInterval);

@@ -32,6 +32,8 @@
  * @endcode
  * New arrows do not run and are not seen. While they run the three are painted at most 20 times in
  * a second; while they are hidden or stopped nothing is painted, and stopped arrows have no timer.
+ *
+ * Left and right stay what they are where the application is laid out from right to left.
  */
 class ZEM_EXPORT ZEMAnimatedArrows : public QWidget
 {

@@ -70,6 +70,11 @@ ZEMCurrentStatusDetails::ZEMCurrentStatusDetails(QWidget *parent)
     setLineColor(d->ui.line);
     d->consumptionLayout = makeRow(d->ui.widgetConsumption);
     d->ui.lblConsumptionValue->setAlignment(Qt::AlignCenter);
+    // A unit follows its number.
+    for (QLabel *value :
+         {d->ui.lblConsumptionValue, d->ui.lblProductionValue, d->ui.lblPowerGridValue}) {
+        value->setLayoutDirection(Qt::LeftToRight);
+    }
     d->productionLayout = makeRow(d->ui.widgetProduction);
     d->totalsLayout = makeRow(d->ui.widgetTotals);
     updateUI();

@@ -24,6 +24,8 @@ ZEMCurrentStatusDetailsItem::ZEMCurrentStatusDetailsItem(QWidget *parent)
 {
     setObjectNameFromClass(this, staticMetaObject);
     d->ui.setupUi(this);
+    // The arrows point at the pictures beside them.
+    setLayoutDirection(Qt::LeftToRight);
     d->ui.arrows->hide();
     d->ui.arrows->setSize(ZEMAnimatedArrows::Small);
     setValue(0.0);

@@ -36,6 +36,9 @@
  * @endcode
  * Without arrows and icons of its own, which is how it is new, an item is a number, in 11 point
  * "Cabin", a font of the host's; see ZEMStyle::setApplicationFonts().
+ *
+ * Its parts keep their order where the application is laid out from right to left; the panel puts
+ * the items in the order of the application.
  */
 class ZEM_EXPORT ZEMCurrentStatusDetailsItem : public QWidget
 {

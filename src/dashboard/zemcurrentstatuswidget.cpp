@@ -57,6 +57,8 @@ ZEMCurrentStatusWidget::ZEMCurrentStatusWidget(QWidget *parent)
     d->ui.arrowsPowerGrid->setSize(ZEMAnimatedArrows::Normal);
     // A touch on a picture means the button beneath.
     d->ui.widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // The arrows point at the pictures beside them.
+    d->ui.widget->setLayoutDirection(Qt::LeftToRight);
     d->updateUI();
 }
 

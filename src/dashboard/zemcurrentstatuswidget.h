@@ -35,6 +35,8 @@
  * pixels, which a layout does not stretch; there its height follows that of the title, and is 175
  * pixels in "Cabin". The fonts are the host's, see ZEMStyle::setApplicationFonts(); the title has
  * the colour of QPalette::WindowText, the powers are white.
+ *
+ * Panels, house and pylon stay in this order where the application is laid out from right to left.
  */
 class ZEM_EXPORT ZEMCurrentStatusWidget : public ZEMLabeledButton
 {

@@ -319,6 +319,8 @@ ZEMVirtualKeyboard::ZEMVirtualKeyboard(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
     setObjectNameFromClass(this, staticMetaObject);
+    // Keys lie as on any keyboard of the language, whichever way its texts run.
+    setLayoutDirection(Qt::LeftToRight);
     auto *layout = new QHBoxLayout(this);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -81,6 +81,8 @@ class ZEMVirtualKey;
  * </keyboard>
  * @endcode
  * Escapes in @c value are resolved a second time after XML has done so; thus "&amp;amp;lt;" is "<".
+ *
+ * The rows of keys stay as they are where the application is laid out from right to left.
  */
 class ZEM_EXPORT ZEMVirtualKeyboard : public QWidget
 {

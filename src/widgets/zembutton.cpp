@@ -143,6 +143,8 @@ void ZEMButton::paintEvent(QPaintEvent *event)
         sharpIcon(icon()).paint(&painter, rect(), Qt::AlignCenter, look.mode, look.state);
     }
     if (!text().isEmpty()) {
+        // A painter has the direction of the application, whatever that of the widget is.
+        painter.setLayoutDirection(layoutDirection());
         painter.setPen(palette().color(ButtonPainting::textGroup(state), QPalette::ButtonText));
         painter.drawText(rect(), Qt::AlignCenter, text());
     }

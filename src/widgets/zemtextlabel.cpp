@@ -52,6 +52,8 @@ void ZEMTextLabel::paintEvent(QPaintEvent *event)
 void ZEMTextLabel::drawShadowLabel(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
+    // A painter has the direction of the application, whatever that of the widget is.
+    painter.setLayoutDirection(layoutDirection());
     painter.setFont(font());
 
     const int xWidth = QFontMetrics(font()).horizontalAdvance(QLatin1Char('x'));

@@ -153,6 +153,8 @@ ZEMHistogram::ZEMHistogram(QWidget *parent)
       d(new Private(this))
 {
     d->plotWidget = plot;
+    // Time runs to the right.
+    setLayoutDirection(Qt::LeftToRight);
     setObjectNameFromClass(this, staticMetaObject);
     resize(firstSize);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);

@@ -67,6 +67,8 @@ class ZEMHistogramSeries;
  * A chart, its child and its parent may be deleted in a slot of any signal of theirs.
  *
  * The font, "Cabin", is the host's; see ZEMStyle::setApplicationFonts().
+ *
+ * The parts of a chart keep their places where the application is laid out from right to left.
  */
 class ZEM_EXPORT ZEMHistogram : public QWidget
 {

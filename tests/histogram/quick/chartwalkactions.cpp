@@ -185,7 +185,7 @@ Actions pageActions()
          }},
         {"window: direction",
          [](Stage &stage, Random &random) {
-             stage.window->setLayoutDirection(coin(random) ? Qt::RightToLeft : Qt::LeftToRight);
+             stage.chart->setLayoutDirection(coin(random) ? Qt::RightToLeft : Qt::LeftToRight);
          }},
         {"window: disabled",
          [](Stage &stage, Random &random) { stage.chart->setEnabled(coin(random)); }},

@@ -491,7 +491,7 @@ void tst_QuickPaths::changeShowsAtOnce_data()
     QTest::newRow("scale of its own accord")
         << Change([](Stage &stage) { stage.plot()->setAxisAutoScale(QwtPlot::yLeft); });
     QTest::newRow("layout from right to left")
-        << Change([](Stage &stage) { stage.ground.setLayoutDirection(Qt::RightToLeft); });
+        << Change([](Stage &stage) { stage.chart->setLayoutDirection(Qt::RightToLeft); });
     QTest::newRow("labels from right to left") << Change([scale](Stage &stage) {
         QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
         // As a replot of the chart does, before labels of another width lay the plot out.
