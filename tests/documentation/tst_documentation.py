@@ -62,6 +62,11 @@ class Documentation(unittest.TestCase):
                     self.assertTrue(f">{title}</a>" in self.pages["pages.html"])
                     self.assertTrue(f'"page-{path.stem}.html"' in self.pages["documentation.html"])
 
+    def test_no_mark_of_markdown_is_left(self):
+        for name, page in self.pages.items():
+            with self.subTest(page=name):
+                self.assertFalse(re.search(r"`<a [^>]*>\w+</a>`|<a [^>]*>`", page))
+
     def test_no_link_is_dead(self):
         links = 0
         places = {name: set(re.findall(r'(?:id|name)="([^"]+)"', page)) for name, page in self.pages.items()}
