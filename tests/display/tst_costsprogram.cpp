@@ -136,7 +136,9 @@ void tst_CostsProgram::refusals_data()
     QTest::newRow("no contract") << QStringList {"--contract", path("none.json")}
                                  << path("none.json: cannot be opened");
     QTest::newRow("contract that is none")
-        << QStringList {"--contract", path("prices.csv")} << path("prices.csv:1:");
+        << QStringList {"--contract", path("prices.csv")}
+        << path("prices.csv:1:%1: illegal value")
+               .arg(QT_VERSION_MAJOR == 5 ? 1 : 2); // Qt 6 has read it
     QTest::newRow("prices that are none") << contract + QStringList {"--prices", path("house.json")}
                                           << path("house.json:1: the header");
     QTest::newRow("months nowhere")

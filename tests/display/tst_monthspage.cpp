@@ -35,6 +35,7 @@ private Q_SLOTS:
     void uselessPricesLeaveThoseThatWereKnown();
 
 private:
+    static void expectWholeColumns(const QTableView *table);
     static QStringList row(const PlayedDisplay &display, int index)
     {
         const auto *table = display.onPage<QTableView>("table");
@@ -149,6 +150,27 @@ void tst_MonthsPage::pageInViewStays()
     QTRY_COMPARE(firstRow(), 0);
 }
 
+/** Each column has the room that its heading and its longest number want, and all fill the table.
+ */
+void tst_MonthsPage::expectWholeColumns(const QTableView *table)
+{
+    int width = 0;
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+        width += table->columnWidth(column);
+        QVERIFY(table->horizontalHeader()->sectionSizeHint(column) <= table->columnWidth(column));
+        for (int line = 0; line < table->model()->rowCount(); ++line) {
+            const int wanted = table->sizeHintForIndex(table->model()->index(line, column)).width();
+            QVERIFY2(wanted <= table->columnWidth(column),
+                     qPrintable(QStringLiteral("%1, column %2: %3 of %4")
+                                    .arg(line)
+                                    .arg(column)
+                                    .arg(wanted)
+                                    .arg(table->columnWidth(column))));
+        }
+    }
+    QCOMPARE(width, table->viewport()->width());
+}
+
 void tst_MonthsPage::longNumbersAreWhole()
 {
     // A large house, with panels and gas for heating.
@@ -176,30 +198,17 @@ void tst_MonthsPage::longNumbersAreWhole()
     raisePrices();
     display.window.openPage(QStringLiteral("months"));
     PlayedDisplay::tap(button(display));
+    const auto *table = display.onPage<QTableView>("table");
     while (row(display, 13).last().contains(QLatin1Char(',')) && dearness < 1000) {
+        expectWholeColumns(table); // with their cents
         dearness *= 10;
         raisePrices();
     }
-    const auto *table = display.onPage<QTableView>("table");
     // The last row, which is not in view, is the longest.
     const QLocale dutch(QLocale::Dutch);
     QCOMPARE(row(display, 14).at(3), QStringLiteral("≥ %1").arg(dutch.toString(2700 * dearness)));
     QCOMPARE(row(display, 13).last(), dutch.toString(3692 * dearness));
-    int width = 0;
-    for (int column = 0; column < table->model()->columnCount(); ++column) {
-        width += table->columnWidth(column);
-        QVERIFY(table->horizontalHeader()->sectionSizeHint(column) <= table->columnWidth(column));
-        for (int line = 0; line < table->model()->rowCount(); ++line) {
-            const int wanted = table->sizeHintForIndex(table->model()->index(line, column)).width();
-            QVERIFY2(wanted <= table->columnWidth(column),
-                     qPrintable(QStringLiteral("%1, column %2: %3 of %4")
-                                    .arg(line)
-                                    .arg(column)
-                                    .arg(wanted)
-                                    .arg(table->columnWidth(column))));
-        }
-    }
-    QCOMPARE(width, table->viewport()->width());
+    expectWholeColumns(table);
 }
 
 void tst_MonthsPage::costsFollowTheMeter()

@@ -82,7 +82,8 @@ void tst_GallerySharpness::showsTheSame()
     const Shown page(name);
     const QImage plain = page.at(1.0);
     constexpr double seen = 12.0; // shades, in the mean of a tile
-    const QImage shifted = plain.copy(plain.rect().translated(4, 0));
+    constexpr int shift = QT_VERSION_MAJOR == 5 ? 3 : 4; // Qt 6 draws letters with less contrast
+    const QImage shifted = plain.copy(plain.rect().translated(shift, 0));
     QVERIFY(Sharpness::displacement(plain, shifted) > seen);
     for (const qreal ratio : {1.25, 1.5, 2.0}) {
         const QImage sharp = page.at(ratio);

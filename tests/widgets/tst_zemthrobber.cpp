@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "formtest.h"
+#include "paintcounter.h"
 #include "widgettest.h"
 #include "zemtest.h"
 
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+#include <functional>
 
 using namespace WidgetTest;
 using ZemTest::render;
@@ -94,6 +96,7 @@ private Q_SLOTS:
     void badStrips_data();
     void badStrips();
     void framesArePaintedInTheMiddle();
+    void everyChangeIsPainted();
     void hasNoPicturesWithAShadow();
 
 private:
@@ -311,6 +314,26 @@ void tst_ZEMThrobber::framesArePaintedInTheMiddle()
     const QImage image = render(&throbber);
     QCOMPARE(ZemTest::inkRect(image), QRect(10, 5, 5, 7));
     QCOMPARE(image.pixelColor(12, 8), stripColors.at(0));
+}
+
+void tst_ZEMThrobber::everyChangeIsPainted()
+{
+    ZEMThrobber throbber;
+    throbber.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&throbber, ZemTest::hangs));
+    throbber.pause();
+    QCoreApplication::processEvents();
+    const auto change = [&](const std::function<void()> &action) {
+        const ZemTest::PaintCounter paints(&throbber);
+        action();
+        QTRY_VERIFY(paints.count > 0);
+    };
+    change([&] { tick(&throbber); });
+    change([&] { throbber.setImage(stripPath, 4); });
+    throbber.pause();
+    QCoreApplication::processEvents();
+    change([&] { throbber.stop(); });
+    change([&] { throbber.start(); });
 }
 
 void tst_ZEMThrobber::hasNoPicturesWithAShadow()
