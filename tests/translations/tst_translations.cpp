@@ -241,7 +241,7 @@ void tst_Translations::headlinesFitTheirPage()
         const double length = lengths[index++];
         for (int day = 0; day < 366; day += 5) {
             chart->setDataChangedTimestamp(
-                QDateTime(QDate(2016, 1, 1).addDays(day), QTime(0, 0), Qt::UTC));
+                QDateTime(QDate(2016, 1, 1).addDays(day), QTime(0, 0), QTimeZone::utc()));
             for (const QwtInterval &view : viewsOf(length)) {
                 chart->updateTitle(view);
                 QCoreApplication::processEvents();
