@@ -10,19 +10,17 @@ class QImage;
 
 /**
  * The pictures of the documentation beside those that programs take now. They are taken on Debian
- * 12 with Qt 5 and its fonts, by scripts/pictures; there, each pixel of a picture that is no older
- * than the code is as it is in the file.
+ * 12 with Qt 5, by scripts/pictures. There, each pixel of a picture that is no older than the code
+ * is as it is in the file. Another Debian, Qt or processor draws letters a pixel wider or narrower,
+ * and what stands beside them elsewhere; there, the same things are to be seen in the same colours.
  */
 namespace KeptPictures {
 
-/**
- * Why pictures that are taken here differ from the kept ones: another Debian, Qt or processor draws
- * letters a pixel wider or narrower. Empty where they are alike.
- */
-QString reasonToDiffer();
-
 /** How @p now differs from the picture that is kept in @p file; empty if it does not. */
 QString difference(const QImage &now, const QString &file);
+
+/** How much two pictures have in common, wherever it stands: 1 is all, 0 is nothing. */
+double commonColors(const QImage &one, const QImage &other);
 
 } // namespace KeptPictures
 
