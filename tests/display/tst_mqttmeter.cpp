@@ -82,6 +82,7 @@ private Q_SLOTS:
     void dsmrReader();
     void jsonOfDsmrReader();
     void evcc();
+    void offlineIsTheLastWord();
     void homeAssistant();
     void retainedIsOld();
     void brokerThatGoesAndComes();
@@ -187,6 +188,29 @@ void tst_MqttMeter::evcc()
     publisher.publish("evcc/status", "offline", true);
     ZEM_TRY_VERIFY(!listener.meter.isMetering());
     QCOMPARE(listener.problems, QStringList());
+}
+
+// A value that came just before waits for what belongs to it.
+void tst_MqttMeter::offlineIsTheLastWord()
+{
+    Broker broker;
+    broker.start();
+    Listener listener(settingsOf(broker, "evcc"));
+    listener.meter.start();
+    Publisher publisher(broker);
+    publishUntil([&] { publisher.publish("evcc/site/grid/power", "-800"); },
+                 [&] { return listener.power == -800; });
+    publisher.publish("evcc/site/grid/power", "-900");
+    publisher.publish("evcc/status", "offline");
+    ZEM_TRY_VERIFY(!listener.meter.isMetering());
+    QCOMPARE(listener.power, std::optional<int>(-900));
+    publisher.publish("evcc/site/pvPower", "100");
+    QTest::qWait(1000);
+    QVERIFY(!listener.meter.isMetering());
+    publisher.publish("evcc/status", "online");
+    publisher.publish("evcc/site/grid/power", "-700");
+    ZEM_TRY_VERIFY(listener.meter.isMetering());
+    QCOMPARE(listener.power, std::optional<int>(-700));
 }
 
 void tst_MqttMeter::homeAssistant()

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void retainedPowersWaitForTheirOwn();
     void onlineMakesRetainedCount();
     void offlineEndsEverything();
+    void offlineLosesNothing();
     void unavailableIsNotKnown();
     void unitByTopic();
     void gridOfTheHouse();
@@ -321,6 +322,15 @@ void tst_MqttReadings::offlineEndsEverything()
     tell("evcc/site/grid/power", "400");
     readings->pause(noon);
     QCOMPARE(*lastPower(), 400);
+}
+
+void tst_MqttReadings::offlineLosesNothing()
+{
+    follow(mappingOf("evcc"));
+    tell("evcc/status", "online");
+    tell("evcc/site/grid/power", "500");
+    tell("evcc/status", "offline");
+    QCOMPARE(*lastPower(), 500);
 }
 
 void tst_MqttReadings::unavailableIsNotKnown()

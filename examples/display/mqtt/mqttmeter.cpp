@@ -124,7 +124,8 @@ void MqttMeter::handleTelegram(const P1Telegram &heard, const HousePower &power)
     house = power;
     isGood = true;
     watchdog.start();
-    if (failed) {
+    // What others of its topics tell does not bring back a publisher that says that it is offline.
+    if (failed && readings.isOnline()) {
         failed = false;
         Q_EMIT meteringFailed(false);
     }

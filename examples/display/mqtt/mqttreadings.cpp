@@ -51,7 +51,7 @@ void MqttReadings::take(const MqttMessage &message, qint64 now)
 {
     isNoted = false;
     if (mapping.status && mapping.status->place.topic == message.topic) {
-        takeStatus(message);
+        takeStatus(message, now);
     }
     for (const MqttPlace &place : mapping.times) {
         if (place.topic == message.topic) {
@@ -151,13 +151,14 @@ void MqttReadings::forget()
     withoutTimes = false;
 }
 
-void MqttReadings::takeStatus(const MqttMessage &message)
+void MqttReadings::takeStatus(const MqttMessage &message, qint64 now)
 {
     const MqttAnswer answer = mqttAnswer(message.payload, mapping.status->place.path);
     if (answer.text == mapping.status->online) {
         online = true;
         pending = true;
     } else if (answer.text == mapping.status->offline) {
+        complete(now);
         online = false;
         pending = true;
         for (std::vector<Told> &sources : tellings) {

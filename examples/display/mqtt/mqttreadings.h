@@ -82,7 +82,7 @@ private:
         std::optional<double> watts;
     };
 
-    void takeStatus(const MqttMessage &message);
+    void takeStatus(const MqttMessage &message, qint64 now);
     void takeTime(const MqttPlace &place, const MqttMessage &message, qint64 now);
     void takeValue(const MqttSource &source, Told &told, const MqttMessage &message,
                    bool isRegister);
