@@ -69,9 +69,13 @@ function(zem_program variable target)
     if(CMAKE_CROSSCOMPILING_EMULATOR)
         list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
         set(script "${PROJECT_BINARY_DIR}/tests/emulated/${target}")
-        file(GENERATE OUTPUT "${script}"
-            CONTENT "#!/bin/sh\nexec ${emulator} '${program}' \"$@\"\n"
-            FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+        get_property(is_written GLOBAL PROPERTY "ZEM_EMULATED_${target}")
+        if(NOT is_written)
+            file(GENERATE OUTPUT "${script}"
+                CONTENT "#!/bin/sh\nexec ${emulator} '${program}' \"$@\"\n"
+                FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+            set_property(GLOBAL PROPERTY "ZEM_EMULATED_${target}" TRUE)
+        endif()
         set(program "${script}")
     endif()
     set(${variable} "${program}" PARENT_SCOPE)
