@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QUuid>
 #include <QVariant>
 #include <algorithm>
@@ -38,22 +39,6 @@ bool isDamage(const QSqlError &error)
     return code == corrupt || code == notADatabase || code == plainError;
 }
 
-/** What makes a file of @p version one of the next; 0 is that of an empty file. */
-std::vector<const char *> stepsFrom(int version)
-{
-    // Ordered by time, so that what belongs to one transaction comes to lie in one page.
-    if (version == 0) {
-        return {"CREATE TABLE register (id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE)",
-                "CREATE TABLE reading (instant INTEGER NOT NULL, register INTEGER NOT NULL, "
-                "value INTEGER NOT NULL, PRIMARY KEY (instant, register)) WITHOUT ROWID",
-                "CREATE TABLE state (thinned_until INTEGER NOT NULL)",
-                "INSERT INTO state VALUES (0)"};
-    }
-    return {"CREATE TABLE amount (instant INTEGER NOT NULL, seconds INTEGER NOT NULL, "
-            "register INTEGER NOT NULL, value INTEGER NOT NULL, "
-            "PRIMARY KEY (instant, register, seconds)) WITHOUT ROWID"};
-}
-
 const std::vector<Column> &columns()
 {
     return Readings::profiles().front().columns;
@@ -73,6 +58,85 @@ std::optional<Register> registerNamed(const QString &name)
         std::find_if(columns().cbegin(), columns().cend(),
                      [&](const Column &column) { return name == QLatin1String(column.name); });
     return found == columns().cend() ? std::nullopt : std::optional<Register>(found->meterRegister);
+}
+
+QString quoted(QString name)
+{
+    return QLatin1Char('"') + name.replace(QLatin1Char('"'), QLatin1String("\"\""))
+        + QLatin1Char('"');
+}
+
+qint64 inThousandths(double value)
+{
+    return std::llround(value * thousandths);
+}
+
+double fromThousandths(const QVariant &value)
+{
+    return double(value.toLongLong()) / thousandths;
+}
+
+QStringList newTables()
+{
+    // Ordered by time, so that what belongs to one transaction comes to lie in one page.
+    return {QStringLiteral("CREATE TABLE reading (instant INTEGER PRIMARY KEY)"),
+            QStringLiteral("CREATE TABLE amount (instant INTEGER NOT NULL, seconds INTEGER NOT "
+                           "NULL, PRIMARY KEY (instant, seconds)) WITHOUT ROWID")};
+}
+
+QStringList newColumn(const QString &name)
+{
+    const QString statement = QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 INTEGER");
+    return {statement.arg(QStringLiteral("reading"), quoted(name)),
+            statement.arg(QStringLiteral("amount"), quoted(name))};
+}
+
+/** What makes a file of version 2 one of version 3; @p registers are those of the file, by id. */
+QStringList stepsToColumns(const std::map<int, QString> &registers)
+{
+    QStringList steps {QStringLiteral("ALTER TABLE reading RENAME TO old_reading"),
+                       QStringLiteral("ALTER TABLE amount RENAME TO old_amount")};
+    steps += newTables();
+    QString values;
+    for (const auto &[id, name] : registers) {
+        steps += newColumn(name);
+        values += QStringLiteral(", max(CASE register WHEN %1 THEN value END)").arg(id);
+    }
+    steps << QStringLiteral("INSERT INTO reading SELECT instant%1 FROM old_reading "
+                            "GROUP BY instant")
+                 .arg(values)
+          << QStringLiteral("INSERT INTO amount SELECT instant, seconds%1 FROM old_amount "
+                            "GROUP BY instant, seconds")
+                 .arg(values)
+          << QStringLiteral("DROP TABLE old_reading") << QStringLiteral("DROP TABLE old_amount")
+          << QStringLiteral("DROP TABLE register");
+    return steps;
+}
+
+// What is entered into a column; where the column has a value, it stays.
+QString entering(const KeptReading & /*reading*/)
+{
+    return QStringLiteral("INSERT INTO reading (%1, instant) VALUES (?, ?) ON CONFLICT (instant) "
+                          "DO UPDATE SET %1 = excluded.%1 WHERE %1 IS NULL");
+}
+
+QString entering(const KeptAmount & /*amount*/)
+{
+    return QStringLiteral("INSERT INTO amount (%1, instant, seconds) VALUES (?, ?, ?) ON CONFLICT "
+                          "(instant, seconds) DO UPDATE SET %1 = excluded.%1 WHERE %1 IS NULL");
+}
+
+void bind(const KeptReading &reading, QSqlQuery *query)
+{
+    query->bindValue(0, inThousandths(reading.value));
+    query->bindValue(1, reading.instant);
+}
+
+void bind(const KeptAmount &amount, QSqlQuery *query)
+{
+    query->bindValue(0, inThousandths(amount.amount));
+    query->bindValue(1, amount.interval.to);
+    query->bindValue(2, amount.interval.seconds());
 }
 
 } // namespace
@@ -116,8 +180,12 @@ Trouble HistoryFile::open(const QString &path)
     }
     if (found < version) {
         trouble = inTransaction([this] { return bringUpToDate(); });
+        if (trouble == Trouble::None && found > 0) {
+            // Gives back what the old tables took. Where it fails, what is kept later takes that.
+            execute(QStringLiteral("VACUUM"));
+        }
     }
-    return trouble == Trouble::None ? learnRegisters() : trouble;
+    return trouble == Trouble::None ? learnColumns() : trouble;
 }
 
 void HistoryFile::close()
@@ -128,43 +196,56 @@ void HistoryFile::close()
     database.close();
     database = QSqlDatabase();
     QSqlDatabase::removeDatabase(connection);
-    idOf.clear();
+    columnNames.clear();
 }
 
 Trouble HistoryFile::read(Household *household)
 {
-    std::map<int, Meter *> meters;
-    for (const auto &[meterRegister, id] : idOf) {
-        meters[id] = &household->meter(meterRegister, Meter::Kind::Counter);
+    // Another program may have added some.
+    const Trouble trouble = learnColumns();
+    if (trouble != Trouble::None) {
+        return trouble;
+    }
+    QString names;
+    std::vector<Meter *> meters;
+    for (const QString &name : columnNames) {
+        if (const std::optional<Register> known = registerNamed(name)) {
+            names += QStringLiteral(", ") + name;
+            meters.push_back(&household->meter(*known, Meter::Kind::Counter));
+        }
     }
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT instant, register, value FROM reading"))) {
+    if (!query.exec(QStringLiteral("SELECT instant%1 FROM reading").arg(names))) {
         return fail(query);
     }
     while (query.next()) {
-        const auto meter = meters.find(query.value(1).toInt());
-        if (meter != meters.end()) {
-            meter->second->addReading(query.value(0).toLongLong(),
-                                      double(query.value(2).toLongLong()) / thousandths);
+        const qint64 instant = query.value(0).toLongLong();
+        for (std::size_t i = 0; i < meters.size(); ++i) {
+            const QVariant value = query.value(int(i) + 1);
+            if (!value.isNull()) {
+                meters[i]->addReading(instant, fromThousandths(value));
+            }
         }
     }
-    return query.lastError().isValid() ? fail(query) : readAmounts(meters);
+    return query.lastError().isValid() ? fail(query) : readAmounts(names, meters);
 }
 
-Trouble HistoryFile::readAmounts(const std::map<int, Meter *> &meters)
+Trouble HistoryFile::readAmounts(const QString &names, const std::vector<Meter *> &meters)
 {
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT instant, seconds, register, value FROM amount"))) {
+    if (!query.exec(QStringLiteral("SELECT instant, seconds%1 FROM amount").arg(names))) {
         return fail(query);
     }
     while (query.next()) {
-        const auto meter = meters.find(query.value(2).toInt());
-        if (meter != meters.end()) {
-            const qint64 end = query.value(0).toLongLong();
-            meter->second->addAmount({end - query.value(1).toLongLong(), end},
-                                     double(query.value(3).toLongLong()) / thousandths);
+        const qint64 end = query.value(0).toLongLong();
+        const Readings::Interval interval {end - query.value(1).toLongLong(), end};
+        for (std::size_t i = 0; i < meters.size(); ++i) {
+            const QVariant value = query.value(int(i) + 2);
+            if (!value.isNull()) {
+                meters[i]->addAmount(interval, fromThousandths(value));
+            }
         }
     }
     return query.lastError().isValid() ? fail(query) : Trouble::None;
@@ -193,14 +274,9 @@ Trouble HistoryFile::thin(qint64 before, qint64 step)
         return trouble;
     }
     return inTransaction([&] {
-        for (const auto &[meterRegister, id] : idOf) {
-            const double most = Readings::quantityInfo(meterRegister.quantity).mostPerHour;
-            const Trouble found = thinRegister(id, most, from, to, step);
-            if (found != Trouble::None) {
-                return found;
-            }
-        }
-        return execute(QStringLiteral("UPDATE state SET thinned_until = %1").arg(to));
+        // Another program may have added some.
+        const Trouble learnt = learnColumns();
+        return learnt == Trouble::None ? thinColumns(from, to, step) : learnt;
     });
 }
 
@@ -222,6 +298,17 @@ Trouble HistoryFile::execute(const QString &statement)
     return query.exec(statement) ? Trouble::None : fail(query);
 }
 
+Trouble HistoryFile::execute(const QStringList &statements)
+{
+    for (const QString &statement : statements) {
+        const Trouble trouble = execute(statement);
+        if (trouble != Trouble::None) {
+            return trouble;
+        }
+    }
+    return Trouble::None;
+}
+
 Trouble HistoryFile::number(const QString &statement, qint64 *answer)
 {
     QSqlQuery query(database);
@@ -236,55 +323,63 @@ Trouble HistoryFile::bringUpToDate()
 {
     // Another program may have been faster; now it cannot be.
     qint64 found = 0;
-    Trouble trouble = number(QStringLiteral("PRAGMA user_version"), &found);
-    for (; trouble == Trouble::None && found < version; ++found) {
-        for (const char *statement : stepsFrom(int(found))) {
-            if (trouble == Trouble::None) {
-                trouble = execute(QLatin1String(statement));
-            }
-        }
+    const Trouble trouble = number(QStringLiteral("PRAGMA user_version"), &found);
+    if (trouble != Trouble::None || found >= version) {
+        return trouble;
     }
-    return trouble == Trouble::None
-        ? execute(QStringLiteral("PRAGMA user_version = %1").arg(version))
-        : trouble;
+    QStringList steps;
+    if (found == 0) { // that of an empty file
+        steps = newTables();
+        steps << QStringLiteral("CREATE TABLE state (thinned_until INTEGER NOT NULL)")
+              << QStringLiteral("INSERT INTO state VALUES (0)");
+    } else {
+        if (found == 1) {
+            steps << QStringLiteral("CREATE TABLE amount (instant INTEGER, seconds INTEGER, "
+                                    "register INTEGER, value INTEGER)");
+        }
+        std::map<int, QString> registers;
+        QSqlQuery query(database);
+        if (!query.exec(QStringLiteral("SELECT id, name FROM register"))) {
+            return fail(query);
+        }
+        while (query.next()) {
+            registers[query.value(0).toInt()] = query.value(1).toString();
+        }
+        if (query.lastError().isValid()) {
+            return fail(query);
+        }
+        steps += stepsToColumns(registers);
+    }
+    steps << QStringLiteral("PRAGMA user_version = %1").arg(version);
+    return execute(steps);
 }
 
-Trouble HistoryFile::learnRegisters()
+Trouble HistoryFile::learnColumns()
 {
+    columnNames.clear();
     QSqlQuery query(database);
-    if (!query.exec(QStringLiteral("SELECT id, name FROM register"))) {
+    if (!query.exec(QStringLiteral("SELECT * FROM reading WHERE false"))) {
         return fail(query);
     }
-    while (query.next()) {
-        if (const std::optional<Register> known = registerNamed(query.value(1).toString())) {
-            idOf[*known] = query.value(0).toInt();
-        }
+    const QSqlRecord fields = query.record();
+    for (int i = 1; i < fields.count(); ++i) {
+        columnNames << fields.fieldName(i);
     }
-    return query.lastError().isValid() ? fail(query) : Trouble::None;
+    return Trouble::None;
 }
 
-Trouble HistoryFile::addRegister(const Register &meterRegister)
+Trouble HistoryFile::findColumn(const QString &name)
 {
-    QSqlQuery query(database);
-    query.prepare(QStringLiteral("INSERT OR IGNORE INTO register (name) VALUES (?)"));
-    query.addBindValue(nameOf(meterRegister));
-    if (!query.exec()) {
-        return fail(query);
+    if (columnNames.contains(name)) {
+        return Trouble::None;
     }
     // Another program may have been faster.
-    return learnRegisters();
-}
-
-Trouble HistoryFile::findRegister(const Register &meterRegister, int *id)
-{
-    if (idOf.find(meterRegister) == idOf.end()) {
-        const Trouble trouble = addRegister(meterRegister);
-        if (trouble != Trouble::None) {
-            return trouble;
-        }
+    Trouble trouble = learnColumns();
+    if (trouble == Trouble::None && !columnNames.contains(name)) {
+        trouble = execute(newColumn(name));
+        columnNames << name;
     }
-    *id = idOf[meterRegister];
-    return Trouble::None;
+    return trouble;
 }
 
 template <typename Work>
@@ -302,8 +397,7 @@ Trouble HistoryFile::inTransaction(Work work)
     if (trouble != Trouble::None) {
         const QString why = lastReason;
         execute(QStringLiteral("ROLLBACK"));
-        idOf.clear();
-        learnRegisters();
+        learnColumns();
         lastReason = why;
     }
     return trouble;
@@ -311,20 +405,12 @@ Trouble HistoryFile::inTransaction(Work work)
 
 Trouble HistoryFile::insert(const std::vector<KeptReading> &readings, Known known)
 {
-    QSqlQuery query(database);
-    if (!query.prepare(QStringLiteral("INSERT OR %1 INTO reading VALUES (?, ?, ?)")
-                           .arg(known == Known::Holds ? QStringLiteral("IGNORE")
-                                                      : QStringLiteral("REPLACE")))) {
-        return fail(query);
-    }
+    std::map<Register, QSqlQuery> statements;
     for (const KeptReading &reading : readings) {
-        int id = 0;
-        Trouble trouble = findRegister(reading.meterRegister, &id);
-        if (trouble == Trouble::None) {
-            query.bindValue(0, reading.instant);
-            query.bindValue(1, id);
-            query.bindValue(2, qint64(std::llround(reading.value * thousandths)));
-            trouble = insert(&query);
+        const int before = added;
+        Trouble trouble = enter(reading, &statements);
+        if (trouble == Trouble::None && added == before && known == Known::IsReplaced) {
+            trouble = replace(reading);
         }
         if (trouble != Trouble::None) {
             return trouble;
@@ -335,20 +421,9 @@ Trouble HistoryFile::insert(const std::vector<KeptReading> &readings, Known know
 
 Trouble HistoryFile::insert(const std::vector<KeptAmount> &amounts)
 {
-    QSqlQuery query(database);
-    if (!query.prepare(QStringLiteral("INSERT OR IGNORE INTO amount VALUES (?, ?, ?, ?)"))) {
-        return fail(query);
-    }
+    std::map<Register, QSqlQuery> statements;
     for (const KeptAmount &amount : amounts) {
-        int id = 0;
-        Trouble trouble = findRegister(amount.meterRegister, &id);
-        if (trouble == Trouble::None) {
-            query.bindValue(0, amount.interval.to);
-            query.bindValue(1, amount.interval.seconds());
-            query.bindValue(2, id);
-            query.bindValue(3, qint64(std::llround(amount.amount * thousandths)));
-            trouble = insert(&query);
-        }
+        const Trouble trouble = enter(amount, &statements);
         if (trouble != Trouble::None) {
             return trouble;
         }
@@ -356,39 +431,87 @@ Trouble HistoryFile::insert(const std::vector<KeptAmount> &amounts)
     return Trouble::None;
 }
 
-Trouble HistoryFile::insert(QSqlQuery *query)
+// One statement for each column, prepared when its register comes first.
+template <typename Row>
+Trouble HistoryFile::enter(const Row &row, std::map<Register, QSqlQuery> *statements)
 {
-    if (!query->exec()) {
-        return fail(*query);
+    auto statement = statements->find(row.meterRegister);
+    if (statement == statements->end()) {
+        const QString name = nameOf(row.meterRegister);
+        const Trouble trouble = findColumn(name);
+        if (trouble != Trouble::None) {
+            return trouble;
+        }
+        QSqlQuery query(database);
+        if (!query.prepare(entering(row).arg(name))) {
+            return fail(query);
+        }
+        statement = statements->emplace(row.meterRegister, std::move(query)).first;
     }
-    added += query->numRowsAffected();
+    bind(row, &statement->second);
+    if (!statement->second.exec()) {
+        return fail(statement->second);
+    }
+    added += statement->second.numRowsAffected();
     return Trouble::None;
 }
 
-Trouble HistoryFile::thinRegister(int id, double mostPerHour, qint64 from, qint64 to, qint64 step)
+Trouble HistoryFile::replace(const KeptReading &reading)
+{
+    QSqlQuery query(database);
+    query.prepare(QStringLiteral("UPDATE reading SET %1 = ? WHERE instant = ?")
+                      .arg(nameOf(reading.meterRegister)));
+    bind(reading, &query);
+    return query.exec() ? Trouble::None : fail(query);
+}
+
+Trouble HistoryFile::thinColumns(qint64 from, qint64 to, qint64 step)
+{
+    QStringList nothing;
+    for (const QString &name : columnNames) {
+        nothing << QStringLiteral("%1 IS NULL").arg(quoted(name));
+        if (const std::optional<Register> known = registerNamed(name)) {
+            const double most = Readings::quantityInfo(known->quantity).mostPerHour;
+            const Trouble trouble = thinColumn(name, most, from, to, step);
+            if (trouble != Trouble::None) {
+                return trouble;
+            }
+        }
+    }
+    QStringList steps;
+    if (!nothing.isEmpty()) {
+        steps << QStringLiteral("DELETE FROM reading WHERE instant BETWEEN %1 AND %2 AND ")
+                     .arg(from)
+                     .arg(to)
+                + nothing.join(QStringLiteral(" AND "));
+    }
+    steps << QStringLiteral("UPDATE state SET thinned_until = %1").arg(to);
+    return execute(steps);
+}
+
+Trouble HistoryFile::thinColumn(const QString &name, double mostPerHour, qint64 from, qint64 to,
+                                qint64 step)
 {
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT instant, value FROM reading WHERE instant BETWEEN ? AND ? "
-                                 "AND register = ? ORDER BY instant"));
+    query.prepare(QStringLiteral("SELECT instant, %1 FROM reading WHERE instant BETWEEN ? AND ? "
+                                 "AND %1 IS NOT NULL ORDER BY instant")
+                      .arg(name));
     query.addBindValue(from);
     query.addBindValue(to);
-    query.addBindValue(id);
     if (!query.exec()) {
         return fail(query);
     }
     std::vector<Reading> readings;
     while (query.next()) {
-        readings.push_back(
-            {query.value(0).toLongLong(), double(query.value(1).toLongLong()) / thousandths});
+        readings.push_back({query.value(0).toLongLong(), fromThousandths(query.value(1))});
     }
     if (query.lastError().isValid()) {
         return fail(query);
     }
 
     const std::vector<bool> isDispensable = Readings::dispensable(readings, step, mostPerHour);
-    query.prepare(QStringLiteral("DELETE FROM reading WHERE instant = ? AND register = ?"));
-    query.bindValue(1, id);
+    query.prepare(QStringLiteral("UPDATE reading SET %1 = NULL WHERE instant = ?").arg(name));
     for (std::size_t i = 0; i < readings.size(); ++i) {
         if (!isDispensable[i]) {
             continue;

@@ -8,8 +8,8 @@
 
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 #include <map>
-#include <optional>
 #include <vector>
 
 class QSqlQuery;
@@ -38,9 +38,15 @@ struct KeptAmount
  *
  * A reading is there once for a register and an instant, and an amount once for a register and an
  * interval: the one that was written first holds, unless write() is told otherwise.
- * Values are whole numbers of Wh, dm³ or MJ. The table "register" names the registers as the
- * columns of the program's own CSV format are called. Writing is safe against power cuts: when
- * write() returns, a transaction is on the disk, or not there at all.
+ *
+ * The table "reading" has a row for each instant, and a column for each register that was ever
+ * kept, named as the columns of the program's own CSV format are; it is NULL where the register was
+ * not read. The table "amount" has a row for each interval, and the same columns. Values are whole
+ * numbers of Wh, dm³ or MJ. A file of an older version, which had a row for each register and a
+ * table of their names, is brought up to date when it is opened, which takes seconds once.
+ *
+ * Writing is safe against power cuts: when write() returns, a transaction is on the disk, or not
+ * there at all.
  *
  * Several programs may use one file at the same time.
  */
@@ -56,7 +62,7 @@ public:
     };
 
     /** The version of the tables that this program writes, "user_version" of the file. */
-    static constexpr int version = 2;
+    static constexpr int version = 3;
 
     HistoryFile();
     ~HistoryFile();
@@ -74,7 +80,7 @@ public:
     Trouble write(const std::vector<KeptReading> &readings, Known known = Known::Holds);
     /** Writes @p amounts in one transaction. */
     Trouble writeAmounts(const std::vector<KeptAmount> &amounts);
-    /** How many rows the last write added: those that were not there before. */
+    /** How many readings or amounts the last write added: those that were not there before. */
     int addedRows() const { return added; }
     /**
      * Drops, in one transaction, the readings before @p before that slots of @p step seconds do not
@@ -89,22 +95,26 @@ private:
     Trouble fail(Trouble trouble, const QString &why);
     Trouble fail(const QSqlQuery &query);
     Trouble execute(const QString &statement);
+    Trouble execute(const QStringList &statements);
     Trouble number(const QString &statement, qint64 *answer);
     Trouble bringUpToDate();
-    Trouble readAmounts(const std::map<int, Readings::Meter *> &meters);
-    Trouble learnRegisters();
-    Trouble addRegister(const Readings::Register &meterRegister);
-    Trouble findRegister(const Readings::Register &meterRegister, int *id);
+    Trouble readAmounts(const QString &names, const std::vector<Readings::Meter *> &meters);
+    Trouble learnColumns();
+    Trouble findColumn(const QString &name);
     template <typename Work>
     Trouble inTransaction(Work work);
     Trouble insert(const std::vector<KeptReading> &readings, Known known);
     Trouble insert(const std::vector<KeptAmount> &amounts);
-    Trouble insert(QSqlQuery *query);
-    Trouble thinRegister(int id, double mostPerHour, qint64 from, qint64 to, qint64 step);
+    template <typename Row>
+    Trouble enter(const Row &row, std::map<Readings::Register, QSqlQuery> *statements);
+    Trouble replace(const KeptReading &reading);
+    Trouble thinColumns(qint64 from, qint64 to, qint64 step);
+    Trouble thinColumn(const QString &name, double mostPerHour, qint64 from, qint64 to,
+                       qint64 step);
 
     const QString connection;
     QSqlDatabase database;
-    std::map<Readings::Register, int> idOf;
+    QStringList columnNames;
     QString lastReason;
     int added = 0;
 };
