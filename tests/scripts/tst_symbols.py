@@ -62,6 +62,20 @@ class Symbols(unittest.TestCase):
             self.assertIn("scripts/symbols", ended.stdout.splitlines()[2])
             self.file.unlink()
 
+    def test_what_only_some_compilers_make_may_be_there_or_not(self):
+        self.build(NEW, "2.0.0")
+        self.symbols()
+        text = self.file.read_text()
+        optional = text.replace('(c++)"ZEMLamp::dim', '(c++|optional)"ZEMLamp::dim')
+        self.assertNotEqual(optional, text)
+        self.file.write_text(optional)
+        for source in (NEW, CLASS.format("")):
+            self.build(source, "2.0.0")
+            ended = self.symbols("--check")
+            self.assertEqual((ended.returncode, ended.stdout), (0, ""))
+            self.assertEqual(self.symbols().returncode, 0)
+            self.assertEqual(self.file.read_text(), optional)
+
     def test_a_symbol_keeps_the_version_that_brought_it(self):
         self.build(OLD, "2.0.0")
         self.symbols()
