@@ -4,6 +4,7 @@
 #ifndef LINEICON_H
 #define LINEICON_H
 
+#include <QIcon>
 #include <QPainterPath>
 #include <QPixmap>
 
@@ -17,6 +18,12 @@ constexpr int size = 26; // pixels
  * 26 pixels times @p scale, as sharp as the sharpest screen.
  */
 QPixmap draw(const QPainterPath &path, double scale = 1.0);
+
+/**
+ * The same as an icon, which is drawn anew for each screen. Of a picture an icon does not know for
+ * which screen it is: on one of ratio 1.5 it would be too large.
+ */
+QIcon icon(const QPainterPath &path, double scale = 1.0);
 
 } // namespace LineIcon
 

@@ -22,22 +22,22 @@ void addLine(QPainterPath *path, const QPointF &from, const QPointF &to)
 
 } // namespace
 
-QPixmap menu()
+QIcon menu()
 {
     QPainterPath path;
     for (const int y : {7, 13, 19}) {
         addLine(&path, QPointF(5, y), QPointF(21, y));
     }
-    return LineIcon::draw(path, tileScale);
+    return LineIcon::icon(path, tileScale);
 }
 
-QPixmap back()
+QIcon back()
 {
     QPainterPath path;
     path.moveTo(16, 6);
     path.lineTo(9, 13);
     path.lineTo(16, 20);
-    return LineIcon::draw(path, tileScale);
+    return LineIcon::icon(path, tileScale);
 }
 
 QPixmap bell()

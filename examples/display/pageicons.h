@@ -4,14 +4,15 @@
 #ifndef PAGEICONS_H
 #define PAGEICONS_H
 
+#include <QIcon>
 #include <QPixmap>
 
 /** Pictures of the pages and of the buttons in their headers. */
 namespace PageIcons {
 
 /** For header tiles, 32 by 32 pixels. */
-QPixmap menu();
-QPixmap back();
+QIcon menu();
+QIcon back();
 QPixmap bell();
 
 /** For the grid of pages, 52 by 52 pixels. */

@@ -8,9 +8,13 @@
 #include "screenfaults.h"
 #include "screenshots.h"
 
+#include "zemtest.h"
+
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QTest>
+#include <ZEMButton>
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -41,6 +45,7 @@ private Q_SLOTS:
     void targetsAreLargeEnough();
     void textsCanBeRead();
     void nothingShinesThrough();
+    void iconsOfTheHeaderAreOfOneSize();
 
 private:
     void look(const EnergySource &source, const QString &house);
@@ -132,6 +137,31 @@ void tst_DisplaySizes::textsCanBeRead()
 void tst_DisplaySizes::nothingShinesThrough()
 {
     expectNone(seeThrough);
+}
+
+void tst_DisplaySizes::iconsOfTheHeaderAreOfOneSize()
+{
+    const PlayedSource source;
+    PlayedDisplay display(source);
+    display.window.openPage(QStringLiteral("goals"));
+    QVERIFY(display.show());
+    const auto inkOf = [&](const char *name) {
+        auto *button = display.onPage<ZEMButton>(name);
+        QPixmap picture(button->size() * button->devicePixelRatioF());
+        picture.setDevicePixelRatio(button->devicePixelRatioF());
+        picture.fill(Qt::black);
+        button->render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
+        return QSizeF(ZemTest::inkRect(picture.toImage()).size()) / button->devicePixelRatioF();
+    };
+    // Lines of 2 in a square of 26, shown as one of 32.
+    constexpr double scale = 32.0 / 26.0;
+    constexpr double edge = 2.0; // of what is drawn smoothly
+    const QSizeF menu = inkOf("menu");
+    QVERIFY2(std::fabs(menu.width() - 18.0 * scale) <= edge,
+             qPrintable(QString::number(menu.width())));
+    const QSizeF back = inkOf("back");
+    QVERIFY2(std::fabs(back.height() - 16.0 * scale) <= edge,
+             qPrintable(QString::number(back.height())));
 }
 
 int main(int argc, char *argv[])

@@ -42,12 +42,11 @@ void setTextColor(QLabel *label, const QColor &color)
     label->setPalette(palette);
 }
 
-ZEMButton *makeTileButton(const QPixmap &icon, const char *name)
+ZEMButton *makeTileButton(const QIcon &icon, const char *name)
 {
     auto *button = new ZEMButton;
     button->setObjectName(QLatin1String(name));
-    button->setIcon(QIcon(icon));
-    button->setIconSize(icon.size() / icon.devicePixelRatio());
+    button->setIcon(icon);
     button->setFixedSize(tileSize, tileSize);
     return button;
 }
