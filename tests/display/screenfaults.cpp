@@ -15,6 +15,7 @@
 #include <QStackedWidget>
 #include <QTextEdit>
 #include <QWidget>
+#include <ZEMButton>
 #include <ZEMPageBackground>
 #include <algorithm>
 #include <cmath>
@@ -353,6 +354,35 @@ QStringList smallTargets(const QWidget *window)
         if (isTarget && (size.width() < leastTarget || size.height() < leastTarget)) {
             faults << QStringLiteral("%1: %2").arg(nameOf(widget), sizeText(size));
         }
+    }
+    return faults;
+}
+
+QStringList touchableLooks(QWidget *window)
+{
+    constexpr double most = 0.8; // of the brightness of a button that can be touched
+    const auto brightest = [window](const QWidget *widget) {
+        const QImage picture = pictureOf(window, widget);
+        double found = 0.0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                found = std::max(found, luminance(picture.pixelColor(x, y)));
+            }
+        }
+        return found;
+    };
+    QStringList faults;
+    for (QWidget *widget : seenIn(window)) {
+        auto *button = qobject_cast<ZEMButton *>(widget);
+        if (!button || button->isEnabled() || !button->parentWidget()->isEnabled()) {
+            continue;
+        }
+        const double idle = brightest(button);
+        button->setEnabled(true);
+        if (idle > most * brightest(button)) {
+            faults << nameOf(button);
+        }
+        button->setEnabled(false);
     }
     return faults;
 }

@@ -23,6 +23,8 @@ QStringList cutTexts(const QWidget *window);
 QStringList elidedTexts(const QWidget *window);
 /** What can be touched, but is smaller than 40 pixels in either direction. */
 QStringList smallTargets(const QWidget *window);
+/** Buttons that cannot be touched now, but whose icons are as bright as if they could. */
+QStringList touchableLooks(QWidget *window);
 /** Panels over a page that let something of it through. */
 QStringList seeThrough(QWidget *window);
 /** Texts with a contrast below 4.5 to 1 to what is painted behind them. */

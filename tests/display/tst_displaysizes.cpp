@@ -45,6 +45,7 @@ private Q_SLOTS:
     void targetsAreLargeEnough();
     void textsCanBeRead();
     void nothingShinesThrough();
+    void idleButtonsLookIdle();
     void iconsOfTheHeaderAreOfOneSize();
 
 private:
@@ -57,6 +58,7 @@ private:
     QStringList small;
     QStringList faint;
     QStringList seeThrough;
+    QStringList idle;
 };
 
 void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
@@ -77,6 +79,7 @@ void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
         add(&overlaps, ScreenFaults::overlaps(&display.window));
         add(&cut, ScreenFaults::cutTexts(&display.window));
         add(&small, ScreenFaults::smallTargets(&display.window));
+        add(&idle, ScreenFaults::touchableLooks(&display.window));
         // Of a period before, the bars alone are others.
         if (name.endsWith(QStringLiteral("-before"))) {
             return;
@@ -137,6 +140,11 @@ void tst_DisplaySizes::textsCanBeRead()
 void tst_DisplaySizes::nothingShinesThrough()
 {
     expectNone(seeThrough);
+}
+
+void tst_DisplaySizes::idleButtonsLookIdle()
+{
+    expectNone(idle);
 }
 
 void tst_DisplaySizes::iconsOfTheHeaderAreOfOneSize()

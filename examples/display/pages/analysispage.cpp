@@ -35,8 +35,7 @@ ZEMButton *makeButton(const char *name, const QString &icon)
     button->setObjectName(QLatin1String(name));
     button->setBackground(
         QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_xs_small.png")));
-    button->setBackgroundOff(
-        QPixmap(QStringLiteral(":/zem/graphics/main/buttons/btn_rect_xs_small_disabled.png")));
+    button->setHideWhenDisabled(true);
     button->setIcon(QIcon(icon));
     button->setFixedSize(buttonSize);
     return button;
