@@ -16,6 +16,8 @@
 #include <ZEMButton>
 #include <cmath>
 #include <cstdio>
+#include <qwt_plot.h>
+#include <qwt_text.h>
 
 namespace {
 
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void nothingShinesThrough();
     void idleButtonsLookIdle();
     void iconsOfTheHeaderAreOfOneSize();
+    void unitOfPowerStandsBesideTheCurves();
 
 private:
     void look(const EnergySource &source, const QString &house);
@@ -170,6 +173,18 @@ void tst_DisplaySizes::iconsOfTheHeaderAreOfOneSize()
     const QSizeF back = inkOf("back");
     QVERIFY2(std::fabs(back.height() - 16.0 * scale) <= edge,
              qPrintable(QString::number(back.height())));
+}
+
+void tst_DisplaySizes::unitOfPowerStandsBesideTheCurves()
+{
+    PlayedSource source;
+    source.count(Readings::Quantity::GridImport, 3, 2.0);
+    PlayedDisplay display(source);
+    display.window.openPage(QStringLiteral("analysis"));
+    QVERIFY(display.show());
+    auto *plot = display.window.currentWidget()->findChild<QwtPlot *>();
+    QCOMPARE(plot->axisTitle(QwtPlot::yLeft).text(), QStringLiteral("kW"));
+    QVERIFY(plot->itemList(QwtPlotItem::Rtti_PlotTextLabel).isEmpty());
 }
 
 int main(int argc, char *argv[])

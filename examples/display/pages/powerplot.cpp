@@ -18,7 +18,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <qwt_plot_textlabel.h>
 #include <qwt_scale_widget.h>
 #include <qwt_symbol.h>
 #include <qwt_text.h>
@@ -93,10 +92,6 @@ void PowerPlot::makeAxes()
 
 void PowerPlot::makeMarkers()
 {
-    unit = new QwtPlotTextLabel;
-    unit->setZ(markLayer);
-    unit->attach(this);
-
     pickMark = new QwtPlotMarker;
     pickMark->setLineStyle(QwtPlotMarker::VLine);
     auto *trackMark = new PowerMarker(&clock);
@@ -299,7 +294,7 @@ void PowerPlot::showUnit()
     QwtText text(draw->isInKilowatts() ? QStringLiteral("kW") : QStringLiteral("W"));
     text.setFont(PageLook::textFont(unitSize));
     text.setColor(NightStyler::highlight());
-    text.setBackgroundBrush(NightStyler::tagColor());
-    text.setRenderFlags(Qt::AlignLeft | Qt::AlignTop);
-    unit->setText(text);
+    // At the upper end, as in the charts.
+    text.setRenderFlags(Qt::AlignRight);
+    setAxisTitle(QwtPlot::yLeft, text);
 }

@@ -17,7 +17,6 @@ class NightStyler;
 class PowerPicker;
 class PowerTracker;
 class QwtPlotCurve;
-class QwtPlotTextLabel;
 class ZEMQwtPlotPointPicker;
 
 /** A power in the words of the display: "850 W", "1,2 kW". */
@@ -90,7 +89,6 @@ private:
     QDate date;
     std::vector<PowerKind> kinds;
     QwtPlotCurve *bars = nullptr;
-    QwtPlotTextLabel *unit = nullptr;
     QwtPlotMarker *pickMark = nullptr;
     PowerTracker *tracker = nullptr;
     PowerPicker *picker = nullptr;
