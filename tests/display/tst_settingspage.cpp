@@ -28,6 +28,7 @@ class tst_SettingsPage : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void fieldsOfARowEndInOneLine();
     void houseNameIsTyped();
     void cancelChangesNothing();
     void priceIsANumber();
@@ -100,6 +101,20 @@ void tst_SettingsPage::choose(int row) const
     ZemTest::press(list->viewport(), item);
     ZemTest::release(list->viewport(), item);
     tapButton(page, "btnSelect");
+}
+
+void tst_SettingsPage::fieldsOfARowEndInOneLine()
+{
+    const std::pair<const char *, const char *> rows[] = {{"houseName", "price"},
+                                                          {"contract", "keyboard"},
+                                                          {"standby", "night"},
+                                                          {"privacy", "clear"}};
+    for (const auto &[left, right] : rows) {
+        QCOMPARE(field(right)->geometry().bottom(), field(left)->geometry().bottom());
+    }
+    const int step = field("contract")->y() - field("houseName")->y();
+    QCOMPARE(field("standby")->y() - field("contract")->y(), step);
+    QCOMPARE(field("privacy")->y() - field("standby")->y(), step);
 }
 
 void tst_SettingsPage::houseNameIsTyped()

@@ -114,9 +114,8 @@ ZEMLineEditButton *SettingsPage::addField(const QString &caption, const char *na
 
     auto *cell = new QVBoxLayout;
     cell->setSpacing(1);
-    if (!caption.isEmpty()) {
-        cell->addWidget(PageLook::makeLabel(caption, 11));
-    }
+    // Beside a field with a caption both are in one line.
+    cell->addWidget(PageLook::makeLabel(caption.isEmpty() ? QStringLiteral(" ") : caption, 11));
     cell->addWidget(field);
     cells.append(cell);
     return field;
