@@ -14,6 +14,10 @@
 #include <QLoggingCategory>
 #include <QTest>
 #include <ZEMButton>
+#include <ZEMLineEditDialog>
+#include <ZEMNumericKeypad>
+#include <ZEMVirtualKey>
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <qwt_plot.h>
@@ -26,6 +30,12 @@ QSize screenSize()
 {
     return DisplayScale::parseSize(qEnvironmentVariable("DISPLAY_SIZE", QStringLiteral("640x480")))
         .value_or(QSize());
+}
+
+/** Where @p widget stands on @p page. */
+QRect placeOn(const QWidget *page, const QWidget *widget)
+{
+    return {widget->mapTo(page, QPoint(0, 0)), widget->size()};
 }
 
 } // namespace
@@ -50,6 +60,7 @@ private Q_SLOTS:
     void idleButtonsLookIdle();
     void iconsOfTheHeaderAreOfOneSize();
     void unitOfPowerStandsBesideTheCurves();
+    void keysStandTogether();
 
 private:
     void look(const EnergySource &source, const QString &house);
@@ -185,6 +196,43 @@ void tst_DisplaySizes::unitOfPowerStandsBesideTheCurves()
     auto *plot = display.window.currentWidget()->findChild<QwtPlot *>();
     QCOMPARE(plot->axisTitle(QwtPlot::yLeft).text(), QStringLiteral("kW"));
     QVERIFY(plot->itemList(QwtPlotItem::Rtti_PlotTextLabel).isEmpty());
+}
+
+/** However high the screen is. */
+void tst_DisplaySizes::keysStandTogether()
+{
+    constexpr int mostBetween = 20; // pixels from one row to the next
+    const PlayedSource source;
+    PlayedDisplay display(source);
+    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    display.window.openPage(QStringLiteral("settings"));
+    QVERIFY(display.show());
+    const auto farthest = [&](const QWidget *dialog) {
+        QList<int> tops;
+        int height = 0;
+        for (const ZEMVirtualKey *key : dialog->findChildren<ZEMVirtualKey *>()) {
+            if (key->isVisible()) {
+                tops << placeOn(dialog, key).top();
+                height = key->height();
+            }
+        }
+        std::sort(tops.begin(), tops.end());
+        int most = 0;
+        for (int i = 1; i < tops.size(); ++i) {
+            most = std::max(most, tops.at(i) - tops.at(i - 1) - height);
+        }
+        return most;
+    };
+    display.onPage<ZEMButton>("houseName")->click();
+    auto *line = display.inputDialog<ZEMLineEditDialog>();
+    QVERIFY(line);
+    QVERIFY2(farthest(line) <= mostBetween, qPrintable(QString::number(farthest(line))));
+    PlayedDisplay::tap(line->findChild<ZEMButton *>(QStringLiteral("btnCancel")));
+
+    display.onPage<ZEMButton>("price")->click();
+    auto *number = display.inputDialog<ZEMNumericKeypad>();
+    QVERIFY(number);
+    QVERIFY2(farthest(number) <= mostBetween, qPrintable(QString::number(farthest(number))));
 }
 
 int main(int argc, char *argv[])

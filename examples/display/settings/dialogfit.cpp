@@ -17,6 +17,7 @@ constexpr QRgb panelColor = qRgb(14, 20, 26);
 constexpr int side = 6; // pixels at the left and right of what was narrowed
 constexpr int gap = 12; // pixels at most between columns
 constexpr int keyGap = 3; // pixels between keys
+constexpr int mostHeight = 480; // pixels of a dialog; keys drift apart in more
 
 /** Takes from the layout, and from those in it, the space that is no use to anybody. */
 void narrow(QLayout *layout)
@@ -93,6 +94,11 @@ void fitDialog(QWidget *dialog, const QSize &size)
                 part->setSizePolicy(QSizePolicy::Preferred, part->sizePolicy().verticalPolicy());
             }
         }
+    }
+    if (dialog->layout() && size.height() > mostHeight) {
+        const int spare = size.height() - mostHeight;
+        dialog->layout()->setContentsMargins(dialog->layout()->contentsMargins()
+                                             + QMargins(0, spare / 2, 0, spare - spare / 2));
     }
     dialog->setGeometry(QRect(QPoint(0, 0), size));
 }
