@@ -38,6 +38,11 @@ QRect placeOn(const QWidget *page, const QWidget *widget)
     return {widget->mapTo(page, QPoint(0, 0)), widget->size()};
 }
 
+bool isUpright()
+{
+    return screenSize().width() < screenSize().height();
+}
+
 } // namespace
 
 /**
@@ -60,6 +65,7 @@ private Q_SLOTS:
     void idleButtonsLookIdle();
     void iconsOfTheHeaderAreOfOneSize();
     void unitOfPowerStandsBesideTheCurves();
+    void tilesStandInLine();
     void keysStandTogether();
 
 private:
@@ -196,6 +202,28 @@ void tst_DisplaySizes::unitOfPowerStandsBesideTheCurves()
     auto *plot = display.window.currentWidget()->findChild<QwtPlot *>();
     QCOMPARE(plot->axisTitle(QwtPlot::yLeft).text(), QStringLiteral("kW"));
     QVERIFY(plot->itemList(QwtPlotItem::Rtti_PlotTextLabel).isEmpty());
+}
+
+void tst_DisplaySizes::tilesStandInLine()
+{
+    PlayedSource source;
+    source.count(Readings::Quantity::Gas, 3);
+    PlayedDisplay display(source);
+    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    QVERIFY(display.show());
+    const QWidget *page = display.window.currentWidget();
+    const auto placeOf = [&](const char *name) { return placeOn(page, display.onPage(name)); };
+    const QRect status = placeOf("ZEMCurrentStatusWidget");
+    const QRect totals = placeOf("ZEMTotalsTodayWidget");
+    const QRect goals = placeOf("goals");
+    if (isUpright()) {
+        QCOMPARE(totals.left(), status.left());
+        QCOMPARE(goals.right(), status.right());
+        QCOMPARE(status.left(), page->width() - 1 - status.right());
+    } else {
+        QCOMPARE(totals.top(), status.top());
+        QCOMPARE(goals.bottom(), placeOf("ZEMHistogramButton").bottom());
+    }
 }
 
 /** However high the screen is. */

@@ -31,6 +31,8 @@ using Readings::Quantity;
 
 namespace {
 
+constexpr int wideGap = 24; // pixels between tiles beside each other
+constexpr int tallGap = 18; // so that two small tiles are as wide as a large one
 constexpr int valueSteps = 4; // of the week; the labels would touch with more
 constexpr int dayWidth = 32; // pixels of a day in the tile of the week
 constexpr int dayGap = 3; // pixels between the names of days
@@ -75,7 +77,6 @@ OverviewPage::OverviewPage(const EnergySource &source, QWidget *parent)
     status->setMaxProduction(source.mostProduction());
     connect(status, &ZEMCurrentStatusWidget::clicked, this, &OverviewPage::devicesClicked);
 
-    tiles->setHorizontalSpacing(24);
     tiles->setVerticalSpacing(18);
     tiles->setAlignment(Qt::AlignCenter);
     makeTotals();
@@ -95,15 +96,17 @@ void OverviewPage::arrange(Shape shape)
                           static_cast<QWidget *>(weekButton), pageButtons}) {
         tiles->removeWidget(tile);
     }
+    tiles->setHorizontalSpacing(shape == Shape::Wide ? wideGap : tallGap);
+    // Where there is one meter alone, the totals are half as high.
     if (shape == Shape::Wide) {
         tiles->addWidget(status, 0, 0);
-        tiles->addWidget(totals, 0, 1);
+        tiles->addWidget(totals, 0, 1, Qt::AlignTop);
         tiles->addWidget(weekButton, 1, 0);
         tiles->addWidget(pageButtons, 1, 1, Qt::AlignBottom);
     } else {
         tiles->addWidget(status, 0, 0, 1, 2);
         tiles->addWidget(weekButton, 1, 0, 1, 2);
-        tiles->addWidget(totals, 2, 0);
+        tiles->addWidget(totals, 2, 0, Qt::AlignTop);
         tiles->addWidget(pageButtons, 2, 1, Qt::AlignBottom | Qt::AlignRight);
     }
 }
