@@ -218,11 +218,12 @@ void DisplayWindow::makeMenu()
     fitDialog(menu, size());
     makeSolid(menu);
     menu->setText1(tr("pagina's"));
-    menu->setText4(tr("meldingen"));
+    menu->setText4(menu->getText3());
+    menu->setText3(tr("meldingen"));
     menu->showButton4(true);
     connect(menu, &ZEMMenuOverlay::button1_clicked, this, &DisplayWindow::openPageGrid);
     connect(menu, &ZEMMenuOverlay::button2_clicked, this, &DisplayWindow::openStandby);
-    connect(menu, &ZEMMenuOverlay::button4_clicked, this, &DisplayWindow::openMessages);
+    connect(menu, &ZEMMenuOverlay::button3_clicked, this, &DisplayWindow::openMessages);
 }
 
 void DisplayWindow::makeStandby(const EnergySource &source)

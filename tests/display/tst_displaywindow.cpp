@@ -61,6 +61,7 @@ private Q_SLOTS:
     void tapsLeadToThePagesAndBack();
     void menuLeadsToEveryPage_data();
     void menuLeadsToEveryPage();
+    void menuEndsWithTheWayOut();
     void standbyIsDarkUntilATouch();
     void messagesAreCountedUntilSeen();
     void messagesOfOneKindAreOneLine();
@@ -165,6 +166,24 @@ void tst_DisplayWindow::menuLeadsToEveryPage()
     release(list->viewport(), item);
     QCOMPARE(display.page(), page);
     QVERIFY(!display.overlay<ZEMSimpleListView>());
+}
+
+void tst_DisplayWindow::menuEndsWithTheWayOut()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    Q_EMIT source->problem(QStringLiteral("a damaged telegram"));
+    PlayedDisplay::tap(display.onPage("menu"));
+    auto *menu = display.overlay<ZEMMenuOverlay>();
+    QCOMPARE(QStringList({menu->getText1(), menu->getText2(), menu->getText3(), menu->getText4()}),
+             QStringList({"pagina's", "standby", "meldingen", "annuleren"}));
+    PlayedDisplay::tap(menu->findChild<ZEMButton *>(QStringLiteral("button4")));
+    QVERIFY(!menu->isVisible());
+    QVERIFY(!display.overlay<ZEMListView>());
+
+    PlayedDisplay::tap(display.onPage("menu"));
+    PlayedDisplay::tap(menu->findChild<ZEMButton *>(QStringLiteral("button3")));
+    QVERIFY(display.overlay<ZEMListView>());
 }
 
 void tst_DisplayWindow::standbyIsDarkUntilATouch()
