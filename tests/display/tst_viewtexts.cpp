@@ -68,6 +68,8 @@ void tst_ViewTexts::amounts()
     QCOMPARE(text(9.996, true, "kWh"), QStringLiteral("10,0 kWh"));
     QCOMPARE(text(1234.56, false, "kWh"), QStringLiteral("≥ 1.234,6 kWh"));
     QCOMPARE(text(0.0124, true, "GJ"), QStringLiteral("0,012 GJ"));
+    QCOMPARE(text(2.1248, true, "GJ"), QStringLiteral("2,12 GJ"));
+    QCOMPARE(text(23.0304, true, "GJ"), QStringLiteral("23,0 GJ"));
     QCOMPARE(ViewTexts::amount(std::nullopt, QStringLiteral("kWh")), QStringLiteral("–"));
 }
 

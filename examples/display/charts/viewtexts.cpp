@@ -18,7 +18,15 @@ class Texts
 };
 
 constexpr double centsPerEuro = 100.0;
-constexpr double manyDigits = 9.995; // from here on one decimal tells enough
+constexpr double twoDigits = 0.9995; // from here on two decimals tell enough
+constexpr double manyDigits = 9.995; // and one from here on
+
+/** Heat comes in GJ, of which an hour has few. */
+int decimalsOf(double amount, const QString &unit)
+{
+    const int most = unit == QLatin1String("GJ") ? 3 : 2;
+    return amount < twoDigits ? most : amount < manyDigits ? 2 : 1;
+}
 
 QString dayText(const QDate &date)
 {
@@ -63,9 +71,7 @@ QString amount(const std::optional<Readings::Measured> &measured, const QString 
     if (!measured) {
         return number(measured, 0);
     }
-    // Heat comes in GJ, of which an hour has few.
-    const int decimals = unit == QLatin1String("GJ") ? 3 : measured->amount < manyDigits ? 2 : 1;
-    return QStringLiteral("%1 %2").arg(number(measured, decimals), unit);
+    return QStringLiteral("%1 %2").arg(number(measured, decimalsOf(measured->amount, unit)), unit);
 }
 
 QString euro(const Costs::Cost &cost, int decimals)
