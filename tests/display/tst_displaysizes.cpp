@@ -66,6 +66,7 @@ private Q_SLOTS:
     void iconsOfTheHeaderAreOfOneSize();
     void unitOfPowerStandsBesideTheCurves();
     void tilesStandInLine();
+    void emptyDisplayIsOfToday();
     void keysStandTogether();
 
 private:
@@ -224,6 +225,20 @@ void tst_DisplaySizes::tilesStandInLine()
         QCOMPARE(totals.top(), status.top());
         QCOMPARE(goals.bottom(), placeOf("ZEMHistogramButton").bottom());
     }
+}
+
+void tst_DisplaySizes::emptyDisplayIsOfToday()
+{
+    const PlayedSource source;
+    PlayedDisplay display(source);
+    QVERIFY(display.show());
+    QStringList texts;
+    visitScreens(&display.window,
+                 [&](const QString &) { texts << ScreenFaults::textsOn(&display.window); });
+    QVERIFY(texts.contains(QStringLiteral("totaal vandaag")));
+    QVERIFY(texts.contains(QStringLiteral("budget van vandaag")));
+    QVERIFY(texts.contains(QStringLiteral("wo 9 maart 2016")));
+    expectNone(texts.filter(QStringLiteral("1970")) + texts.filter(QStringLiteral("1969")));
 }
 
 /** However high the screen is. */

@@ -90,8 +90,8 @@ AnalysisPage::AnalysisPage(const EnergySource &source, QWidget *parent)
 
 void AnalysisPage::showDate(const QDate &date)
 {
-    dates = datesOf(energySource().household());
-    shownDate = qBound(dates.first, date, dates.last);
+    range = dates();
+    shownDate = qBound(range.first, date, range.last);
     readDay();
 }
 
@@ -171,8 +171,8 @@ void AnalysisPage::handleHistory()
         return;
     }
     // Who looks at the newest day looks at the new one when it begins.
-    const bool isNewest = !shownDate.isValid() || shownDate >= dates.last;
-    showDate(isNewest ? datesOf(energySource().household()).last : shownDate);
+    const bool isNewest = !shownDate.isValid() || shownDate >= range.last;
+    showDate(isNewest ? dates().last : shownDate);
 }
 
 void AnalysisPage::readDay()
@@ -184,8 +184,8 @@ void AnalysisPage::readDay()
     isKnown = !day.isEmpty();
     powerPlot->showDay(day);
     dateLabel->setText(QLocale().toString(shownDate, tr("ddd d MMMM yyyy")));
-    previousDay->setEnabled(shownDate > dates.first);
-    nextDay->setEnabled(shownDate < dates.last);
+    previousDay->setEnabled(shownDate > range.first);
+    nextDay->setEnabled(shownDate < range.last);
     showLegend(day);
     showPicked();
 }

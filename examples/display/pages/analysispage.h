@@ -55,7 +55,7 @@ private:
     ZEMButton *nextPoint = nullptr;
     ZEMButton *otherCurve = nullptr;
     ZEMTextLabel *pointLabel = nullptr;
-    DateRange dates;
+    DateRange range;
     QDate shownDate;
     bool isRead = false;
     bool isKnown = false;

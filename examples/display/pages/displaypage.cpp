@@ -171,6 +171,13 @@ QWidget *DisplayPage::makePowerTile()
     return tile;
 }
 
+DateRange DisplayPage::dates() const
+{
+    const Readings::Household &household = shownSource.household();
+    const QDate today = shownSource.now().date();
+    return household.lastInstant() ? datesOf(household) : DateRange {today, today};
+}
+
 QString DisplayPage::dayName(const QDate &date) const
 {
     return date == shownSource.now().date() ? tr("vandaag")

@@ -4,6 +4,8 @@
 #ifndef DISPLAYPAGE_H
 #define DISPLAYPAGE_H
 
+#include "daterange.h"
+
 #include <QDate>
 #include <QString>
 #include <QStringList>
@@ -53,6 +55,8 @@ protected:
     /** The room beneath the header. */
     QVBoxLayout *content() const { return contentLayout; }
 
+    /** The days of which there is something to show: today alone until a meter is heard. */
+    DateRange dates() const;
     /** The day of @p date in few words: "vandaag", or the date. */
     QString dayName(const QDate &date) const;
     /** The page is in view, and the household came to another day since it told of one. */

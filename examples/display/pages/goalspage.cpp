@@ -4,7 +4,6 @@
 #include "goalspage.h"
 
 #include "budget.h"
-#include "daterange.h"
 #include "energysource.h"
 #include "inputdialogs.h"
 #include "pagelook.h"
@@ -204,7 +203,7 @@ void GoalsPage::refresh()
 void GoalsPage::showToday()
 {
     const Readings::Household &household = energySource().household();
-    const QDate today = datesOf(household).last;
+    const QDate today = dates().last;
     todayCaption->setText(tr("budget van %1").arg(dayName(today)));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
     const std::optional<Readings::Measured> used = Budget::takenOn(household, today);
@@ -218,9 +217,9 @@ void GoalsPage::showToday()
     const ZEMStyle style(nullptr);
     budgetBar->setValuePen(
         QPen(style.color(isOver ? ZEMStyle::SoftRed : ZEMStyle::Green), barLine));
-    const QTime known =
-        QDateTime::fromSecsSinceEpoch(household.lastInstant().value_or(0), household.timeZone)
-            .time();
+    const std::optional<qint64> last = household.lastInstant();
+    const QTime known = last ? QDateTime::fromSecsSinceEpoch(*last, household.timeZone).time()
+                             : energySource().now().time();
     budgetBar->setMidValue(budget * known.msecsSinceStartOfDay() / millisecondsPerDay);
 }
 
@@ -237,7 +236,7 @@ QString GoalsPage::costsText(const QDate &day, double amount) const
 
 void GoalsPage::showYesterday()
 {
-    const QDate yesterday = datesOf(energySource().household()).last.addDays(-1);
+    const QDate yesterday = dates().last.addDays(-1);
     yesterdayCaption->setText(
         yesterday.addDays(1) == energySource().now().date() ? tr("gisteren") : dayName(yesterday));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());

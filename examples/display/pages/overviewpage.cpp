@@ -4,7 +4,6 @@
 #include "overviewpage.h"
 
 #include "amountseries.h"
-#include "daterange.h"
 #include "energysource.h"
 #include "fittedhistogram.h"
 #include "pagelook.h"
@@ -231,7 +230,7 @@ void OverviewPage::feedCharts()
                        Quantity::SolarProduction, Quantity::GridExport},
                       std::nullopt)
             .value_or(Quantity::GridImport);
-    totals->setTitle(tr("totaal %1").arg(dayName(datesOf(energySource().household()).last)));
+    totals->setTitle(tr("totaal %1").arg(dayName(dates().last)));
     totals->setTopTitle(lookOf(upper).caption);
     totals->setTopEnergyType(lookOf(upper).icon);
     feed(upperDay, upper);
@@ -254,7 +253,7 @@ ChartValues OverviewPage::feed(const SmallChart &small, Quantity quantity)
     const Readings::Household &household = energySource().household();
     const Readings::Calendar calendar(household.timeZone);
     const ChartValues values = chartValues(calendar, household.metersOf(quantity), small.period,
-                                           newestOnly(small.period, datesOf(household).last));
+                                           newestOnly(small.period, dates().last));
     small.series->setColor(ZEMStyle(nullptr).color(lookOf(quantity).color));
     small.series->setValues(values);
     small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), leastLimit)));
