@@ -16,6 +16,7 @@
 #include <ZEMAnimatedArrows>
 #include <ZEMButton>
 #include <ZEMCurrentStatusWidget>
+#include <ZEMDialogPopup>
 #include <ZEMHistogram>
 #include <ZEMListView>
 #include <ZEMMenuOverlay>
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void menuLeadsToEveryPage();
     void menuEndsWithTheWayOut();
     void standbyIsDarkUntilATouch();
+    void soleButtonStandsInTheMiddle();
     void messagesAreCountedUntilSeen();
     void messagesOfOneKindAreOneLine();
     void bellWarnsWhileTheMeterIsSilent();
@@ -198,6 +200,22 @@ void tst_DisplayWindow::standbyIsDarkUntilATouch()
     QCOMPARE(dark.pixelColor(20, 20), QColor(Qt::black));
     PlayedDisplay::tap(display.window.currentWidget());
     QCOMPARE(display.page(), QStringLiteral("overview"));
+}
+
+void tst_DisplayWindow::soleButtonStandsInTheMiddle()
+{
+    PlayedDisplay display(*source);
+    QVERIFY(display.show());
+    int middle = -1;
+    display.whenOpen<ZEMDialogPopup>([&](ZEMDialogPopup *popup) {
+        QCoreApplication::processEvents();
+        auto *button = popup->findChild<ZEMButton *>(QStringLiteral("btnAccepted"));
+        middle = button->mapTo(popup, button->rect().center()).x();
+        PlayedDisplay::tap(button);
+    });
+    display.window.openMessages();
+    QVERIFY2(qAbs(middle - display.window.rect().center().x()) <= 1,
+             qPrintable(QString::number(middle)));
 }
 
 void tst_DisplayWindow::messagesAreCountedUntilSeen()

@@ -9,8 +9,8 @@
 #include "pagelook.h"
 
 #include <KeyboardFactoryDefault>
+#include <QBoxLayout>
 #include <QFontMetrics>
-#include <QLayout>
 #include <QListView>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
@@ -199,7 +199,11 @@ void InputDialogs::read(const QString &title, const QString &text)
 void InputDialogs::inform(const QString &text)
 {
     ZEMDialogPopup dialog(window);
-    hideIdleButtons(&dialog);
+    // The button that is left stands in the middle.
+    auto *rejected = dialog.findChild<ZEMButton *>(QStringLiteral("btnRejected"));
+    auto *row = dialog.findChild<QHBoxLayout *>(QStringLiteral("horizontalLayout"));
+    delete row->takeAt(row->indexOf(rejected) + 1);
+    rejected->hide();
     dialog.clearText();
     dialog.setTextLine1(text);
     fitDialog(&dialog, window->size());
