@@ -82,7 +82,7 @@ QSize screenOf(const Options &options, int argc, char *argv[])
         // By how much everything is larger has to be known before there is an application.
         const QGuiApplication look(argc, argv);
         const QScreen *whole = QGuiApplication::primaryScreen();
-        return whole->size() * whole->devicePixelRatio();
+        return whole ? whole->size() * whole->devicePixelRatio() : PageLook::pageSize;
     }
     return options.size.value_or(PageLook::pageSize);
 }
@@ -284,6 +284,11 @@ int main(int argc, char *argv[])
     DisplayScale::prepare(screen);
     const QSize pageSize = DisplayScale::pageSizeOn(screen);
     const QApplication application(argc, argv);
+    if (!QGuiApplication::primaryScreen()) {
+        printError(QStringLiteral("zemkit-display: there is no screen for the platform %1")
+                       .arg(QGuiApplication::platformName()));
+        return exitFailure;
+    }
     nameApplication();
     Language::speak(options.language);
     setLook();

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void screenshotsOfASize();
     void badSize_data();
     void badSize();
+    void boardWithoutAScreen();
     void missingFontsAreNamed();
 
 private:
@@ -556,6 +557,15 @@ void tst_DisplayProgram::badSize()
                  QStringLiteral("--size wants WIDTHxHEIGHT, at least 640x480 or 480x800, not '%1'")
                      .arg(size)),
              qPrintable(result.errors));
+}
+
+void tst_DisplayProgram::boardWithoutAScreen()
+{
+    const Result result = run({}, {QStringLiteral("QT_QPA_PLATFORM=linuxfb:fb=/nowhere")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(
+        result.errors.endsWith(QStringLiteral("there is no screen for the platform linuxfb\n")),
+        qPrintable(result.errors));
 }
 
 void tst_DisplayProgram::missingFontsAreNamed()
