@@ -3,7 +3,6 @@
 
 #include "houseclock.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 #include <limits>
@@ -25,9 +24,6 @@ private Q_SLOTS:
     void fasterClockStartsWithTheSystem();
     void speedStaysInRange_data();
     void speedStaysInRange();
-    void waitIsExact_data();
-    void waitIsExact();
-    void waitReachesItsInstant();
     void speeds_data();
     void speeds();
 };
@@ -82,41 +78,6 @@ void tst_HouseClock::speedStaysInRange()
     QFETCH(double, speed);
     QFETCH(double, taken);
     QCOMPARE(HouseClock(start, speed).speed(), taken);
-}
-
-void tst_HouseClock::waitIsExact_data()
-{
-    QTest::addColumn<double>("speed");
-    QTest::addColumn<qint64>("seconds");
-    QTest::addColumn<int>("milliseconds");
-    QTest::newRow("now") << 1.0 << Q_INT64_C(0) << 0;
-    QTest::newRow("past") << 1.0 << Q_INT64_C(-60) << 0;
-    QTest::newRow("a minute") << 1.0 << Q_INT64_C(60) << 60000;
-    QTest::newRow("a minute, faster") << 60.0 << Q_INT64_C(60) << 1000;
-    QTest::newRow("never early") << 7.0 << Q_INT64_C(1) << 143;
-    QTest::newRow("at most a day") << 1.0 << Q_INT64_C(1000000) << 86400000;
-}
-
-void tst_HouseClock::waitIsExact()
-{
-    QFETCH(double, speed);
-    QFETCH(qint64, seconds);
-    QFETCH(int, milliseconds);
-    QCOMPARE(HouseClock(start, speed).millisecondsUntil(noon + seconds, start), milliseconds);
-}
-
-void tst_HouseClock::waitReachesItsInstant()
-{
-    QRandomGenerator random(99);
-    for (int i = 0; i < 10000; ++i) {
-        const double speed = 1.0 + random.bounded(5000);
-        const HouseClock clock(start, speed);
-        const qint64 now = start + random.bounded(100000000);
-        const qint64 wanted = clock.instantAt(now) + random.bounded(86400);
-        const int wait = clock.millisecondsUntil(wanted, now);
-        QVERIFY(clock.instantAt(now + wait) >= wanted);
-        QVERIFY(wait == 0 || clock.instantAt(now + wait - 1) < wanted);
-    }
 }
 
 void tst_HouseClock::speeds_data()

@@ -9,7 +9,6 @@
 namespace {
 
 constexpr double millisecondsPerSecond = 1000.0;
-constexpr double longestWait = 86400.0 * millisecondsPerSecond;
 
 } // namespace
 
@@ -22,13 +21,6 @@ qint64 HouseClock::instantAt(qint64 systemNow) const
 {
     const double passed = double(systemNow - start) * factor;
     return qint64(std::floor((double(start) + passed) / millisecondsPerSecond));
-}
-
-int HouseClock::millisecondsUntil(qint64 instant, qint64 systemNow) const
-{
-    const double due =
-        double(start) + (double(instant) * millisecondsPerSecond - double(start)) / factor;
-    return int(std::clamp(std::ceil(due - double(systemNow)), 0.0, longestWait));
 }
 
 std::optional<double> parseSpeed(const QString &text)

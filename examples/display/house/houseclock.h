@@ -37,13 +37,6 @@ public:
     /** The house's time in seconds since 1970-01-01 UTC, when the system's is @p systemNow ms. */
     qint64 instantAt(qint64 systemNow) const;
 
-    /**
-     * How long a timer has to wait until the house's time is @p instant, in milliseconds of the
-     * system; 0 if it is past. At most a day, since no timer should sleep through a clock that is
-     * set.
-     */
-    int millisecondsUntil(qint64 instant, qint64 systemNow) const;
-
 private:
     qint64 start;
     double factor;
