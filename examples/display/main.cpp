@@ -24,6 +24,7 @@
 #include "screenshots.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QEventLoop>
 #include <QLocale>
@@ -151,7 +152,8 @@ std::unique_ptr<EnergySource> makeSource(const Options &options, const QSize &pa
     if (household) {
         return std::make_unique<ReadingsSource>(std::move(*household));
     }
-    auto house = std::make_unique<HouseSource>(options.speed);
+    auto house = std::make_unique<HouseSource>(
+        HouseClock(QDateTime::currentMSecsSinceEpoch(), options.speed));
     doWithNotice(
         QCoreApplication::translate("main", "Het huis komt tot leven …"), [&] { house->prepare(); },
         pageSize);

@@ -6,6 +6,7 @@
 #include "look.h"
 #include "pagetable.h"
 #include "stage.h"
+#include "stillness.h"
 
 #include <KeyboardFactoryDefault>
 #include <QDir>
@@ -13,11 +14,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QTimer>
-#include <QVariant>
 #include <QWidget>
-#include <ZEMAnimatedArrows>
-#include <ZEMPixmap>
-#include <ZEMThrobber>
 
 namespace {
 
@@ -42,29 +39,6 @@ QImage slim(const QImage &image)
         }
     }
     return opaque.convertToFormat(QImage::Format_Indexed8, colors, Qt::ThresholdDither);
-}
-
-/** Stops what moves at one and the same moment, so that a picture is like the one before it. */
-void holdStill(const QWidget *sample)
-{
-    const auto waves = sample->findChildren<ZEMAnimatedArrows *>();
-    for (ZEMAnimatedArrows *arrows : waves) {
-        if (arrows->getRunning()) {
-            arrows->stop();
-            qreal opacity = 1.0;
-            const auto icons = arrows->findChildren<ZEMPixmap *>();
-            for (ZEMPixmap *arrow : icons) {
-                arrow->setOpacity(opacity);
-                opacity -= 0.3;
-            }
-        }
-    }
-    const auto throbbers = sample->findChildren<ZEMThrobber *>();
-    for (ZEMThrobber *throbber : throbbers) {
-        if (!throbber->property("pixmap").value<QPixmap>().isNull()) {
-            throbber->pause();
-        }
-    }
 }
 
 QImage pictureOf(const GalleryPage &page, KeyboardFactoryDefault *keyboards,

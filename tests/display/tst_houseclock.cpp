@@ -22,6 +22,7 @@ private Q_SLOTS:
     void realTimeIsTheSystems();
     void fasterClockStartsWithTheSystem_data();
     void fasterClockStartsWithTheSystem();
+    void clockMayBeginAtAnotherTime();
     void speedStaysInRange_data();
     void speedStaysInRange();
     void speeds_data();
@@ -60,6 +61,13 @@ void tst_HouseClock::fasterClockStartsWithTheSystem()
     QFETCH(qint64, seconds);
     const HouseClock clock(start, speed);
     QCOMPARE(clock.instantAt(start + milliseconds), noon + seconds);
+}
+
+void tst_HouseClock::clockMayBeginAtAnotherTime()
+{
+    const HouseClock clock(start, 60.0, (noon - 86400) * 1000);
+    QCOMPARE(clock.instantAt(start), noon - 86400);
+    QCOMPARE(clock.instantAt(start + 2000), noon - 86400 + 120);
 }
 
 void tst_HouseClock::speedStaysInRange_data()

@@ -12,15 +12,21 @@ constexpr double millisecondsPerSecond = 1000.0;
 
 } // namespace
 
+HouseClock::HouseClock(qint64 systemStart, double speed, qint64 begin)
+    : start(systemStart), first(begin),
+      factor(std::isnan(speed) ? 1.0 : std::clamp(speed, slowest, fastest))
+{
+}
+
 HouseClock::HouseClock(qint64 systemStart, double speed)
-    : start(systemStart), factor(std::isnan(speed) ? 1.0 : std::clamp(speed, slowest, fastest))
+    : HouseClock(systemStart, speed, systemStart)
 {
 }
 
 qint64 HouseClock::instantAt(qint64 systemNow) const
 {
     const double passed = double(systemNow - start) * factor;
-    return qint64(std::floor((double(start) + passed) / millisecondsPerSecond));
+    return qint64(std::floor((double(first) + passed) / millisecondsPerSecond));
 }
 
 std::optional<double> parseSpeed(const QString &text)

@@ -26,10 +26,12 @@ public:
     static constexpr double fastest = 86400.0;
 
     /**
-     * A clock that shows @p systemStart, the system's time in milliseconds since 1970-01-01 UTC,
-     * and goes @p speed times as fast from then on. A speed out of range counts as the nearest that
-     * is in it, one that is no number as 1.
+     * A clock that shows @p begin when the system's time is @p systemStart, both in milliseconds
+     * since 1970-01-01 UTC, and goes @p speed times as fast from then on. A speed out of range
+     * counts as the nearest that is in it, one that is no number as 1.
      */
+    HouseClock(qint64 systemStart, double speed, qint64 begin);
+    /** A clock that begins with the system's time. */
     explicit HouseClock(qint64 systemStart, double speed = 1.0);
 
     double speed() const { return factor; }
@@ -39,6 +41,7 @@ public:
 
 private:
     qint64 start;
+    qint64 first;
     double factor;
 };
 

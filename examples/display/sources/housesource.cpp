@@ -14,6 +14,11 @@ constexpr qint64 recordInterval = 5 * secondsPerMinute;
 constexpr int tick = 1000; // milliseconds
 constexpr int yearsOfHistory = 2;
 
+qint64 instantNow(const HouseClock &clock)
+{
+    return clock.instantAt(QDateTime::currentMSecsSinceEpoch());
+}
+
 qint64 startOfHistory(qint64 now)
 {
     return QDateTime::fromSecsSinceEpoch(now).toUTC().addYears(-yearsOfHistory).toSecsSinceEpoch();
@@ -21,11 +26,10 @@ qint64 startOfHistory(qint64 now)
 
 } // namespace
 
-HouseSource::HouseSource(double speed, QObject *parent)
-    : EnergySource(parent), clock(QDateTime::currentMSecsSinceEpoch(), speed),
-      house(seed, utrecht, QTimeZone("Europe/Amsterdam"),
-            startOfHistory(QDateTime::currentSecsSinceEpoch())),
-      recorder(&house, &readings), instant(QDateTime::currentSecsSinceEpoch()), recorded(instant)
+HouseSource::HouseSource(const HouseClock &houseClock, QObject *parent)
+    : EnergySource(parent), clock(houseClock),
+      house(seed, utrecht, QTimeZone("Europe/Amsterdam"), startOfHistory(instantNow(clock))),
+      recorder(&house, &readings), instant(instantNow(clock)), recorded(instant)
 {
     timer.setInterval(tick);
     connect(&timer, &QTimer::timeout, this, &HouseSource::followClock);
@@ -73,7 +77,7 @@ PowerDay HouseSource::powerDay(const QDate &date) const
 void HouseSource::followClock()
 {
     const qint64 before = instant;
-    instant = clock.instantAt(QDateTime::currentMSecsSinceEpoch());
+    instant = instantNow(clock);
     // Power changes with the minute only.
     if (instant / secondsPerMinute != before / secondsPerMinute) {
         Q_EMIT powerChanged();

@@ -12,14 +12,14 @@
 
 #include <QTimer>
 
-/** A simulated house with two years of history, which lives on from now. */
+/** A simulated house with two years of history, which lives on. */
 class HouseSource : public EnergySource, public MinutePower
 {
     Q_OBJECT
 
 public:
-    /** @p speed is how much faster than the clock on the wall the house lives. */
-    explicit HouseSource(double speed, QObject *parent = nullptr);
+    /** The house lives by @p houseClock, from what that shows now. */
+    explicit HouseSource(const HouseClock &houseClock, QObject *parent = nullptr);
 
     /** Counts the history. */
     void prepare() override;
