@@ -237,7 +237,7 @@ void tst_ChartValues::slotsHaveTheirTimes()
     for (std::size_t i = 0; i < chart.values.size(); ++i) {
         const Readings::Interval interval =
             intervalOfSlot(calendar, Period(period), chart.newestWindow, chart.slotOf(i));
-        const auto measured = Calendar::measured({meter.get()}, interval);
+        const auto measured = Calendar::measured({meter.get()}, interval, 0);
         QCOMPARE(measured ? measured->amount : -1.0, chart.values[i].value_or(-1.0));
     }
 }

@@ -51,7 +51,7 @@ QStringList chartsOf(const Household &household)
     const Calendar calendar(household.timeZone);
     for (const auto &[meterRegister, meter] : household.meters) {
         const DateRange range {calendar.dateAt(*household.firstInstant()),
-                               calendar.dateAt(*household.lastInstant())};
+                               calendar.dateAt(*household.lastInstant()), household.readUntil()};
         std::vector<Calendar::Meters> allMeters {{&meter},
                                                  household.metersOf(meterRegister.quantity)};
         for (const Calendar::Meters &meters : allMeters) {

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void nothingIsKnownBeforeTheFirstContract();
     void quantityWithoutAPriceIsNotKnown();
     void whatWasNotMeasuredMakesALeastOrAMost();
+    void meterThatFellSilentMakesALeast_data();
+    void meterThatFellSilentMakesALeast();
     void unmeasuredQuantityMakesTheTotalALeast();
     void standingChargeGoesByDays();
     void standingChargeCountsSoFar();
@@ -221,6 +223,35 @@ void tst_PeriodCosts::whatWasNotMeasuredMakesALeastOrAMost()
     QVERIFY(!given.mayBeMore && given.mayBeLess);
     const Cost forNothing = costAt(Quantity::GridExport, 0);
     QVERIFY(forNothing.isTold() && !forNothing.mayBeMore && !forNothing.mayBeLess);
+}
+
+void tst_PeriodCosts::meterThatFellSilentMakesALeast_data()
+{
+    QTest::addColumn<bool>("isHourly");
+    QTest::newRow("one price") << false;
+    QTest::newRow("prices of hours") << true;
+}
+
+void tst_PeriodCosts::meterThatFellSilentMakesALeast()
+{
+    QFETCH(bool, isHourly);
+    Household house = household();
+    countHours(&house, {Quantity::GridImport}, at(january), 48, 0.5);
+    CostRules rules {{{january, {{Quantity::GridImport, {100000, 100000, isHourly}}}}}};
+    for (int hour = 0; hour < 31 * 24; ++hour) {
+        rules.prices.add(at(january) + qint64(hour) * 3600, 0);
+    }
+    const auto cost = [&] {
+        return costOf(house, rules, Quantity::GridImport, monthFrom(january));
+    };
+    QCOMPARE(cost().cents(), 2400);
+    QVERIFY(!cost().mayBeMore);
+    // Still in January, it may come back.
+    countDays(&house, {Quantity::Gas}, january, QDate(2024, 1, 31), 1.0);
+    QVERIFY(!cost().mayBeMore);
+    countDays(&house, {Quantity::Gas}, february, march, 1.0);
+    QCOMPARE(cost().cents(), 2400);
+    QVERIFY(cost().mayBeMore && !cost().mayBeLess);
 }
 
 void tst_PeriodCosts::unmeasuredQuantityMakesTheTotalALeast()

@@ -22,11 +22,15 @@ constexpr double gapMark = std::numeric_limits<double>::lowest();
 class Slots
 {
 public:
-    explicit Slots(const Calendar::Meters &theMeters) : meters(theMeters) { }
+    Slots(const Calendar::Meters &theMeters, const DateRange &range)
+        : meters(theMeters), readUntil(range.readUntil)
+    {
+    }
 
     void add(const Readings::Interval &slot)
     {
-        const std::optional<Readings::Measured> measured = Calendar::measured(meters, slot);
+        const std::optional<Readings::Measured> measured =
+            Calendar::measured(meters, slot, readUntil);
         if (measured && !measured->isComplete) {
             parts.push_back(values.size());
         }
@@ -44,6 +48,7 @@ public:
 
 private:
     const Calendar::Meters &meters;
+    const qint64 readUntil;
     std::vector<std::optional<double>> values;
     std::vector<std::size_t> parts;
 };
@@ -52,7 +57,7 @@ private:
 ChartValues dayValues(const Calendar &calendar, const Calendar::Meters &meters,
                       const DateRange &range)
 {
-    Slots slots(meters);
+    Slots slots(meters, range);
     for (QDate date = range.first; date <= range.last; date = date.addDays(1)) {
         for (int hour = 0; hour < Calendar::hoursPerDay; ++hour) {
             slots.add(calendar.hour(date, hour));
@@ -64,7 +69,7 @@ ChartValues dayValues(const Calendar &calendar, const Calendar::Meters &meters,
 ChartValues weekValues(const Calendar &calendar, const Calendar::Meters &meters,
                        const DateRange &range)
 {
-    Slots slots(meters);
+    Slots slots(meters, range);
     const QDate newest = Calendar::mondayOf(range.last);
     const QDate end = newest.addDays(Calendar::daysPerWeek);
     for (QDate date = Calendar::mondayOf(range.first); date < end; date = date.addDays(1)) {
@@ -86,7 +91,7 @@ ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters
         return newestWeek.addDays(-Calendar::daysPerWeek * qint64(count));
     };
 
-    Slots slots(meters);
+    Slots slots(meters, range);
     for (int back = windows * weeksInView - 1; back >= 0; --back) {
         slots.add(calendar.week(weeksBack(back)));
     }
@@ -96,7 +101,7 @@ ChartValues monthValues(const Calendar &calendar, const Calendar::Meters &meters
 ChartValues yearValues(const Calendar &calendar, const Calendar::Meters &meters,
                        const DateRange &range)
 {
-    Slots slots(meters);
+    Slots slots(meters, range);
     const QDate newest(range.last.year(), 1, 1);
     for (QDate month(range.first.year(), 1, 1); month < newest.addYears(1);
          month = month.addMonths(1)) {

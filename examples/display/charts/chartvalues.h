@@ -33,9 +33,10 @@ struct ChartValues
 
 /**
  * Sums of @p meters by calendar: hours, days, weeks or months, whose last window holds the last
- * date. A slot of which only a part was measured, since the readings begin in it or pause, shows
- * that part and is incomplete. The hour of the night that summer time takes away is a gap; the one
- * that winter time gives belongs to the hour of the same name.
+ * date. A slot of which only a part was measured, since the readings begin in it, pause or, though
+ * those of other meters go on, end, shows that part and is incomplete. The hour of the night that
+ * summer time takes away is a gap; the one that winter time gives belongs to the hour of the same
+ * name.
  */
 ChartValues chartValues(const Readings::Calendar &calendar,
                         const Readings::Calendar::Meters &meters, Period period,

@@ -107,6 +107,7 @@ void EnergyChart::feed(const Readings::Calendar &houseCalendar, const DateRange 
 {
     calendar = houseCalendar;
     today = itsToday;
+    readUntil = range.readUntil;
     feed(&upper, range);
     if (lower.chart) {
         feed(&lower, range);
@@ -260,7 +261,8 @@ QString EnergyChart::yearOf(int firstSlot, int lastSlot) const
 QString EnergyChart::amounts(const Readings::Interval &interval) const
 {
     const auto amountOf = [&](const Series &series) {
-        return ViewTexts::amount(Readings::Calendar::measured(series.meters, interval), unit);
+        return ViewTexts::amount(Readings::Calendar::measured(series.meters, interval, readUntil),
+                                 unit);
     };
     QString texts = amountOf(upper.series.front());
     if (!lower.series.empty()) {

@@ -83,6 +83,7 @@ private:
     Readings::Calendar calendar {QTimeZone::utc()};
     QDate newestWindow; ///< the date of x = 0
     QDate today;
+    qint64 readUntil = 0;
     std::optional<int> picked;
     QwtInterval view;
     bool isPressed = false;

@@ -65,7 +65,8 @@ void MonthsTable::show(const Readings::Household &household)
         QStringList cells;
         for (const Quantity quantity : quantities) {
             cells.append(ViewTexts::number(
-                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month)),
+                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month),
+                                             household.readUntil()),
                 decimalsOf(quantity)));
         }
         rows.push_back({month, cells});

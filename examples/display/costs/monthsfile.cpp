@@ -131,7 +131,8 @@ QByteArray MonthsFile::row(const QDate &month) const
     const Readings::Calendar calendar(household.timeZone);
     for (const Quantity quantity : amounts) {
         row.add(amountColumn(quantity),
-                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month)));
+                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month),
+                                             household.readUntil()));
     }
     if (rules) {
         const MonthCosts paid = costsOfMonth(household, *rules, month);

@@ -62,7 +62,8 @@ Cost byTariff(const Household &household, Quantity quantity, const Interval &str
          {std::pair(Tariff::Low, rate.low), std::pair(Tariff::Normal, rate.normal)}) {
         if (isTold) {
             const Calendar::Meters meter {&household.meters.at({quantity, tariff})};
-            cost.add(Calendar::measured(meter, stretch), paid(quantity, price));
+            cost.add(Calendar::measured(meter, stretch, household.readUntil()),
+                     paid(quantity, price));
         } else {
             cost.addUnknown(paid(quantity, price));
         }
@@ -75,13 +76,14 @@ Cost byHour(const Household &household, Quantity quantity, const Interval &stret
 {
     Cost cost;
     const Calendar::Meters meters = household.metersOf(quantity);
-    Interval rest = untilLastReading(meters, stretch);
+    const qint64 end = household.readUntil();
+    Interval rest = stretch.to > end ? untilLastReading(meters, stretch) : stretch;
     double counted = 0.0;
     qint64 charged = 0;
     while (!rest.isEmpty()) {
         const PriceList::Stretch hour = prices.firstOf(rest);
         rest.from = hour.interval.to;
-        const std::optional<Measured> measured = Calendar::measured(meters, hour.interval);
+        const std::optional<Measured> measured = Calendar::measured(meters, hour.interval, end);
         if (!hour.price) {
             if (!isNothing(measured)) {
                 cost.addUnknown();
@@ -108,7 +110,7 @@ Cost ofStretch(const Household &household, const CostRules &rules, Quantity quan
 {
     Cost cost;
     const std::optional<Measured> measured =
-        Calendar::measured(household.metersOf(quantity), stretch);
+        Calendar::measured(household.metersOf(quantity), stretch, household.readUntil());
     const Rate *rate = contract ? contract->rateOf(quantity) : nullptr;
     if (!rate) {
         if (measured && thousandthsOf(measured->amount) > 0) {

@@ -62,9 +62,10 @@ void fitDayNames(QwtPlot *plot)
 }
 
 /** The dates of the newest window of a chart. */
-DateRange newestOnly(Period period, const QDate &last)
+DateRange newestOnly(Period period, DateRange dates)
 {
-    return {period == Period::Week ? Readings::Calendar::mondayOf(last) : last, last};
+    dates.first = period == Period::Week ? Readings::Calendar::mondayOf(dates.last) : dates.last;
+    return dates;
 }
 
 } // namespace
@@ -253,7 +254,7 @@ ChartValues OverviewPage::feed(const SmallChart &small, Quantity quantity)
     const Readings::Household &household = energySource().household();
     const Readings::Calendar calendar(household.timeZone);
     const ChartValues values = chartValues(calendar, household.metersOf(quantity), small.period,
-                                           newestOnly(small.period, dates().last));
+                                           newestOnly(small.period, dates()));
     small.series->setColor(ZEMStyle(nullptr).color(lookOf(quantity).color));
     small.series->setValues(values);
     small.chart->setValueLimits(QwtInterval(0.0, std::max(largestValue(values), leastLimit)));

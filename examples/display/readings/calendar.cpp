@@ -67,14 +67,15 @@ int Calendar::hourAt(qint64 instant) const
     return QDateTime::fromSecsSinceEpoch(instant, clock.timeZone()).time().hour();
 }
 
-std::optional<Measured> Calendar::measured(const Meters &meters, const Interval &slot)
+std::optional<Measured> Calendar::measured(const Meters &meters, const Interval &slot,
+                                           qint64 readUntil)
 {
     Measured sum;
     bool isKnown = false;
     for (const Meter *meter : meters) {
         const std::optional<qint64> last = meter->lastInstant();
-        const Interval counted {slot.from,
-                                last && *last > slot.from ? std::min(slot.to, *last) : slot.to};
+        const bool isRunning = slot.to > readUntil && last && *last > slot.from;
+        const Interval counted {slot.from, isRunning ? std::min(slot.to, *last) : slot.to};
         const std::optional<Measured> part = meter->measured(counted);
         isKnown = isKnown || part;
         sum.isComplete = sum.isComplete && part && part->isComplete;

@@ -63,11 +63,13 @@ public:
     int hourAt(qint64 instant) const;
 
     /**
-     * What several meters measured in a slot, each of them up to its last reading if the slot is
-     * still running. It is incomplete if that of one of them is, or if one knows nothing; empty if
+     * What several meters measured in a slot. @p readUntil is when anything of the household was
+     * read last: a slot that ends after it is still running, and counts up to the last reading of
+     * each meter. It is incomplete if that of one of them is, or if one knows nothing; empty if
      * none knows anything, and for the slot of a skipped hour.
      */
-    static std::optional<Measured> measured(const Meters &meters, const Interval &slot);
+    static std::optional<Measured> measured(const Meters &meters, const Interval &slot,
+                                            qint64 readUntil);
 
     /** 24 amounts, of the hours of a day. */
     Amounts hoursOfDay(const Meters &meters, const QDate &date) const;

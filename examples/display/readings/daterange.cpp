@@ -10,7 +10,7 @@ DateRange datesOf(const Readings::Household &household)
 {
     const Readings::Calendar calendar(household.timeZone);
     const qint64 first = household.firstInstant().value_or(0);
+    const qint64 end = household.readUntil();
     // What ends at midnight belongs to the day before.
-    const qint64 last = household.lastInstant().value_or(0) - 1;
-    return {calendar.dateAt(first), calendar.dateAt(qMax(first, last))};
+    return {calendar.dateAt(first), calendar.dateAt(qMax(first, end - 1)), end};
 }

@@ -5,6 +5,7 @@
 #define DATERANGE_H
 
 #include <QDate>
+#include <QtGlobal>
 
 namespace Readings {
 class Household;
@@ -15,6 +16,8 @@ struct DateRange
 {
     QDate first;
     QDate last;
+    /** Until when anything was read, seconds since 1970-01-01 UTC; 0 if nothing was. */
+    qint64 readUntil = 0;
 };
 
 /** The days, by the clock of the house, on which its meters counted. */

@@ -99,6 +99,8 @@ public:
     /** The first and the last instant of which any meter knows something; empty without data. */
     std::optional<qint64> firstInstant() const;
     std::optional<qint64> lastInstant() const;
+    /** lastInstant(), or 0 without data. */
+    qint64 readUntil() const { return lastInstant().value_or(0); }
 
     /**
      * The latest grid power: the measured one, or else the mean of the last interval in which

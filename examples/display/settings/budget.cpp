@@ -51,7 +51,7 @@ std::optional<Readings::Measured> takenOn(const Readings::Household &household, 
 {
     const Readings::Calendar calendar(household.timeZone);
     return Readings::Calendar::measured(household.metersOf(Readings::Quantity::GridImport),
-                                        calendar.day(date));
+                                        calendar.day(date), household.readUntil());
 }
 
 } // namespace Budget
