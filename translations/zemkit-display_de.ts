@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Verbrauch</translation>
+        <source>Van het net</source>
+        <translation>Aus dem Netz</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>Profil</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>Jahresziel</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>Jahresziel, aus dem Netz</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Strom im Jahr, in kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>Aus dem Netz im Jahr, in kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>Budget: %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>Budget aus dem Netz, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>bisher %1 Euro</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>aus dem Netz, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -351,8 +355,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>Verbr.</translation>
+        <source>van het net</source>
+        <translation>Bezug</translation>
     </message>
     <message>
         <source>terug</source>
@@ -653,8 +657,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>Verbrauch</translation>
+        <source>van het net</source>
+        <translation>aus dem Netz</translation>
     </message>
     <message>
         <source>teruglevering</source>

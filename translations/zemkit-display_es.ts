@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Consumo</translation>
+        <source>Van het net</source>
+        <translation>De la red</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>perfil</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>objetivo anual</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>objetivo anual, de la red</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Electricidad al año, en kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>De la red al año, en kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>presupuesto: %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>presupuesto de la red, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>hasta ahora %1 euros</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>de la red, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -351,8 +355,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>consumo</translation>
+        <source>van het net</source>
+        <translation>de la red</translation>
     </message>
     <message>
         <source>terug</source>
@@ -653,8 +657,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>consumo</translation>
+        <source>van het net</source>
+        <translation>de la red</translation>
     </message>
     <message>
         <source>teruglevering</source>

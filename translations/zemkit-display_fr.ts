@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Conso.</translation>
+        <source>Van het net</source>
+        <translation>Du réseau</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>profil</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>objectif annuel</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>objectif annuel, du réseau</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Électricité par an, en kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>Du réseau par an, en kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>budget&#xa0;: %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>budget du réseau, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>jusqu’ici %1 euros</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>du réseau, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -351,8 +355,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>conso.</translation>
+        <source>van het net</source>
+        <translation>du réseau</translation>
     </message>
     <message>
         <source>terug</source>
@@ -653,8 +657,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>consommation</translation>
+        <source>van het net</source>
+        <translation>du réseau</translation>
     </message>
     <message>
         <source>teruglevering</source>

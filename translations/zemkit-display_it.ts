@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Consumo</translation>
+        <source>Van het net</source>
+        <translation>Dalla rete</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>profilo</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>obiettivo annuale</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>obiettivo annuale, dalla rete</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Elettricità all’anno, in kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>Dalla rete all’anno, in kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>budget: %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>budget dalla rete, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>finora %1 euro</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>dalla rete, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -351,8 +355,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>consumo</translation>
+        <source>van het net</source>
+        <translation>dalla rete</translation>
     </message>
     <message>
         <source>terug</source>
@@ -653,8 +657,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>consumo</translation>
+        <source>van het net</source>
+        <translation>dalla rete</translation>
     </message>
     <message>
         <source>teruglevering</source>

@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Verbruik</translation>
+        <source>Van het net</source>
+        <translation>Van het net</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>profiel</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>doel van een jaar</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>doel van een jaar, van het net</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Stroom in een jaar, in kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>Van het net in een jaar, in kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>budget van %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>budget van het net, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>tot nu toe %1 euro</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>van het net, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -351,8 +355,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>verbruik</translation>
+        <source>van het net</source>
+        <translation>van het net</translation>
     </message>
     <message>
         <source>terug</source>
@@ -653,8 +657,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>verbruik</translation>
+        <source>van het net</source>
+        <translation>van het net</translation>
     </message>
     <message>
         <source>teruglevering</source>

@@ -181,8 +181,8 @@
 <context>
     <name>Energy</name>
     <message>
-        <source>Verbruik</source>
-        <translation>Zużycie</translation>
+        <source>Van het net</source>
+        <translation>Z sieci</translation>
     </message>
     <message>
         <source>Laag tarief</source>
@@ -240,12 +240,12 @@
         <translation>profil</translation>
     </message>
     <message>
-        <source>doel van een jaar</source>
-        <translation>cel roczny</translation>
+        <source>doel van een jaar, van het net</source>
+        <translation>cel roczny, z sieci</translation>
     </message>
     <message>
-        <source>Stroom in een jaar, in kWh</source>
-        <translation>Prąd na rok, w kWh</translation>
+        <source>Van het net in een jaar, in kWh</source>
+        <translation>Z sieci na rok, w kWh</translation>
     </message>
     <message>
         <source>Een getal van 1 tot %L1 kWh</source>
@@ -256,8 +256,8 @@
         <translation>%L1 kWh</translation>
     </message>
     <message>
-        <source>budget van %1</source>
-        <translation>budżet: %1</translation>
+        <source>budget van het net, %1</source>
+        <translation>budżet z sieci, %1</translation>
     </message>
     <message>
         <source>tot nu toe € %1</source>
@@ -266,6 +266,10 @@
     <message>
         <source>tot nu toe %1 euro</source>
         <translation>dotychczas %1 euro</translation>
+    </message>
+    <message>
+        <source>van het net, %1</source>
+        <translation>z sieci, %1</translation>
     </message>
     <message>
         <source>gisteren</source>
@@ -353,8 +357,8 @@
 <context>
     <name>MonthsTable</name>
     <message>
-        <source>verbruik</source>
-        <translation>zużycie</translation>
+        <source>van het net</source>
+        <translation>z sieci</translation>
     </message>
     <message>
         <source>terug</source>
@@ -656,8 +660,8 @@
 <context>
     <name>QuantityLook</name>
     <message>
-        <source>verbruik</source>
-        <translation>zużycie</translation>
+        <source>van het net</source>
+        <translation>z sieci</translation>
     </message>
     <message>
         <source>teruglevering</source>

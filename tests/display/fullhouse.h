@@ -10,13 +10,13 @@
 class FullHouse : public PlayedSource
 {
 public:
-    FullHouse()
+    explicit FullHouse(int days = 60)
     {
         using Readings::Quantity;
         for (const Quantity quantity :
              {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction, Quantity::Gas,
               Quantity::Heating, Quantity::Water}) {
-            count(quantity, 60, 1.25);
+            count(quantity, days, 1.25);
         }
         time = QDateTime(QDate(2016, 5, 5), QTime(20, 48), readings.timeZone);
         report = PowerReport {-11800.0,

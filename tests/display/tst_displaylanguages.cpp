@@ -1,23 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "fittedtableview.h"
 #include "fullhouse.h"
 #include "language.h"
+#include "monthstable.h"
 #include "pagelook.h"
 #include "playedsource.h"
+#include "powerday.h"
+#include "quantitylook.h"
 #include "screenfaults.h"
 #include "screenshots.h"
 #include "yearhistogram.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QMap>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTranslator>
+#include <ZEMButton>
 #include <cstdio>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
 #include <qwt_text.h>
+
+using Readings::Quantity;
 
 namespace {
 
@@ -43,6 +51,27 @@ bool isInWords(QString text)
     return text.remove(same).contains(word);
 }
 
+/** Whether @p name stands in @p text by itself, in whatever case. */
+bool hasWord(const QString &text, const QString &name)
+{
+    const QRegularExpression word(
+        QStringLiteral("(?<!\\p{L})%1(?!\\p{L})").arg(QRegularExpression::escape(name)),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    return word.match(text).hasMatch();
+}
+
+/** What everything costs that has a price, for the pages to tell. */
+Costs::CostRules pricesOfEverything()
+{
+    return {{{QDate(2016, 1, 1),
+              {{Quantity::GridImport, {25000, 30000}},
+               {Quantity::GridExport, {10000, 10000}},
+               {Quantity::Gas, {120000, 120000}},
+               {Quantity::Heating, {4000000, 4000000}},
+               {Quantity::Water, {100000, 100000}}},
+              1250000}}};
+}
+
 void expectNone(const QStringList &faults)
 {
     for (const QString &fault : faults) {
@@ -62,8 +91,12 @@ private Q_SLOTS:
     void everyTextCanBeTranslated();
     void monthsAreToldApart_data() { addLanguages(); }
     void monthsAreToldApart();
+    void importAndConsumptionHaveTheirOwnNames_data() { addLanguages(); }
+    void importAndConsumptionHaveTheirOwnNames();
     void textsFit_data() { addLanguages(); }
     void textsFit();
+    void monthsFitAnUprightScreen_data() { addLanguages(); }
+    void monthsFitAnUprightScreen();
 
 private:
     static void addLanguages();
@@ -115,12 +148,59 @@ void tst_DisplayLanguages::monthsAreToldApart()
     QVERIFY2(!months.join(QString()).contains(QLatin1Char('.')), qPrintable(months.join(u' ')));
 }
 
+/** What was taken from the grid is not what a house with panels used, on whatever page. */
+void tst_DisplayLanguages::importAndConsumptionHaveTheirOwnNames()
+{
+    QFETCH(QString, language);
+    Language::speak(language);
+    const QString grid = lookOf(Quantity::GridImport).caption;
+    QCOMPARE(grid, QCoreApplication::translate("DisplayPage", "van het net"));
+    // A heading of a table is short.
+    const QString heading = MonthsTable::tr("van het net");
+    const QStringList used {nameOf(PowerKind::Consumption),
+                            QCoreApplication::translate("ZEMCurrentStatusDetails", "verbruik")};
+
+    const FullHouse source;
+    PlayedDisplay display(source);
+    display.window.setCostRules(pricesOfEverything());
+    QVERIFY(display.show());
+    QMap<QString, int> importTold;
+    QMap<QString, int> consumptionTold;
+    const auto look = [&](const QString &page) {
+        QCoreApplication::processEvents(); // new labels are seen from then on
+        for (const QString &text : ScreenFaults::textsOn(&display.window)) {
+            importTold[page] += int(hasWord(text, grid) || text.startsWith(heading + u'\n'));
+            consumptionTold[page] += int(hasWord(text, used.at(0)) || hasWord(text, used.at(1)));
+        }
+    };
+    for (const QString &page : DisplayWindow::pageNames()) {
+        display.window.openPage(page);
+        look(page);
+        if (auto *change = display.onPage<ZEMButton>("change")) {
+            change->click();
+            look(QStringLiteral("costs"));
+        }
+    }
+    const QMap<QString, int> importExpected {
+        {QStringLiteral("overview"), 2}, {QStringLiteral("charts"), 2},
+        {QStringLiteral("devices"), 0},  {QStringLiteral("analysis"), 0},
+        {QStringLiteral("months"), 1},   {QStringLiteral("costs"), 1},
+        {QStringLiteral("goals"), 3},    {QStringLiteral("settings"), 0}};
+    for (const QString &page : importExpected.keys()) {
+        const bool isOfTheHouse =
+            page == QLatin1String("devices") || page == QLatin1String("analysis");
+        QVERIFY2(importTold.value(page) == importExpected[page], qPrintable(page));
+        QVERIFY2(consumptionTold.value(page) == int(isOfTheHouse), qPrintable(page));
+    }
+}
+
 void tst_DisplayLanguages::textsFit()
 {
     QFETCH(QString, language);
     Language::speak(language);
     const FullHouse source;
     PlayedDisplay display(source);
+    display.window.setCostRules(pricesOfEverything());
     QVERIFY(display.show());
     QStringList faults;
     visitScreens(&display.window, [&](const QString &name) {
@@ -131,6 +211,23 @@ void tst_DisplayLanguages::textsFit()
         }
     });
     expectNone(faults);
+}
+
+void tst_DisplayLanguages::monthsFitAnUprightScreen()
+{
+    QFETCH(QString, language);
+    Language::speak(language);
+    constexpr int untilSeptember = 200; // days; its name is the longest
+    const FullHouse source(untilSeptember);
+    PlayedDisplay display(source);
+    display.window.setFixedSize(480, 800);
+    display.window.setCostRules(pricesOfEverything());
+    display.window.openPage(QStringLiteral("months"));
+    QVERIFY(display.show());
+    const auto *table = display.onPage<FittedTableView>("table");
+    QVERIFY(table->fits());
+    display.onPage<ZEMButton>("change")->click();
+    QVERIFY(table->fits());
 }
 
 int main(int argc, char *argv[])

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void cleanup();
     void incompleteBarIsPalerAndMarkedInTheHeadline();
     void headlineTellsTheTotalOfTheView();
+    void headlineNamesEachOfSeveralAmounts();
     void headlineTellsTheYearUnlessItIsThePresentOne();
     void tappedBarTellsItsSlotUntilTheNextTouch();
     void pickedBarIsPaintedOnTheScreen();
@@ -133,6 +134,32 @@ void tst_EnergyChart::headlineTellsTheTotalOfTheView()
     QTRY_VERIFY2(chart->widget()->title().endsWith(QStringLiteral("\n20,0 m³")),
                  qPrintable(chart->widget()->title()));
     release(canvas(), end);
+}
+
+void tst_EnergyChart::headlineNamesEachOfSeveralAmounts()
+{
+    const qint64 noon = Calendar(household.timeZone).hour(firstDay, 12).from;
+    for (const Register &channel : {Register {Quantity::GridImport, Tariff::Low},
+                                    Register {Quantity::GridImport, Tariff::Normal}}) {
+        Meter &import = household.meter(channel, Meter::Kind::Counter);
+        for (int i = 0; i <= 20; ++i) {
+            import.addReading(noon + i * 3600, 0.25 * i);
+        }
+    }
+    show(energiesOf(household).front());
+    QTRY_COMPARE(chart->widget()->title().section(QLatin1Char('\n'), 1),
+                 QStringLiteral("van het net 4,00 kWh"));
+    Meter &panels = household.meter({Quantity::SolarProduction}, Meter::Kind::Counter);
+    for (int i = 0; i <= 20; ++i) {
+        panels.addReading(noon + i * 3600, 0.125 * i);
+    }
+    show(energiesOf(household).front());
+    QTRY_COMPARE(chart->widget()->title().section(QLatin1Char('\n'), 1),
+                 QStringLiteral("van het net 4,00 kWh\nopwekking 1,00 kWh"));
+    // The legend is a name enough for a single one.
+    show(energiesOf(household).back());
+    QTRY_COMPARE(chart->widget()->title().section(QLatin1Char('\n'), 1),
+                 QStringLiteral("1,00 kWh"));
 }
 
 void tst_EnergyChart::headlineTellsTheYearUnlessItIsThePresentOne()

@@ -83,13 +83,13 @@ void tst_GoalsPage::barAndStars()
 
 void tst_GoalsPage::oldReadingsAreNotOfToday()
 {
-    QVERIFY(hasText(QStringLiteral("budget van vandaag")));
-    QVERIFY(hasText(QStringLiteral("gisteren")));
+    QVERIFY(hasText(QStringLiteral("budget van het net, vandaag")));
+    QVERIFY(hasText(QStringLiteral("van het net, gisteren")));
     const QDateTime before = source.time;
     source.time = before.addDays(1);
     Q_EMIT source.historyChanged();
-    QVERIFY(hasText(withMonthsOfQt(QStringLiteral("budget van 9 mrt. 2016"))));
-    QVERIFY(hasText(withMonthsOfQt(QStringLiteral("8 mrt. 2016"))));
+    QVERIFY(hasText(withMonthsOfQt(QStringLiteral("budget van het net, 9 mrt. 2016"))));
+    QVERIFY(hasText(withMonthsOfQt(QStringLiteral("van het net, 8 mrt. 2016"))));
     source.time = before;
 }
 

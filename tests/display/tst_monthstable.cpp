@@ -113,7 +113,7 @@ void tst_MonthsTable::columnsAreWhatIsMeasured()
         return table.headerData(column, Qt::Horizontal).toString();
     };
     QCOMPARE(title(0), QStringLiteral("maand"));
-    QCOMPARE(title(1), QStringLiteral("verbruik\nkWh"));
+    QCOMPARE(title(1), QStringLiteral("van het net\nkWh"));
     QCOMPARE(title(2), QStringLiteral("warmte\nGJ"));
     QCOMPARE(table.index(0, 2).data().toString(), QStringLiteral("3,88"));
     QCOMPARE(table.index(0, 0).data(Qt::TextAlignmentRole).toInt(),
@@ -157,7 +157,7 @@ void tst_MonthsTable::costsHaveColumnsOfTheirOwn()
         texts.append(table.index(0, column).data().toString());
     }
     QCOMPARE(titles,
-             (QStringList {QStringLiteral("maand"), QStringLiteral("verbruik\n€"),
+             (QStringList {QStringLiteral("maand"), QStringLiteral("van het net\n€"),
                            QStringLiteral("terug\n€"), QStringLiteral("gas\n€"),
                            QStringLiteral("totaal\n€")}));
     // That the gas costs something and the rest of the export brings something in, leaves no total.

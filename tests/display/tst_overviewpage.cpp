@@ -66,20 +66,20 @@ void tst_OverviewPage::totalsAreOfWhatTheHouseMeasures_data()
     QTest::addColumn<QString>("lower");
     QTest::addColumn<QString>("unit");
 
-    QTest::newRow("nothing") << Quantities {} << "verbruik" << QString() << "kWh";
-    QTest::newRow("import alone") << Quantities {Quantity::GridImport} << "verbruik" << QString()
+    QTest::newRow("nothing") << Quantities {} << "van het net" << QString() << "kWh";
+    QTest::newRow("import alone") << Quantities {Quantity::GridImport} << "van het net" << QString()
                                   << "kWh";
     QTest::newRow("panels with a meter")
         << Quantities {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction}
-        << "verbruik"
+        << "van het net"
         << "opwekking"
         << "kWh";
     QTest::newRow("panels without one")
-        << Quantities {Quantity::GridImport, Quantity::GridExport, Quantity::Gas} << "verbruik"
+        << Quantities {Quantity::GridImport, Quantity::GridExport, Quantity::Gas} << "van het net"
         << "teruglevering"
         << "kWh";
     QTest::newRow("electricity and gas")
-        << Quantities {Quantity::GridImport, Quantity::Gas} << "verbruik"
+        << Quantities {Quantity::GridImport, Quantity::Gas} << "van het net"
         << "gas"
         << "kWh";
     QTest::newRow("gas alone") << Quantities {Quantity::Gas} << "gas" << QString() << "m³";
@@ -134,7 +134,7 @@ void tst_OverviewPage::meterThatIsHeardLaterTakesItsPlace()
 
     source.count(Quantity::GridImport, 3);
     Q_EMIT source.historyChanged();
-    QCOMPARE(totals.tile->getTopTitle(), QStringLiteral("verbruik"));
+    QCOMPARE(totals.tile->getTopTitle(), QStringLiteral("van het net"));
     QCOMPARE(totals.tile->getBottomTitle(), QStringLiteral("gas"));
     QVERIFY(totals.hasLower());
     QCOMPARE(totals.unitOfWeek(), QStringLiteral("kWh"));
@@ -163,16 +163,16 @@ void tst_OverviewPage::oldReadingsAreNotOfToday()
     QVERIFY(display.show());
     const Totals totals(display);
     QCOMPARE(totals.tile->getTitle(), QStringLiteral("totaal vandaag"));
-    QCOMPARE(totals.week->getTitle(), QStringLiteral("verbruik deze week"));
+    QCOMPARE(totals.week->getTitle(), QStringLiteral("van het net deze week"));
 
     source.time = source.time.addDays(4); // the Sunday of that week
     Q_EMIT source.historyChanged();
     QCOMPARE(totals.tile->getTitle(), withMonthsOfQt(QStringLiteral("totaal 9 mrt. 2016")));
-    QCOMPARE(totals.week->getTitle(), QStringLiteral("verbruik deze week"));
+    QCOMPARE(totals.week->getTitle(), QStringLiteral("van het net deze week"));
     source.time = source.time.addDays(1);
     Q_EMIT source.historyChanged();
     QCOMPARE(totals.week->getTitle(),
-             withMonthsOfQt(QStringLiteral("verbruik, week van 7 mrt. 2016")));
+             withMonthsOfQt(QStringLiteral("van het net, week van 7 mrt. 2016")));
 }
 
 void tst_OverviewPage::anotherDayIsNotToday()

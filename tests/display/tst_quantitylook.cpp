@@ -25,6 +25,7 @@ class tst_QuantityLook : public QObject
 private Q_SLOTS:
     void coloursOfOneLegendAreToldApart();
     void wholeBarIsNamedBeforeItsPart();
+    void importIsNamedByTheGrid();
     void analysisHasTheColoursOfTheCharts_data();
     void analysisHasTheColoursOfTheCharts();
 };
@@ -78,9 +79,18 @@ void tst_QuantityLook::wholeBarIsNamedBeforeItsPart()
     const Household household = houseWithTwoTariffsAndPanels();
     const Energy electricity = energiesOf(household).front();
     QCOMPARE(namesOf(electricity.consumption),
-             QStringList({QStringLiteral("Verbruik"), QStringLiteral("Laag tarief")}));
+             QStringList({QStringLiteral("Van het net"), QStringLiteral("Laag tarief")}));
     QCOMPARE(namesOf(electricity.yield),
              QStringList({QStringLiteral("Opwekking"), QStringLiteral("Teruglevering")}));
+}
+
+void tst_QuantityLook::importIsNamedByTheGrid()
+{
+    const Household household = houseWithTwoTariffsAndPanels();
+    const std::vector<EnergySeries> series = energiesOf(household, false).front().consumption;
+    QCOMPARE(namesOf(series), QStringList {QStringLiteral("Van het net")});
+    QCOMPARE(lookOf(Quantity::GridImport).caption, nameOf(PowerKind::GridImport));
+    QVERIFY(series.front().caption != nameOf(PowerKind::Consumption));
 }
 
 void tst_QuantityLook::analysisHasTheColoursOfTheCharts_data()

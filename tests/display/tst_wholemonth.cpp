@@ -109,7 +109,7 @@ struct ShownNumber
     double rounding;
 };
 
-/** The amounts of a line such as "≥ 1.012,3 kWh, teruglevering 4,56 kWh". */
+/** The amounts of lines such as "van het net ≥ 1.012,3 kWh" and "teruglevering 4,56 kWh". */
 QVector<ShownNumber> amountsIn(const QString &line)
 {
     static const QRegularExpression amount(QStringLiteral("([0-9][0-9.]*)(?:,([0-9]+))? (kWh|m³)"));

@@ -37,7 +37,7 @@ void addImport(std::vector<EnergySeries> &series, const Household &household, bo
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
     const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
-    addSeries(series, Texts::tr("Verbruik"), household, Quantity::GridImport);
+    addSeries(series, Texts::tr("Van het net"), household, Quantity::GridImport);
     if (twoTariffs) {
         series.push_back({Texts::tr("Laag tarief"),
                           Texts::tr("laag tarief"),

@@ -256,7 +256,9 @@ QString EnergyChart::yearOf(int firstSlot, int lastSlot) const
                          : QStringLiteral(" %1/%2").arg(first).arg(last);
 }
 
-/** What was measured by the series at the back, of which those in front are parts, in both charts.
+/**
+ * What was measured by the series at the back, of which those in front are parts, in both charts; a
+ * line for each. A single series is named by the legend alone.
  */
 QString EnergyChart::amounts(const Readings::Interval &interval) const
 {
@@ -264,10 +266,15 @@ QString EnergyChart::amounts(const Readings::Interval &interval) const
         return ViewTexts::amount(Readings::Calendar::measured(series.meters, interval, readUntil),
                                  unit);
     };
-    QString texts = amountOf(upper.series.front());
-    if (!lower.series.empty()) {
-        const Series &yield = lower.series.front();
-        texts += QStringLiteral(", %1 %2").arg(yield.caption, amountOf(yield));
+    if (upper.series.size() + lower.series.size() == 1) {
+        return amountOf(upper.series.front());
     }
-    return texts;
+    QStringList lines;
+    for (const Pane *pane : {&upper, &lower}) {
+        if (!pane->series.empty()) {
+            const Series &whole = pane->series.front();
+            lines << QStringLiteral("%1 %2").arg(whole.caption, amountOf(whole));
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
 }

@@ -19,7 +19,7 @@ QString titleOf(Quantity quantity)
 {
     switch (quantity) {
     case Quantity::GridImport:
-        return MonthsTable::tr("verbruik");
+        return MonthsTable::tr("van het net");
     case Quantity::GridExport:
         return MonthsTable::tr("terug");
     case Quantity::SolarProduction:

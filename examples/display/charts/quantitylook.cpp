@@ -21,7 +21,7 @@ QuantityLook lookOf(Quantity quantity)
 {
     switch (quantity) {
     case Quantity::GridImport:
-        return {Texts::tr("verbruik"), ZEMStyle::Amber, ZEMEnergyIcon::Electricity};
+        return {Texts::tr("van het net"), ZEMStyle::Amber, ZEMEnergyIcon::Electricity};
     case Quantity::GridExport:
         return {Texts::tr("teruglevering"), ZEMStyle::Green, ZEMEnergyIcon::Electricity};
     case Quantity::SolarProduction:

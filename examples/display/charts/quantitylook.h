@@ -10,10 +10,13 @@
 #include <ZEMEnergyIcon>
 #include <ZEMStyle>
 
-/** How the display shows a quantity, wherever it does. */
+/**
+ * How the display shows a quantity, wherever it does. What is taken from the grid is called so: a
+ * house with panels consumes more than that, see PowerKind::Consumption.
+ */
 struct QuantityLook
 {
-    QString caption; ///< one word in lower case: "verbruik"
+    QString caption; ///< in lower case: "van het net"
     ZEMStyle::ZEMColor color; ///< of its bars
     ZEMEnergyIcon::Type icon;
 };

@@ -171,7 +171,7 @@ QWidget *GoalsPage::makeYearGoal()
     ZEMTextLabel *caption = nullptr;
     QVBoxLayout *rows = nullptr;
     QWidget *card = makeCard(&caption, &rows);
-    caption->setText(tr("doel van een jaar"));
+    caption->setText(tr("doel van een jaar, van het net"));
     rows->addWidget(yearGoal);
     return card;
 }
@@ -179,7 +179,7 @@ QWidget *GoalsPage::makeYearGoal()
 void GoalsPage::askForYearGoal()
 {
     auto *validator = new QIntValidator(1, DisplaySettings::mostYearGoal);
-    dialogs->askNumber(tr("Stroom in een jaar, in kWh"), QString::number(settings->yearGoal()),
+    dialogs->askNumber(tr("Van het net in een jaar, in kWh"), QString::number(settings->yearGoal()),
                        validator,
                        tr("Een getal van 1 tot %L1 kWh").arg(DisplaySettings::mostYearGoal),
                        [this](const QString &text) { settings->setYearGoal(text.toInt()); });
@@ -204,7 +204,7 @@ void GoalsPage::showToday()
 {
     const Readings::Household &household = energySource().household();
     const QDate today = dates().last;
-    todayCaption->setText(tr("budget van %1").arg(dayName(today)));
+    todayCaption->setText(tr("budget van het net, %1").arg(dayName(today)));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
     const std::optional<Readings::Measured> used = Budget::takenOn(household, today);
     const double amount = used ? used->amount : 0.0;
@@ -237,8 +237,9 @@ QString GoalsPage::costsText(const QDate &day, double amount) const
 void GoalsPage::showYesterday()
 {
     const QDate yesterday = dates().last.addDays(-1);
+    const bool isNow = yesterday.addDays(1) == energySource().now().date();
     yesterdayCaption->setText(
-        yesterday.addDays(1) == energySource().now().date() ? tr("gisteren") : dayName(yesterday));
+        tr("van het net, %1").arg(isNow ? tr("gisteren") : dayName(yesterday)));
     const double budget = Budget::ofDay(settings->yearGoal(), settings->profile());
     const std::optional<Readings::Measured> used =
         Budget::takenOn(energySource().household(), yesterday);
