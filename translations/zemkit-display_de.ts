@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Hochtarif</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Aus dem Netz</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Niedertarif</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Davon Niedertarif</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Normal tariff</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>From the grid</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Low tariff</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Of which low tariff</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Tarifa punta</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>De la red</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Tarifa valle</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>De ello, tarifa valle</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Heures pleines</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Du réseau</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Heures creuses</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Dont heures creuses</translation>
     </message>
     <message>
         <source>laag tarief</source>

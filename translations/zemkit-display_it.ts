@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Tariffa piena</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Dalla rete</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Tariffa ridotta</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Di cui tariffa ridotta</translation>
     </message>
     <message>
         <source>laag tarief</source>

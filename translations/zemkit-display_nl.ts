@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Normaal tarief</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Van het net</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Laag tarief</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Waarvan laag tarief</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Droga strefa</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Z sieci</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Tania strefa</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>W tym tania strefa</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -181,12 +181,20 @@
 <context>
     <name>Energy</name>
     <message>
+        <source>Normaal tarief</source>
+        <translation>Normaltariff</translation>
+    </message>
+    <message>
         <source>Van het net</source>
         <translation>Från nätet</translation>
     </message>
     <message>
         <source>Laag tarief</source>
         <translation>Lågtariff</translation>
+    </message>
+    <message>
+        <source>Waarvan laag tarief</source>
+        <translation>Varav lågtariff</translation>
     </message>
     <message>
         <source>laag tarief</source>

@@ -13,11 +13,12 @@ public:
     explicit FullHouse(int days = 60)
     {
         using Readings::Quantity;
-        for (const Quantity quantity :
-             {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction, Quantity::Gas,
-              Quantity::Heating, Quantity::Water}) {
+        for (const Quantity quantity : {Quantity::GridExport, Quantity::SolarProduction,
+                                        Quantity::Gas, Quantity::Heating, Quantity::Water}) {
             count(quantity, days, 1.25);
         }
+        count(Quantity::GridImport, days, 0.5, Readings::Tariff::Low);
+        count(Quantity::GridImport, days, 0.75, Readings::Tariff::Normal);
         time = QDateTime(QDate(2016, 5, 5), QTime(20, 48), readings.timeZone);
         report = PowerReport {-11800.0,
                               12400.0,

@@ -31,10 +31,10 @@ public:
     bool isLive() const override { return live; }
 
     /** Counters that are read each hour of so many days from 7 March 2016 on. */
-    void count(Readings::Quantity quantity, int days, double perHour = 0.5)
+    void count(Readings::Quantity quantity, int days, double perHour = 0.5,
+               Readings::Tariff tariff = Readings::Tariff::Single)
     {
-        Readings::Meter &meter =
-            readings.meter({quantity, Readings::Tariff::Single}, Readings::Meter::Kind::Counter);
+        Readings::Meter &meter = readings.meter({quantity, tariff}, Readings::Meter::Kind::Counter);
         const qint64 midnight =
             QDateTime(QDate(2016, 3, 7), QTime(0, 0), readings.timeZone).toSecsSinceEpoch();
         for (int hour = 0; hour <= 24 * days; ++hour) {

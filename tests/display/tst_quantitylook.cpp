@@ -24,7 +24,8 @@ class tst_QuantityLook : public QObject
 
 private Q_SLOTS:
     void coloursOfOneLegendAreToldApart();
-    void wholeBarIsNamedBeforeItsPart();
+    void barOfTwoTariffsIsNamedByThem();
+    void barOfWhichATimeIsWithoutTariffsIsNamedAsAWhole();
     void importIsNamedByTheGrid();
     void analysisHasTheColoursOfTheCharts_data();
     void analysisHasTheColoursOfTheCharts();
@@ -74,14 +75,29 @@ void tst_QuantityLook::coloursOfOneLegendAreToldApart()
     }
 }
 
-void tst_QuantityLook::wholeBarIsNamedBeforeItsPart()
+/** Of the bar of both tariffs only the normal one is seen behind that of the low one. */
+void tst_QuantityLook::barOfTwoTariffsIsNamedByThem()
 {
     const Household household = houseWithTwoTariffsAndPanels();
     const Energy electricity = energiesOf(household).front();
     QCOMPARE(namesOf(electricity.consumption),
-             QStringList({QStringLiteral("Van het net"), QStringLiteral("Laag tarief")}));
+             QStringList({QStringLiteral("Normaal tarief"), QStringLiteral("Laag tarief")}));
+    QCOMPARE(electricity.consumption.front().caption, QStringLiteral("van het net"));
+    QCOMPARE(electricity.consumption.front().meters.size(), std::size_t(2));
     QCOMPARE(namesOf(electricity.yield),
              QStringList({QStringLiteral("Opwekking"), QStringLiteral("Teruglevering")}));
+}
+
+void tst_QuantityLook::barOfWhichATimeIsWithoutTariffsIsNamedAsAWhole()
+{
+    Household older;
+    Readings::Meter &whole = older.meter({Quantity::GridImport}, Readings::Meter::Kind::Counter);
+    whole.addReading(-7200, 10.0);
+    whole.addReading(-3600, 12.0);
+    Household household = houseWithTwoTariffsAndPanels();
+    household.add(older);
+    QCOMPARE(namesOf(energiesOf(household).front().consumption),
+             QStringList({QStringLiteral("Van het net"), QStringLiteral("Waarvan laag tarief")}));
 }
 
 void tst_QuantityLook::importIsNamedByTheGrid()

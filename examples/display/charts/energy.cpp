@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <optional>
 
 using Readings::Household;
 using Readings::Quantity;
@@ -31,15 +32,28 @@ void addSeries(std::vector<EnergySeries> &series, const QString &name, const Hou
     }
 }
 
-/** Import as one series, or with two tariffs the sum of both and the low one in front of it. */
+/** Whether each import that is known was counted by one of two tariffs. */
+bool alwaysTellsTariffs(const Household &household)
+{
+    const std::optional<qint64> first = household.firstInstant();
+    const std::optional<qint64> last = household.lastInstant();
+    return first && last && household.tellsTariffs(Quantity::GridImport, {*first, *last});
+}
+
+/**
+ * Import as one series, or with two tariffs the sum of both and the low one in front of it: what is
+ * seen of the sum then is the normal one, unless it is of a time before there were two.
+ */
 void addImport(std::vector<EnergySeries> &series, const Household &household, bool showTariffs)
 {
     const Readings::Calendar::Meters meters = household.metersOf(Quantity::GridImport);
     const auto low = household.meters.find({Quantity::GridImport, Tariff::Low});
     const bool twoTariffs = showTariffs && meters.size() > 1 && low != household.meters.end();
-    addSeries(series, Texts::tr("Van het net"), household, Quantity::GridImport);
+    const bool isApart = twoTariffs && alwaysTellsTariffs(household);
+    addSeries(series, isApart ? Texts::tr("Normaal tarief") : Texts::tr("Van het net"), household,
+              Quantity::GridImport);
     if (twoTariffs) {
-        series.push_back({Texts::tr("Laag tarief"),
+        series.push_back({isApart ? Texts::tr("Laag tarief") : Texts::tr("Waarvan laag tarief"),
                           Texts::tr("laag tarief"),
                           ZEMStyle::SkyBlue,
                           {&low->second}});
