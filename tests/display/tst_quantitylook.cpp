@@ -1,11 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The zemkit developers
 // SPDX-License-Identifier: MIT
 
+#include "analysispage.h"
 #include "energy.h"
 #include "household.h"
 #include "nightstyler.h"
+#include "powerplayers.h"
+#include "powerplot.h"
 #include "quantitylook.h"
 
+#include "zemtest.h"
+
+#include <QLabel>
 #include <QTest>
 #include <ZEMStyle>
 #include <algorithm>
@@ -29,6 +35,9 @@ private Q_SLOTS:
     void importIsNamedByTheGrid();
     void analysisHasTheColoursOfTheCharts_data();
     void analysisHasTheColoursOfTheCharts();
+    void consumptionHasNoColourOfAMeter();
+    void importOfAnHourHasOneColour_data();
+    void importOfAnHourHasOneColour();
 };
 
 static Household houseWithTwoTariffsAndPanels()
@@ -113,7 +122,6 @@ void tst_QuantityLook::analysisHasTheColoursOfTheCharts_data()
 {
     QTest::addColumn<PowerKind>("kind");
     QTest::addColumn<Quantity>("quantity");
-    QTest::newRow("consumption") << PowerKind::Consumption << Quantity::GridImport;
     QTest::newRow("import") << PowerKind::GridImport << Quantity::GridImport;
     QTest::newRow("production") << PowerKind::Production << Quantity::SolarProduction;
     QTest::newRow("export") << PowerKind::GridExport << Quantity::GridExport;
@@ -124,6 +132,59 @@ void tst_QuantityLook::analysisHasTheColoursOfTheCharts()
     QFETCH(PowerKind, kind);
     QFETCH(Quantity, quantity);
     QCOMPARE(NightStyler::colorOf(kind), ZEMStyle(nullptr).color(lookOf(quantity).color));
+}
+
+void tst_QuantityLook::consumptionHasNoColourOfAMeter()
+{
+    for (const Quantity quantity :
+         {Quantity::GridImport, Quantity::GridExport, Quantity::SolarProduction, Quantity::Gas,
+          Quantity::Water, Quantity::Heating, Quantity::HeatPump, Quantity::ElectricCar}) {
+        QVERIFY(NightStyler::colorOf(PowerKind::Consumption)
+                != ZEMStyle(nullptr).color(lookOf(quantity).color));
+    }
+}
+
+void tst_QuantityLook::importOfAnHourHasOneColour_data()
+{
+    QTest::addColumn<double>("taken");
+    QTest::addColumn<double>("given");
+    QTest::addColumn<double>("produced");
+    QTest::newRow("night") << 800.0 << 0.0 << 0.0;
+    QTest::newRow("behind consumption") << 800.0 << 0.0 << 500.0;
+    QTest::newRow("behind production") << 800.0 << 700.0 << 1500.0;
+}
+
+/** The legend shows a bar of the plot, whatever curve is before it, in the hue of the charts. */
+void tst_QuantityLook::importOfAnHourHasOneColour()
+{
+    QFETCH(double, taken);
+    QFETCH(double, given);
+    QFETCH(double, produced);
+    MeterPlayer meters;
+    constexpr std::size_t minutes = 1440;
+    meters.count(Quantity::GridImport, lastDate, std::vector<double>(minutes, taken));
+    meters.count(Quantity::GridExport, lastDate, std::vector<double>(minutes, given));
+    meters.count(Quantity::SolarProduction, lastDate, std::vector<double>(minutes, produced));
+    AnalysisPage page(meters);
+    page.resize(640, 480);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page, ZemTest::hangs));
+
+    // The name of the bars is the last one, right of its swatch.
+    const QLabel *name = page.findChildren<QLabel *>(QStringLiteral("legend")).constLast();
+    constexpr int beside = 10; // pixels
+    const QWidget *swatch = page.childAt(name->mapTo(&page, QPoint(-beside, name->height() / 2)));
+    const QRect place(swatch->mapTo(&page, QPoint(0, 0)), swatch->size());
+    const QColor inLegend =
+        page.grab(place).toImage().pixelColor(place.width() / 2, place.height() / 2);
+    // Between the lines of the grid, in the middle of an hour.
+    const QPoint inBar(int(page.plot()->transform(QwtPlot::xBottom, 4.5 * 60.0)),
+                       int(page.plot()->transform(QwtPlot::yLeft, 330.0)));
+    const QColor inPlot = page.plot()->canvas()->grab().toImage().pixelColor(inBar);
+    QCOMPARE(inPlot.name(), inLegend.name());
+    constexpr int sameHue = 5; // degrees
+    const QColor inCharts = ZEMStyle(nullptr).color(lookOf(Quantity::GridImport).color);
+    QVERIFY2(std::abs(inPlot.hue() - inCharts.hue()) <= sameHue, qPrintable(inPlot.name()));
 }
 
 QTEST_MAIN(tst_QuantityLook)

@@ -62,13 +62,11 @@ ZEMTextLabel *makeLabel(const char *name, int size)
     return label;
 }
 
-QWidget *makeSwatch(const QColor &color)
+QPixmap swatchOf(const QColor &color)
 {
     QPixmap picture(swatchSize);
     picture.fill(color);
-    auto *swatch = new QLabel;
-    swatch->setPixmap(picture);
-    return swatch;
+    return picture;
 }
 
 } // namespace
@@ -196,19 +194,19 @@ void AnalysisPage::showLegend(const PowerDay &day)
         delete item->widget();
         delete item;
     }
-    const auto add = [&](const QColor &color, const QString &name) {
+    const auto add = [&](const QPixmap &picture, const QString &name) {
+        auto *swatch = new QLabel;
+        swatch->setPixmap(picture);
         auto *label = makeLabel("legend", legendSize);
         label->setText(name);
-        legend->addWidget(makeSwatch(color));
+        legend->addWidget(swatch);
         legend->addWidget(label);
     };
     for (const PowerCurve &curve : day.curves) {
-        add(NightStyler::colorOf(curve.kind), nameOf(curve.kind));
+        add(swatchOf(NightStyler::colorOf(curve.kind)), nameOf(curve.kind));
     }
     if (!day.gridByHour.empty()) {
-        QColor color = NightStyler::barColor();
-        color.setAlphaF(0.5);
-        add(color, tr("net per uur"));
+        add(NightStyler::barSwatch(swatchSize), tr("net per uur"));
     }
 }
 

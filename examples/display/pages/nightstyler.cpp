@@ -9,6 +9,7 @@
 #include "pagelook.h"
 #include "quantitylook.h"
 
+#include <QPainter>
 #include <QPalette>
 #include <QPen>
 #include <ZEMPlot>
@@ -26,9 +27,8 @@ namespace {
 
 constexpr QRgb canvasColor = qRgb(16, 23, 29);
 constexpr double curveWidth = 1.5; // pixels
-constexpr int fillAlpha = 38; // of 255
-constexpr int barAlpha = 60;
-constexpr int barEdgeAlpha = 110;
+constexpr int barAlpha = 128; // of 255
+constexpr int barEdgeAlpha = 200;
 constexpr int tagAlpha = 210;
 constexpr int labelSize = 10; // points
 constexpr double tickLengths[QwtScaleDiv::NTickTypes] = {3.0, 3.0, 6.0}; // pixels
@@ -42,6 +42,16 @@ QColor translucent(QColor color, int alpha)
 {
     color.setAlpha(alpha);
     return color;
+}
+
+QPen barPen()
+{
+    return {translucent(NightStyler::colorOf(PowerKind::GridImport), barEdgeAlpha), 1.0};
+}
+
+QBrush barBrush()
+{
+    return translucent(NightStyler::colorOf(PowerKind::GridImport), barAlpha);
 }
 
 void styleAxis(ZEMPlot *plot, QwtPlot::Axis axis)
@@ -86,8 +96,8 @@ void NightStyler::styleGrid(QwtPlotGrid *grid)
 void NightStyler::styleCurve(QwtPlotCurve *curve, int index)
 {
     const QColor line = colorOf(curveKinds.at(std::size_t(index)));
+    // Filled, it would tint the bars behind it.
     curve->setPen(line, curveWidth);
-    curve->setBrush(translucent(line, fillAlpha));
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
 }
 
@@ -99,14 +109,15 @@ void NightStyler::styleMarker(QwtPlotMarker *marker)
 
 void NightStyler::styleBars(QwtPlotCurve *bars)
 {
-    bars->setPen(translucent(barColor(), barEdgeAlpha), 1.0);
-    bars->setBrush(translucent(barColor(), barAlpha));
+    bars->setPen(barPen());
+    bars->setBrush(barBrush());
 }
 
 QColor NightStyler::colorOf(PowerKind kind)
 {
     switch (kind) {
     case PowerKind::Consumption:
+        return color(ZEMStyle::White);
     case PowerKind::GridImport:
         return color(lookOf(Readings::Quantity::GridImport).color);
     case PowerKind::Production:
@@ -117,9 +128,15 @@ QColor NightStyler::colorOf(PowerKind kind)
     return color(lookOf(Readings::Quantity::GridExport).color);
 }
 
-QColor NightStyler::barColor()
+QPixmap NightStyler::barSwatch(const QSize &size)
 {
-    return color(ZEMStyle::SkyBlue);
+    QPixmap picture(size);
+    picture.fill(QColor(canvasColor));
+    QPainter painter(&picture);
+    painter.setPen(barPen());
+    painter.setBrush(barBrush());
+    painter.drawRect(QRect(QPoint(0, 0), size - QSize(1, 1)));
+    return picture;
 }
 
 QColor NightStyler::tagColor()

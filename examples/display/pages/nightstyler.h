@@ -7,6 +7,8 @@
 #include "powerday.h"
 
 #include <QColor>
+#include <QPixmap>
+#include <QSize>
 #include <ZEMPlotStyler>
 #include <vector>
 
@@ -24,11 +26,13 @@ public:
     void styleCurve(QwtPlotCurve *curve, int index) override;
     void styleMarker(QwtPlotMarker *marker) override;
 
-    /** The bars behind the curves, which are not in the plot's list of curves. */
+    /** The bars of the import behind the curves, which are not in the plot's list of curves. */
     static void styleBars(QwtPlotCurve *bars);
 
+    /** That of the quantity in the charts; consumption, which no meter counts, has its own. */
     static QColor colorOf(PowerKind kind);
-    static QColor barColor();
+    /** What stands for the bars in a legend: a bar on the ground of the plot. */
+    static QPixmap barSwatch(const QSize &size);
     /** The ground of texts that may stand before curves. */
     static QColor tagColor();
     /** Of what is dragged, picked or followed. */
