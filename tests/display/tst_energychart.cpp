@@ -12,6 +12,7 @@
 #include <ZEMStyle>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
 using namespace Readings;
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void tappedBarTellsItsSlotUntilTheNextTouch();
     void pickedBarIsPaintedOnTheScreen();
     void valueAxisFitsThePeriodInView();
+    void dayEndsAtTwentyFour();
 
 private:
     QWidget *canvas() const { return widget->findChild<QwtPlot *>()->canvas(); }
@@ -227,6 +229,31 @@ void tst_EnergyChart::valueAxisFitsThePeriodInView()
     QCOMPARE(limit(), 1.0);
     release(canvas(), end);
     ZEM_TRY_COMPARE(limit(), 5.0);
+}
+
+/** As on the analysis page; a midnight amid two days is the start of the second. */
+void tst_EnergyChart::dayEndsAtTwentyFour()
+{
+    const auto labels = [&] {
+        const QwtPlot *plot = widget->findChild<QwtPlot *>();
+        QStringList texts;
+        const QwtScaleDiv &scale = plot->axisScaleDiv(QwtPlot::xBottom);
+        for (const double tick : scale.ticks(QwtScaleDiv::MajorTick)) {
+            texts << plot->axisScaleDraw(QwtPlot::xBottom)->label(tick).text();
+        }
+        return texts.join(QLatin1Char(' '));
+    };
+    const QString wholeDay = QStringLiteral("00:00 06:00 12:00 18:00 24:00");
+    QCOMPARE(labels(), wholeDay);
+    chart->widget()->showPrevPeriod();
+    QTRY_COMPARE(labels(), wholeDay);
+
+    const QPoint middle = canvas()->rect().center();
+    press(canvas(), middle);
+    moveTo(canvas(), middle - QPoint(canvas()->width() / 4, 0));
+    QTRY_VERIFY2(labels().contains(QStringLiteral("18:00 00:00")), qPrintable(labels()));
+    QVERIFY(!labels().contains(QStringLiteral("24:00")));
+    release(canvas(), middle - QPoint(canvas()->width() / 4, 0));
 }
 
 QTEST_MAIN(tst_EnergyChart)

@@ -5,6 +5,7 @@
 
 #include "amountseries.h"
 #include "barpicker.h"
+#include "dayhistogram.h"
 #include "fittedhistogram.h"
 #include "viewtexts.h"
 #include "yearhistogram.h"
@@ -12,7 +13,6 @@
 #include <QBrush>
 #include <QTimeZone>
 #include <ZEMHistogramData>
-#include <ZEMSmartDayHistogram>
 #include <ZEMSmartMonthHistogram>
 #include <ZEMSmartWeekHistogram>
 #include <algorithm>
@@ -35,7 +35,7 @@ EnergyChart::EnergyChart(const Energy &energy, Period itsPeriod)
     QObject::connect(&fitTimer, &QTimer::timeout, &fitTimer, [this] { fitAxes(); });
     switch (period) {
     case Period::Day:
-        make<ZEMSmartDayHistogram>(energy);
+        make<DayHistogram>(energy);
         break;
     case Period::Week:
         make<ZEMSmartWeekHistogram>(energy);
