@@ -3,6 +3,8 @@
 
 #include "screenfaults.h"
 
+#include "zemtest.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
@@ -11,6 +13,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPixmap>
 #include <QStackedWidget>
 #include <QTextEdit>
@@ -108,6 +111,26 @@ QStringList crowded(const QwtScaleWidget *scale)
         end = place.right();
     }
     return faults;
+}
+
+/** Where @p scale has ink, in its own pixels, also where it has no room for it. */
+QRectF inkOf(const QwtScaleWidget *scale)
+{
+    constexpr int around = 20; // pixels
+    const QSize size = scale->size() + QSize(2 * around, 2 * around);
+    QImage picture(size * scale->devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale->devicePixelRatioF());
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    painter.translate(around, around);
+    painter.setFont(scale->font());
+    QPalette white(Qt::white);
+    white.setColor(QPalette::Text, Qt::white);
+    scale->scaleDraw()->draw(&painter, white);
+    painter.end();
+    const QRect ink = ZemTest::inkRect(picture);
+    return QRectF(QPointF(ink.topLeft()) / scale->devicePixelRatioF() - QPointF(around, around),
+                  QSizeF(ink.size()) / scale->devicePixelRatioF());
 }
 
 double luminance(const QColor &color)
@@ -303,6 +326,30 @@ QStringList cutTexts(const QWidget *window)
         if (!text.isEmpty() && (needed.width() > room.width() || needed.height() > room.height())) {
             faults << QStringLiteral("%1: '%2' needs %3, has %4")
                           .arg(nameOf(widget), text, sizeText(needed), sizeText(room));
+        }
+    }
+    return faults;
+}
+
+QStringList cutLabels(const QWidget *window)
+{
+    constexpr double free = 0.3; // pixels without ink; one, but for what a scaled screen rounds
+    QStringList faults;
+    for (const QWidget *widget : seenIn(window)) {
+        const auto *scale = qobject_cast<const QwtScaleWidget *>(widget);
+        if (!scale || scale->visibleRegion().isEmpty()) {
+            continue;
+        }
+        const QRectF ink = inkOf(scale);
+        const double below = scale->height() - ink.bottom();
+        // A horizontal scale begins with its ticks.
+        const bool isVertical = scale->scaleDraw()->orientation() == Qt::Vertical;
+        if (!ink.isEmpty() && (below < free || (isVertical && ink.top() < free))) {
+            faults << QStringLiteral("%1: ink from %2 to %3 of %4")
+                          .arg(nameOf(scale))
+                          .arg(ink.top())
+                          .arg(ink.bottom())
+                          .arg(scale->height());
         }
     }
     return faults;

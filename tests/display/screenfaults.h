@@ -19,6 +19,8 @@ QStringList outside(const QWidget *window);
 QStringList overlaps(const QWidget *window);
 /** Texts without the room they need; of a scale those that touch as well. */
 QStringList cutTexts(const QWidget *window);
+/** Labels of scales with ink at the edge of the scale, or beyond it, where it is cut. */
+QStringList cutLabels(const QWidget *window);
 /** Texts that end in "…", and items of lists and tables that will when they are painted. */
 QStringList elidedTexts(const QWidget *window);
 /** What can be touched, but is smaller than 40 pixels in either direction. */

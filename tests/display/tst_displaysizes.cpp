@@ -59,6 +59,7 @@ private Q_SLOTS:
     void nothingStandsOut();
     void nothingOverlaps();
     void noTextIsCut();
+    void noLabelOfAScaleIsCut();
     void targetsAreLargeEnough();
     void textsCanBeRead();
     void nothingShinesThrough();
@@ -76,6 +77,7 @@ private:
     QStringList outside;
     QStringList overlaps;
     QStringList cut;
+    QStringList cutOff;
     QStringList small;
     QStringList faint;
     QStringList seeThrough;
@@ -99,6 +101,7 @@ void tst_DisplaySizes::look(const EnergySource &source, const QString &house)
         add(&outside, ScreenFaults::outside(&display.window));
         add(&overlaps, ScreenFaults::overlaps(&display.window));
         add(&cut, ScreenFaults::cutTexts(&display.window));
+        add(&cutOff, ScreenFaults::cutLabels(&display.window));
         add(&small, ScreenFaults::smallTargets(&display.window));
         add(&idle, ScreenFaults::touchableLooks(&display.window));
         // Of a period before, the bars alone are others.
@@ -146,6 +149,11 @@ void tst_DisplaySizes::nothingOverlaps()
 void tst_DisplaySizes::noTextIsCut()
 {
     expectNone(cut);
+}
+
+void tst_DisplaySizes::noLabelOfAScaleIsCut()
+{
+    expectNone(cutOff);
 }
 
 void tst_DisplaySizes::targetsAreLargeEnough()

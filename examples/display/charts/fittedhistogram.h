@@ -14,6 +14,7 @@
 #include <functional>
 #include <qwt_plot.h>
 #include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
 #include <utility>
 
 /** One row of legend items, in pixels; it has no fewer. */
@@ -27,6 +28,9 @@ constexpr int leastPlotSide = 60;
 
 /** Room for the labels of a value axis, so that the canvases of two charts stand in one line. */
 constexpr double valueAxisExtent = 46.0;
+
+/** What a value axis needs below its canvas: half a label, and the tail of a comma; in pixels. */
+constexpr int footOfValueAxis = 8;
 
 /**
  * A chart of the library, @p Base, fitted to a page: the plot fills it, the legend has the rows
@@ -85,6 +89,7 @@ protected:
     {
         Base::initAxisRefine();
         this->plot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(valueAxisExtent);
+        makeRoomForCommas();
     }
 
     void setLookAndFeel() override
@@ -119,6 +124,19 @@ protected:
     }
 
 private:
+    void makeRoomForCommas()
+    {
+        this->plot->axisWidget(QwtPlot::yLeft)->setMinBorderDist(0, footOfValueAxis);
+        // Below the canvas Qwt lets a value axis reach as far as the ticks there are long. Longer
+        // ones mark the labelled hours; without a line of their own, none shows.
+        QwtScaleDraw *below = this->plot->axisScaleDraw(QwtPlot::xBottom);
+        const double before = below->maxTickLength();
+        const bool hasLines = below->tickLength(QwtScaleDiv::MajorTick) > 0.0;
+        below->setTickLength(hasLines ? QwtScaleDiv::MajorTick : QwtScaleDiv::MinorTick,
+                             footOfValueAxis);
+        below->setSpacing(below->spacing() + before - below->maxTickLength());
+    }
+
     /** A picture that is lower than the canvas would begin anew in the middle of it. */
     void spreadGround()
     {

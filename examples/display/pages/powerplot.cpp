@@ -33,6 +33,7 @@ constexpr double leastMinutes = 10.0; // in view, however much is zoomed
 constexpr double leastWatts = 20.0;
 constexpr double minutesPerHour = 60.0;
 constexpr double labelExtent = 34.0; // pixels for the labels of power, so that canvases line up
+constexpr int labelFoot = 8; // pixels below the canvas for half a label and the tail of a comma
 constexpr int markSize = 11; // pixels
 constexpr int unitSize = 10; // points
 constexpr double barLayer = 15.0; // bars are above the grid, which is at 10, and under the curves
@@ -88,6 +89,7 @@ void PowerPlot::makeAxes()
     setAxisMaxMajor(QwtPlot::yLeft, mostPowerSteps);
     setAxisMaxMinor(QwtPlot::yLeft, 0);
     axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(labelExtent);
+    axisWidget(QwtPlot::yLeft)->setMinBorderDist(0, labelFoot);
 }
 
 void PowerPlot::makeMarkers()
