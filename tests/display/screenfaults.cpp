@@ -446,7 +446,7 @@ QStringList seeThrough(QWidget *window)
     patch.setAutoFillBackground(true);
     patch.setPalette(QPalette(Qt::white));
     patch.setGeometry(window->rect());
-    for (const QWidget *widget : seen.mid(1)) {
+    for (const QWidget *widget : seen) {
         const auto *panel = qobject_cast<const ZEMPageBackground *>(widget);
         if (!panel) {
             continue;

@@ -27,7 +27,7 @@ QStringList elidedTexts(const QWidget *window);
 QStringList smallTargets(const QWidget *window);
 /** Buttons that cannot be touched now, but whose icons are as bright as if they could. */
 QStringList touchableLooks(QWidget *window);
-/** Panels over a page that let something of it through. */
+/** What lies over a page and lets something of it through. */
 QStringList seeThrough(QWidget *window);
 /** Texts with a contrast below 4.5 to 1 to what is painted behind them. */
 QStringList faintTexts(QWidget *window);

@@ -13,7 +13,10 @@
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QTest>
+#include <QTextBrowser>
 #include <ZEMButton>
+#include <ZEMDialogPopup>
+#include <ZEMDialogShowText>
 #include <ZEMLineEditDialog>
 #include <ZEMNumericKeypad>
 #include <ZEMVirtualKey>
@@ -69,6 +72,8 @@ private Q_SLOTS:
     void tilesStandInLine();
     void emptyDisplayIsOfToday();
     void keysStandTogether();
+    void answersStandApart();
+    void textsKeepTheMarginOfThePage();
 
 private:
     void look(const EnergySource &source, const QString &house);
@@ -284,6 +289,44 @@ void tst_DisplaySizes::keysStandTogether()
     auto *number = display.inputDialog<ZEMNumericKeypad>();
     QVERIFY(number);
     QVERIFY2(farthest(number) <= mostBetween, qPrintable(QString::number(farthest(number))));
+}
+
+void tst_DisplaySizes::answersStandApart()
+{
+    constexpr int finger = 40; // pixels
+    const PlayedSource source;
+    PlayedDisplay display(source);
+    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    display.window.openPage(QStringLiteral("settings"));
+    QVERIFY(display.show());
+    int gap = -1;
+    display.whenOpen<ZEMDialogPopup>([&](ZEMDialogPopup *question) {
+        const auto placeOf = [question](const char *name) {
+            return placeOn(question, question->findChild<ZEMButton *>(QLatin1String(name)));
+        };
+        gap = placeOf("btnAccepted").left() - placeOf("btnRejected").right() - 1;
+        question->reset();
+    });
+    display.onPage<ZEMButton>("clear")->click();
+    QVERIFY2(gap >= finger, qPrintable(QString::number(gap)));
+}
+
+void tst_DisplaySizes::textsKeepTheMarginOfThePage()
+{
+    constexpr int margin = 16; // pixels
+    const PlayedSource source;
+    PlayedDisplay display(source);
+    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    display.window.openPage(QStringLiteral("settings"));
+    QVERIFY(display.show());
+    int left = -1;
+    display.whenOpen<ZEMDialogShowText>([&](ZEMDialogShowText *explanation) {
+        const auto *text = explanation->findChild<QTextBrowser *>();
+        left = placeOn(explanation, text->viewport()).left();
+        explanation->reset();
+    });
+    display.onPage<ZEMButton>("privacy")->click();
+    QVERIFY2(left >= margin, qPrintable(QString::number(left)));
 }
 
 int main(int argc, char *argv[])

@@ -14,7 +14,7 @@ class QWidget;
  */
 void fitDialog(QWidget *dialog, const QSize &size);
 
-/** Lets nothing of the page shine through the panels of @p dialog. */
+/** Lets nothing of the page shine through @p dialog, neither through its panels nor around them. */
 void makeSolid(QWidget *dialog);
 
 #endif
