@@ -92,7 +92,7 @@ QSize neededBy(const QLabel *label)
 /** Labels of a horizontal scale that touch, and those that stand out of it. */
 QStringList crowded(const QwtScaleWidget *scale)
 {
-    constexpr double gap = 3.0; // pixels
+    constexpr double gap = 6.0; // pixels
     const QwtScaleDraw *draw = scale->scaleDraw();
     if (draw->orientation() != Qt::Horizontal || scale->parentWidget()->size().isEmpty()) {
         return {};

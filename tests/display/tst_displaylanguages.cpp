@@ -139,6 +139,9 @@ void tst_DisplayLanguages::monthsAreToldApart()
     Language::speak(language);
     YearHistogram chart;
     chart.init();
+    chart.resize(640, 300);
+    chart.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&chart, ZemTest::hangs));
     const QwtScaleDraw *scale = chart.findChild<QwtPlot *>()->axisScaleDraw(QwtPlot::xBottom);
     QStringList months;
     for (int month = 0; month < 12; ++month) {

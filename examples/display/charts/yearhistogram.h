@@ -21,6 +21,10 @@ public:
     /** "2016", or "2015 / 2016" while the view lies across the turn of the year. */
     void updateTitle(QwtInterval interval) override;
     void initAxisRefine() override;
+
+protected:
+    /** Watches the x axis: where it gets too short for all names, every other month has one. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
 #endif
