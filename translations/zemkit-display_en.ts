@@ -1059,6 +1059,34 @@
         <source>d MMM yyyy</source>
         <translation>d MMM yyyy</translation>
     </message>
+    <message>
+        <source>ddd d MMMM</source>
+        <translation>ddd d MMMM</translation>
+    </message>
+    <message>
+        <source>t/m</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>ddd d</source>
+        <translation>ddd d</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <translation>ddd d MMM</translation>
+    </message>
+    <message>
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <translation>d MMMM</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

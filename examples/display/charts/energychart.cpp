@@ -24,6 +24,7 @@ namespace {
 
 constexpr int partOfUpper = 5; // of the height
 constexpr int partOfLower = 3;
+constexpr int lastOfWeek = 6; // days after its first
 constexpr int valueStepsOfLower = 4; // its labels would touch with more
 
 } // namespace
@@ -239,8 +240,12 @@ QString EnergyChart::headline(const QString &plain) const
         return QStringLiteral("%1\n%2").arg(ViewTexts::slotName(period, newestWindow, *picked),
                                             amounts(intervalOf(*picked)));
     }
+    // The headlines of the library are without the dots and cases that some languages have.
+    const QDate first = dateOfSlot(period, newestWindow, firstInView());
+    const QDate last = dateOfSlot(period, newestWindow, lastInView())
+                           .addDays(period == Period::Month ? lastOfWeek : 0);
     return QStringLiteral("%1\n%2").arg(
-        plain + yearOf(firstInView(), lastInView()),
+        ViewTexts::viewName(period, first, last) + yearOf(firstInView(), lastInView()),
         amounts({intervalOf(firstInView()).from, intervalOf(lastInView()).to}));
 }
 

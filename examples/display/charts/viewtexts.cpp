@@ -4,6 +4,7 @@
 #include "viewtexts.h"
 
 #include "chartvalues.h"
+#include "datetext.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -30,12 +31,69 @@ int decimalsOf(double amount, const QString &unit)
 
 QString dayText(const QDate &date)
 {
-    return QLocale().toString(date, Texts::tr("ddd d MMM yyyy"));
+    return dateText(date, Texts::tr("ddd d MMM yyyy"));
+}
+
+bool isInOneMonth(const QDate &first, const QDate &last)
+{
+    return first.month() == last.month();
+}
+
+QString rangeText(const QString &first, const QString &last)
+{
+    return QStringLiteral("%1 %2 %3").arg(first, Texts::tr("t/m"), last);
+}
+
+QString rangeOfDays(const QDate &first, const QDate &last)
+{
+    const QString to = dateText(last, Texts::tr("ddd d MMMM"));
+    if (first == last) {
+        return to;
+    }
+    return rangeText(
+        dateText(first, isInOneMonth(first, last) ? Texts::tr("ddd d") : Texts::tr("ddd d MMM")),
+        to);
+}
+
+QString weekText(const QDate &first, const QDate &last)
+{
+    return rangeText(
+        dateText(first, isInOneMonth(first, last) ? Texts::tr("d") : Texts::tr("d MMM")),
+        dateText(last, Texts::tr("d MMMM")));
+}
+
+QString monthsText(const QDate &first, const QDate &last)
+{
+    // Alone, a month is not in the case that it has beside a day.
+    const QString from = QLocale().standaloneMonthName(first.month());
+    const QString to = QLocale().standaloneMonthName(last.month());
+    if (isInOneMonth(first, last)) {
+        return from;
+    }
+    return first.addMonths(1).month() == last.month() ? QStringLiteral("%1 / %2").arg(from, to)
+                                                      : rangeText(from, to);
 }
 
 } // namespace
 
 namespace ViewTexts {
+
+QString viewName(Period period, const QDate &first, const QDate &last)
+{
+    switch (period) {
+    case Period::Day:
+        return rangeOfDays(first, last);
+    case Period::Week:
+        return weekText(first, last);
+    case Period::Month:
+        return monthsText(first, last);
+    case Period::Year:
+        break;
+    }
+    return first.year() == last.year()
+        ? QString::number(first.year())
+        : QStringLiteral("%1 / %2").arg(first.year()).arg(last.year());
+}
 
 QString slotName(Period period, const QDate &newestWindow, int slot)
 {
@@ -48,7 +106,7 @@ QString slotName(Period period, const QDate &newestWindow, int slot)
     case Period::Week:
         return dayText(date);
     case Period::Month:
-        return Texts::tr("week van %1").arg(QLocale().toString(date, Texts::tr("d MMM yyyy")));
+        return Texts::tr("week van %1").arg(dateText(date, Texts::tr("d MMM yyyy")));
     case Period::Year:
         break;
     }

@@ -18,6 +18,12 @@ namespace ViewTexts {
 /** The slot by its date: "wo 9 mrt., 14:00 – 15:00", "week van 7 mrt. 2016", "maart 2016". */
 QString slotName(Period period, const QDate &newestWindow, int slot);
 
+/**
+ * The days in view from @p first to @p last, without their year unless it is a view of years: "wo 9
+ * maart", "zo 6 t/m ma 7 maart"; "7 t/m 13 maart"; "februari / maart"; "2016".
+ */
+QString viewName(Period period, const QDate &first, const QDate &last);
+
 /** "12,3", "≥ 12,3" of which a part is not known, "–" of nothing. */
 QString number(const std::optional<Readings::Measured> &measured, int decimals);
 

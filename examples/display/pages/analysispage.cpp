@@ -3,12 +3,12 @@
 
 #include "analysispage.h"
 
+#include "datetext.h"
 #include "energysource.h"
 #include "pagelook.h"
 #include "powerplot.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <ZEMButton>
@@ -181,7 +181,7 @@ void AnalysisPage::readDay()
     isRead = true;
     isKnown = !day.isEmpty();
     powerPlot->showDay(day);
-    dateLabel->setText(QLocale().toString(shownDate, tr("ddd d MMMM yyyy")));
+    dateLabel->setText(dateText(shownDate, tr("ddd d MMMM yyyy")));
     previousDay->setEnabled(shownDate > range.first);
     nextDay->setEnabled(shownDate < range.last);
     showLegend(day);

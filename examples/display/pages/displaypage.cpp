@@ -3,13 +3,13 @@
 
 #include "displaypage.h"
 
+#include "datetext.h"
 #include "energysource.h"
 #include "pageicons.h"
 #include "pagelook.h"
 
 #include <QFontMetrics>
 #include <QLabel>
-#include <QLocale>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <ZEMAnimatedArrows>
@@ -180,8 +180,7 @@ DateRange DisplayPage::dates() const
 
 QString DisplayPage::dayName(const QDate &date) const
 {
-    return date == shownSource.now().date() ? tr("vandaag")
-                                            : QLocale().toString(date, tr("d MMM yyyy"));
+    return date == shownSource.now().date() ? tr("vandaag") : dateText(date, tr("d MMM yyyy"));
 }
 
 void DisplayPage::showNow()
@@ -198,7 +197,6 @@ void DisplayPage::showNow()
 /** What is told of the time, the best first; the last is the shortest. */
 QStringList DisplayPage::timeTexts(const QDateTime &now) const
 {
-    const QLocale locale;
     // Beside the long names of days and months there is no room for more.
     const QString inShort = tr("ddd d MMM yyyy, HH:mm");
     const std::optional<qint64> last =
@@ -207,18 +205,16 @@ QStringList DisplayPage::timeTexts(const QDateTime &now) const
         const QDateTime then =
             QDateTime::fromSecsSinceEpoch(*last, shownSource.household().timeZone);
         const QString text = tr("stand van %1");
-        return {text.arg(locale.toString(then, inShort)),
-                text.arg(locale.toString(then, tr("d MMM yyyy"))),
-                text.arg(locale.toString(then, tr("d-M-yyyy")))};
+        return {text.arg(dateText(then, inShort)), text.arg(dateText(then, tr("d MMM yyyy"))),
+                text.arg(dateText(then, tr("d-M-yyyy")))};
     }
     if (shownSource.isSimulated()) {
         const QString text = tr("simulatie, %1");
-        return {text.arg(locale.toString(now, inShort)),
-                text.arg(locale.toString(now, tr("d MMM, HH:mm"))),
-                text.arg(locale.toString(now, tr("HH:mm")))};
+        return {text.arg(dateText(now, inShort)), text.arg(dateText(now, tr("d MMM, HH:mm"))),
+                text.arg(dateText(now, tr("HH:mm")))};
     }
-    return {locale.toString(now, tr("dddd d MMMM yyyy, HH:mm")), locale.toString(now, inShort),
-            locale.toString(now, tr("ddd d MMM, HH:mm"))};
+    return {dateText(now, tr("dddd d MMMM yyyy, HH:mm")), dateText(now, inShort),
+            dateText(now, tr("ddd d MMM, HH:mm"))};
 }
 
 /** The width between the buttons of the header. */

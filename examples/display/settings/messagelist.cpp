@@ -3,14 +3,15 @@
 
 #include "messagelist.h"
 
-#include <QLocale>
+#include "datetext.h"
+
 #include <algorithm>
 
 namespace {
 
 QString timeText(const QDateTime &when)
 {
-    return QLocale().toString(when, MessageList::tr("d MMM HH:mm"));
+    return dateText(when, MessageList::tr("d MMM HH:mm"));
 }
 
 } // namespace
