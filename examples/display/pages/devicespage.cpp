@@ -108,10 +108,12 @@ void DevicesPage::showProduction(const std::optional<double> &watts)
     if (!solar && watts && most > 0.0) {
         solar = new ZEMCurrentStatusDetailsItem;
         solar->setIcon(DeviceIcons::solar());
+        solar->layout()->setSpacing(iconSpacing);
         details->addProductionItem(solar);
-        solar->setShowArrows(true);
     }
     if (solar) {
+        // Arrows that stand still are not seen, but would keep the power away from the sun.
+        solar->setShowArrows(watts.value_or(0.0) > 0.0);
         solar->setMaxValue(most);
         solar->setValue(watts.value_or(0.0));
         solar->setValid(watts.has_value());
