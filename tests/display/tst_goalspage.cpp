@@ -28,6 +28,7 @@ private Q_SLOTS:
     void oldReadingsAreNotOfToday();
     void contractTellsWhatTodayCosts();
     void profileIsChosenByATap();
+    void profilesBeginWhereTheGoalDoes();
     void yearGoalIsTyped();
     void yearGoalOfNothingIsRefused();
 
@@ -116,6 +117,17 @@ void tst_GoalsPage::profileIsChosenByATap()
     QVERIFY(profiles().at(2)->isChecked());
     auto *bar = display->window.currentWidget()->findChild<ZEMBarIndicator *>();
     QCOMPARE(bar->getMaxValue(), 0.25 * 3500 / 365.25);
+}
+
+void tst_GoalsPage::profilesBeginWhereTheGoalDoes()
+{
+    constexpr int marginOfField = 12; // pixels
+    const auto buttons = profiles();
+    QCOMPARE(buttons.size(), 3);
+    for (const ZEMProfileButton *profile : buttons) {
+        const auto *name = profile->findChild<QWidget *>(QStringLiteral("lblTitle"));
+        QCOMPARE(name->mapTo(profile, QPoint(0, 0)).x(), marginOfField);
+    }
 }
 
 void tst_GoalsPage::yearGoalIsTyped()

@@ -25,6 +25,7 @@
 namespace {
 
 constexpr int cardGap = 14; // pixels
+constexpr QMargins profileMargins(12, 0, 6, 0); // pixels
 constexpr int barHeight = 18;
 constexpr int barLine = 3;
 constexpr QSize starsSize(100, 84);
@@ -153,6 +154,9 @@ QWidget *GoalsPage::makeProfiles()
     for (const Profile profile : {Profile::Home, Profile::Away, Profile::Holiday}) {
         auto *button = new ZEMProfileButton;
         button->setTitle(nameOf(profile));
+        // A profile has no icon, and its name begins where the text of a field does.
+        button->findChild<QWidget *>(QStringLiteral("widget"))->hide();
+        button->layout()->setContentsMargins(profileMargins);
         group->addButton(button);
         rows->addWidget(button);
         profiles[profile] = button;
