@@ -92,8 +92,11 @@ QSize neededBy(const QLabel *label)
 /** Labels of a horizontal scale that touch, and those that stand out of it. */
 QStringList crowded(const QwtScaleWidget *scale)
 {
-    constexpr double gap = 6.0; // pixels
+    constexpr int daysOfWeek = 7;
     const QwtScaleDraw *draw = scale->scaleDraw();
+    // A row of many names reads as one where seven are still apart; in pixels.
+    const bool isLongRow = draw->scaleDiv().ticks(QwtScaleDiv::MajorTick).size() > daysOfWeek;
+    const double gap = isLongRow ? 6.0 : 3.0;
     if (draw->orientation() != Qt::Horizontal || scale->parentWidget()->size().isEmpty()) {
         return {};
     }
