@@ -17,6 +17,7 @@
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QTemporaryDir>
+#include <QTimeZone>
 #include <cstdlib>
 
 namespace {
@@ -25,7 +26,7 @@ constexpr QSize screen(640, 480);
 
 qint64 springNoon()
 {
-    return QDateTime(QDate(2026, 4, 16), QTime(10, 20), Qt::UTC).toMSecsSinceEpoch();
+    return QDateTime(QDate(2026, 4, 16), QTime(10, 20), QTimeZone::utc()).toMSecsSinceEpoch();
 }
 
 bool photograph(DisplayWindow *display, const QString &file)
