@@ -336,7 +336,6 @@ QStringList cutTexts(const QWidget *window)
 
 QStringList cutLabels(const QWidget *window)
 {
-    constexpr double free = 0.3; // pixels without ink; one, but for what a scaled screen rounds
     QStringList faults;
     for (const QWidget *widget : seenIn(window)) {
         const auto *scale = qobject_cast<const QwtScaleWidget *>(widget);
@@ -347,7 +346,7 @@ QStringList cutLabels(const QWidget *window)
         const double below = scale->height() - ink.bottom();
         // A horizontal scale begins with its ticks.
         const bool isVertical = scale->scaleDraw()->orientation() == Qt::Vertical;
-        if (!ink.isEmpty() && (below < free || (isVertical && ink.top() < free))) {
+        if (!ink.isEmpty() && (below < 0.0 || (isVertical && ink.top() < 0.0))) {
             faults << QStringLiteral("%1: ink from %2 to %3 of %4")
                           .arg(nameOf(scale))
                           .arg(ink.top())

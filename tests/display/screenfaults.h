@@ -19,7 +19,7 @@ QStringList outside(const QWidget *window);
 QStringList overlaps(const QWidget *window);
 /** Texts without the room they need; of a scale those that touch as well. */
 QStringList cutTexts(const QWidget *window);
-/** Labels of scales with ink at the edge of the scale, or beyond it, where it is cut. */
+/** Labels of scales with ink beyond the scale, where it is cut. */
 QStringList cutLabels(const QWidget *window);
 /** Texts that end in "…", and items of lists and tables that will when they are painted. */
 QStringList elidedTexts(const QWidget *window);
