@@ -64,10 +64,8 @@ void MonthsTable::show(const Readings::Household &household)
     for (const QDate &month : Costs::monthsOf(household)) {
         QStringList cells;
         for (const Quantity quantity : quantities) {
-            cells.append(ViewTexts::number(
-                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month),
-                                             household.readUntil()),
-                decimalsOf(quantity)));
+            cells.append(ViewTexts::number(household.measured(quantity, calendar.month(month)),
+                                           decimalsOf(quantity)));
         }
         rows.push_back({month, cells});
     }

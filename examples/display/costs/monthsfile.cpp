@@ -130,9 +130,7 @@ QByteArray MonthsFile::row(const QDate &month) const
     Row row(month);
     const Readings::Calendar calendar(household.timeZone);
     for (const Quantity quantity : amounts) {
-        row.add(amountColumn(quantity),
-                Readings::Calendar::measured(household.metersOf(quantity), calendar.month(month),
-                                             household.readUntil()));
+        row.add(amountColumn(quantity), household.measured(quantity, calendar.month(month)));
     }
     if (rules) {
         const MonthCosts paid = costsOfMonth(household, *rules, month);

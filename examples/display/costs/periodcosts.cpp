@@ -109,8 +109,7 @@ Cost ofStretch(const Household &household, const CostRules &rules, Quantity quan
                const Interval &stretch, const Contract *contract)
 {
     Cost cost;
-    const std::optional<Measured> measured =
-        Calendar::measured(household.metersOf(quantity), stretch, household.readUntil());
+    const std::optional<Measured> measured = household.measured(quantity, stretch);
     const Rate *rate = contract ? contract->rateOf(quantity) : nullptr;
     if (!rate) {
         if (measured && thousandthsOf(measured->amount) > 0) {

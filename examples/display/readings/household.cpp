@@ -3,6 +3,8 @@
 
 #include "household.h"
 
+#include "calendar.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -191,6 +193,11 @@ double Household::total(Quantity quantity, const Interval &interval) const
         sum += meter->total(interval);
     }
     return sum;
+}
+
+std::optional<Measured> Household::measured(Quantity quantity, const Interval &slot) const
+{
+    return Calendar::measured(metersOf(quantity), slot, readUntil());
 }
 
 double Household::total(Quantity quantity) const

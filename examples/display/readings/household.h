@@ -84,6 +84,8 @@ public:
     double total(Quantity quantity, const Interval &interval) const;
     /** All that was ever counted of a quantity. */
     double total(Quantity quantity) const;
+    /** What was measured of a quantity until now, and whether that is all, see Calendar. */
+    std::optional<Measured> measured(Quantity quantity, const Interval &slot) const;
 
     /** Whether the house gave electricity to the grid, ever. */
     bool delivers() const;

@@ -50,8 +50,7 @@ int starsFor(double used, double budget)
 std::optional<Readings::Measured> takenOn(const Readings::Household &household, const QDate &date)
 {
     const Readings::Calendar calendar(household.timeZone);
-    return Readings::Calendar::measured(household.metersOf(Readings::Quantity::GridImport),
-                                        calendar.day(date), household.readUntil());
+    return household.measured(Readings::Quantity::GridImport, calendar.day(date));
 }
 
 } // namespace Budget
