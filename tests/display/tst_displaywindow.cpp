@@ -15,7 +15,6 @@
 #include <QTimer>
 #include <ZEMAnimatedArrows>
 #include <ZEMButton>
-#include <ZEMCurrentStatusDetailsItem>
 #include <ZEMCurrentStatusWidget>
 #include <ZEMDialogPopup>
 #include <ZEMHistogram>
@@ -81,7 +80,6 @@ private Q_SLOTS:
     void idleDisplaySleeps();
     void hiddenFlowsSleep_data();
     void hiddenFlowsSleep();
-    void powerOfTheSunStandsBesideIt();
     void lostMeterShowsAQuestionMark();
     void powerThatNoMeterTellsIsADash_data();
     void powerThatNoMeterTellsIsADash();
@@ -474,29 +472,6 @@ void tst_DisplayWindow::hiddenFlowsSleep_data()
                                           << "standby";
     QTest::newRow("of the devices") << "devices"
                                     << "charts";
-}
-
-void tst_DisplayWindow::powerOfTheSunStandsBesideIt()
-{
-    constexpr int mostBetween = 8; // pixels
-    source->count(Quantity::GridImport, 3);
-    source->count(Quantity::SolarProduction, 3);
-    source->report = PowerReport {300.0, 300.0, 0.0, {}};
-    PlayedDisplay display(*source);
-    display.window.openPage(QStringLiteral("devices"));
-    QVERIFY(display.show());
-    const auto *sun = display.window.currentWidget()->findChild<ZEMCurrentStatusDetailsItem *>();
-    QVERIFY(sun);
-    const auto between = [sun] {
-        return sun->findChild<QWidget *>(QStringLiteral("label"))->x()
-            - sun->findChild<QWidget *>(QStringLiteral("zemPixmapFront"))->geometry().right();
-    };
-    QTRY_VERIFY2(between() > 0 && between() <= mostBetween, qPrintable(QString::number(between())));
-    QVERIFY(!sun->getShowArrows());
-
-    source->report = PowerReport {-300.0, 300.0, 600.0, {}};
-    Q_EMIT source->powerChanged();
-    QVERIFY(sun->getShowArrows());
 }
 
 void tst_DisplayWindow::hiddenFlowsSleep()
