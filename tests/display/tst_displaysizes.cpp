@@ -254,15 +254,21 @@ void tst_DisplaySizes::emptyDisplayIsOfToday()
     expectNone(texts.filter(QStringLiteral("1970")) + texts.filter(QStringLiteral("1969")));
 }
 
+/** Shows the page of settings, as large as the screen. */
+static bool showSettings(PlayedDisplay *display)
+{
+    display->window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
+    display->window.openPage(QStringLiteral("settings"));
+    return display->show();
+}
+
 /** However high the screen is. */
 void tst_DisplaySizes::keysStandTogether()
 {
     constexpr int mostBetween = 20; // pixels from one row to the next
     const PlayedSource source;
     PlayedDisplay display(source);
-    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
-    display.window.openPage(QStringLiteral("settings"));
-    QVERIFY(display.show());
+    QVERIFY(showSettings(&display));
     const auto farthest = [&](const QWidget *dialog) {
         QList<int> tops;
         int height = 0;
@@ -296,9 +302,7 @@ void tst_DisplaySizes::answersStandApart()
     constexpr int finger = 40; // pixels
     const PlayedSource source;
     PlayedDisplay display(source);
-    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
-    display.window.openPage(QStringLiteral("settings"));
-    QVERIFY(display.show());
+    QVERIFY(showSettings(&display));
     int gap = -1;
     display.whenOpen<ZEMDialogPopup>([&](ZEMDialogPopup *question) {
         const auto placeOf = [question](const char *name) {
@@ -316,9 +320,7 @@ void tst_DisplaySizes::textsKeepTheMarginOfThePage()
     constexpr int margin = 16; // pixels
     const PlayedSource source;
     PlayedDisplay display(source);
-    display.window.setFixedSize(DisplayScale::pageSizeOn(screenSize()));
-    display.window.openPage(QStringLiteral("settings"));
-    QVERIFY(display.show());
+    QVERIFY(showSettings(&display));
     int left = -1;
     display.whenOpen<ZEMDialogShowText>([&](ZEMDialogShowText *explanation) {
         const auto *text = explanation->findChild<QTextBrowser *>();
