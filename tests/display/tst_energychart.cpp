@@ -33,6 +33,7 @@ private Q_SLOTS:
     void headlineTellsTheYearUnlessItIsThePresentOne();
     void tappedBarTellsItsSlotUntilTheNextTouch();
     void pickedBarIsPaintedOnTheScreen();
+    void barOfAMeterThatFellSilentIsPaintedOnTheScreen();
     void valueAxisFitsThePeriodInView();
     void dayEndsAtTwentyFour();
 
@@ -203,6 +204,28 @@ void tst_EnergyChart::pickedBarIsPaintedOnTheScreen()
     paints.count = 0;
     tapBar(3.0);
     ZEM_TRY_VERIFY(paints.count > 0);
+}
+
+void tst_EnergyChart::barOfAMeterThatFellSilentIsPaintedOnTheScreen()
+{
+    // A counter that is read in the middle of its last hour.
+    const qint64 end = *household.lastInstant();
+    household.meter({Quantity::Gas}, Meter::Kind::Counter).addReading(end + 1800, 30.5);
+    DateRange range = datesOf(household);
+    const auto feed = [&] {
+        chart->feed(Calendar(household.timeZone), range, firstDay.addDays(1));
+    };
+    feed();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get(), ZemTest::hangs));
+    QCoreApplication::processEvents();
+    const QColor running = barColour(chart->widget(), 8.0);
+
+    PaintCounter paints;
+    paints.watch(canvas());
+    range.readUntil = end + 7200; // by other meters
+    feed();
+    ZEM_TRY_VERIFY(paints.count > 0);
+    QVERIFY(barColour(chart->widget(), 8.0) != running);
 }
 
 void tst_EnergyChart::valueAxisFitsThePeriodInView()
